@@ -1,0 +1,1 @@
+// Anchors the library that owns the precompiled headers.

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+
+class QPrinter;
+
+/// The platform's file pickers; "" when the user cancelled. `filter` is Qt's form: "Pictures (*.png *.jpg);;All (*)".
+QString OpenFileName(const QString& title, const QString& filter);
+QString SaveFileName(const QString& title, const QString& filter, const QString& suggested);
+
+/// The printer that Page Setup and Print share for the run; made on first use.
+QPrinter& CurrentPrinter();
+
+/// The platform's print dialog over `printer`; false when cancelled or when no printer is installed.
+bool PrintDialog(QPrinter& printer);
+
+/// Page margins in thousandths of an inch, as the page setup dialog returned them.
+struct PageMargins {
+    int left = 0, top = 0, right = 0, bottom = 0;
+};
+/// Asks for orientation, paper and margins and keeps them for the next print. False when there is no printer or the
+/// user cancelled; no message in either case.
+bool ShowPageSetup(QWidget* owner, PageMargins& margins);
+
+/// Prints the picture of `window` at the top left of the page, after the print dialog. Failures are ignored.
+void PrintWindowImage(QWidget* window);
+
+/// Hands a link to the system's browser or mail program. Failures are not reported.
+void OpenLink(const QString& target);
+
+/// The commands of the help viewer that the program uses.
+enum class HelpCommand { Context = 1, Tab = 15 };
+/// Opens the help viewer. Until a viewer is installed with SetHelpViewer, says that help is unavailable.
+void OpenHelp(HelpCommand command, int data);
+/// An empty function takes the viewer out again.
+void SetHelpViewer(std::function<void(HelpCommand command, int data)> viewer);

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+/// The folder that holds the program and all it reads, without a trailing separator.
+QString ProgramFolder();
+/// Tests and tools point it elsewhere; "" brings the program's own folder back.
+void SetProgramFolder(const QString& folder);
+
+/// A path whose last separator may be "\" on any platform.
+QString NativePath(const QString& folder, const QString& file);
+
+/// True also for a folder.
+bool FileExists(const QString& path);
+/// A path in `folder` that no file has yet: a random hexadecimal name and `extension` (with its dot).
+QString MakeUniqueFileName(const QString& folder, const QString& extension);
+/// Makes a temporary file named after `prefix`; in the system's own folder when `folder` is "". Returns its path, or ""
+/// on failure.
+QString MakeTempFile(const QString& folder, const QString& prefix);
+/// The text before the first NUL, or all of it.
+QString TrimAtNull(const QString& text);

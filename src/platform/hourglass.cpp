@@ -1,0 +1,13 @@
+#include "platform/hourglass.h"
+
+#include <QApplication>
+
+Hourglass::Hourglass()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+Hourglass::~Hourglass()
+{
+    QApplication::restoreOverrideCursor();
+}

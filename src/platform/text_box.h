@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+/// A one-line text box without Qt's limit of 32767 characters. Texts keep their line ends and control characters;
+/// a length limit set with setMaxLength limits typing and pasting and cuts texts set by code.
+class TextBox : public QLineEdit {
+public:
+    explicit TextBox(QWidget* parent = nullptr);
+
+    /// Focuses the box with all its text selected.
+    void FocusAll();
+};
+
+/// A text box of several lines. Tab moves on to the next control.
+class MultiLineTextBox : public QPlainTextEdit {
+public:
+    explicit MultiLineTextBox(QWidget* parent = nullptr);
+
+    /// The text as it was set or typed; line ends that came in as CR LF go out so.
+    QString Text() const;
+    void SetText(const QString& text);
+    /// 0 for no limit. A longer text set by code is cut.
+    void SetMaxLength(int length);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    /// How many characters may still come in, those selected being replaced.
+    int Room() const;
+    QString WithLineEnds(QString text) const;
+
+    int m_maxLength = 0;
+    QString m_textAsSet;
+    bool m_crLf = false;
+};

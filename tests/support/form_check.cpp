@@ -1,0 +1,153 @@
+#include "support/form_check.h"
+
+#include "platform/flex_grid.h"
+#include "support/screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTest>
+
+#include <set>
+
+namespace {
+std::string NameOf(const QWidget* control)
+{
+    return control ? control->objectName().toStdString() : "nothing";
+}
+
+QString Caption(const QWidget* control)
+{
+    if (auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->text();
+    if (auto* label = qobject_cast<const QLabel*>(control))
+        return label->text();
+    if (auto* box = qobject_cast<const QGroupBox*>(control))
+        return box->title();
+    return QString();
+}
+
+QRect AreaIn(const QWidget* screen, const QWidget* control)
+{
+    return {control->mapTo(screen, QPoint()), control->size()};
+}
+
+void CheckPlace(const QWidget* screen, const QWidget* control)
+{
+    EXPECT_TRUE(control->isVisible()) << NameOf(control) << " is not laid out";
+    if (!control->isVisible())
+        return;
+    EXPECT_TRUE(screen->rect().contains(AreaIn(screen, control))) << NameOf(control) << " reaches out of the form";
+    const QSize needed = control->minimumSizeHint();
+    EXPECT_TRUE(control->width() >= needed.width() && control->height() >= needed.height())
+        << NameOf(control) << " is cut off: " << control->width() << 'x' << control->height() << " for "
+        << needed.width() << 'x' << needed.height();
+}
+
+void CheckOverlaps(const QWidget* screen, const QList<QWidget*>& controls)
+{
+    for (const QWidget* one : controls)
+        for (const QWidget* other : controls)
+            if (one < other && one->isVisible() && other->isVisible() && !one->isAncestorOf(other)
+                && !other->isAncestorOf(one)) {
+                EXPECT_FALSE(AreaIn(screen, one).intersects(AreaIn(screen, other)))
+                    << NameOf(one) << " and " << NameOf(other) << " overlap";
+            }
+}
+
+void CheckName(const QWidget* control)
+{
+    if (control->focusPolicy() == Qt::NoFocus)
+        return;
+    EXPECT_FALSE(Caption(control).isEmpty() && control->accessibleName().isEmpty())
+        << NameOf(control) << " has neither a caption nor an accessible name";
+}
+
+void CheckMnemonics(const QWidget* screen)
+{
+    std::set<QString> taken;
+    for (const QWidget* widget : screen->findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        if (auto* label = qobject_cast<const QLabel*>(widget); label && !label->buddy())
+            continue;
+        const QKeySequence key = QKeySequence::mnemonic(Caption(widget));
+        if (key.isEmpty())
+            continue;
+        EXPECT_TRUE(taken.insert(key.toString()).second)
+            << qPrintable(key.toString()) << " is taken twice, also by " << qPrintable(Caption(widget));
+    }
+}
+
+bool TakesTab(const QWidget* control)
+{
+    return control->isVisible() && control->isEnabled() && control->focusPolicy() & Qt::TabFocus;
+}
+
+bool HasOwnParts(const QWidget* control, const QList<QWidget*>& controls)
+{
+    for (QWidget* part : control->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (TakesTab(part) && !controls.contains(part))
+            return true;
+    return false;
+}
+
+/// The declared control that `widget` is, or is a part of.
+QWidget* DeclaredAround(QWidget* widget, const QList<QWidget*>& controls)
+{
+    if (!TakesTab(widget))
+        return nullptr;
+    while (widget && !controls.contains(widget))
+        widget = widget->parentWidget();
+    return widget;
+}
+
+void CheckTabOrder(QWidget* screen, const QList<QWidget*>& controls)
+{
+    QStringList declared, walked;
+    for (QWidget* control : controls)
+        if (TakesTab(control) || HasOwnParts(control, controls))
+            declared.append(control->objectName());
+    if (declared.isEmpty())
+        return;
+    QWidget* widget = screen;
+    do {
+        QWidget* control = DeclaredAround(widget, controls);
+        if (control && screen->isAncestorOf(control) && !walked.contains(control->objectName()))
+            walked.append(control->objectName());
+        widget = widget->nextInFocusChain();
+    } while (widget != screen);
+    // The chain is a ring: it may be entered anywhere, but its order stands.
+    while (walked.contains(declared.front()) && walked.front() != declared.front())
+        walked.append(walked.takeFirst());
+    EXPECT_EQ(walked.join(u' ').toStdString(), declared.join(u' ').toStdString()) << "tab order";
+}
+} // namespace
+
+void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut)
+{
+    if (!screen->window()->isVisible())
+        Shown(screen->window());
+    QList<QWidget*> seen;
+    for (QWidget* control : controls)
+        if (!leftOut.contains(control->objectName()))
+            seen.append(control);
+    for (const QWidget* control : seen) {
+        CheckPlace(screen, control);
+        CheckName(control);
+    }
+    CheckOverlaps(screen, seen);
+    CheckMnemonics(screen);
+    CheckTabOrder(screen, seen);
+}
+
+QStringList ControlNames(const QList<QWidget*>& controls)
+{
+    QStringList names;
+    for (const QWidget* control : controls)
+        names.append(QStringLiteral("%1 %2").arg(control->objectName(), Caption(control)).trimmed());
+    return names;
+}

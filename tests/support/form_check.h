@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+/// Holds a form or panel that is shown against what every screen owes its user: each control laid out, inside the form,
+/// not cut off and not under another; each with a visible text or an accessible name; labels with a mnemonic or a
+/// following field have their buddy; the tab order is the order of declaration; no mnemonic twice. Controls in
+/// `leftOut` are hidden on purpose.
+void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut);
+
+/// Shows the form and checks it.
+template <typename FormClass>
+void CheckForm(FormClass& form, const QStringList& leftOut = {})
+{
+    CheckScreen(&form, form.Controls(), leftOut);
+}
+
+/// The names and captions of the controls in order of declaration: "cmdOK &OK".
+QStringList ControlNames(const QList<QWidget*>& controls);

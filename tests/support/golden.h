@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/report_layout.h"
+#include "platform/report_text.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+/// The whole report as text, page by page and section by section, on an A4 sheet unless told otherwise.
+inline QString ReportText(const Report& report, ReportPaper paper = {})
+{
+    ReportLayout layout(report, paper);
+    QString text = report.title + "\n";
+    for (int page = 0; layout.HasPage(page); ++page)
+        text += QStringLiteral("=== page %1\n").arg(page + 1) + PageText(layout.Page(page));
+    return text;
+}
+
+/// Compares a text with a file of the folder's golden files. With TAVRIN_WRITE_GOLDEN set the file is written anew.
+inline void ExpectGolden(const QString& text, const char* name)
+{
+    QFile file(QStringLiteral(GOLDEN_FOLDER "/") + name);
+    if (qEnvironmentVariableIsSet("TAVRIN_WRITE_GOLDEN")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+        return;
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file " << name;
+    EXPECT_EQ(text.toStdString(), file.readAll().toStdString());
+}
