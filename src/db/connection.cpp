@@ -1,0 +1,101 @@
+#include "db/connection.h"
+
+#include "db/connection_private.h"
+#include "db/database_file.h"
+#include "db/engine_errors.h"
+#include "db/engine_functions.h"
+#include "db/recordset_private.h"
+#include "platform/guard.h"
+
+#include <sqlite3.h>
+
+Connection* gConnection = nullptr;
+
+ConnectionPrivate::~ConnectionPrivate()
+{
+    Close();
+}
+
+void ConnectionPrivate::RequireOpen() const
+{
+    if (handle == nullptr || ProgramHasEnded())
+        throw ObjectClosedError();
+}
+
+void ConnectionPrivate::RunPlain(const char* sql) const
+{
+    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw EngineError(handle);
+}
+
+void ConnectionPrivate::Close()
+{
+    cache.Clear();
+    // Cursors that are still open lose their statements, so that nothing holds the file afterwards.
+    while (!live.empty())
+        (*live.begin())->Finalize();
+    sqlite3_close(handle);
+    handle = nullptr;
+    openBatches = 0;
+}
+
+Connection::Connection()
+    : d(std::make_unique<ConnectionPrivate>())
+{
+}
+
+Connection::~Connection() = default;
+
+void Connection::Open(const QString& path)
+{
+    d->Close();
+    d->handle = OpenDatabaseFile(path, FileUse::ReadAndWrite);
+    d->path = path;
+    RegisterEngineFunctions(d->handle);
+}
+
+void Connection::OpenReadOnly(const QString& path)
+{
+    d->Close();
+    d->handle = OpenDatabaseFile(path, FileUse::ReadOnly);
+    d->path = path;
+    RegisterEngineFunctions(d->handle);
+}
+
+void Connection::Close()
+{
+    d->Close();
+}
+
+bool Connection::IsOpen() const
+{
+    return d->handle != nullptr;
+}
+
+QString Connection::Path() const
+{
+    return d->path;
+}
+
+Recordset Connection::Execute(const Sql& sql)
+{
+    return Execute(sql.Filled());
+}
+
+Recordset Connection::Execute(const char* statement)
+{
+    return Execute(QString::fromUtf8(statement));
+}
+
+Recordset Connection::Execute(const QString& statement)
+{
+    d->RequireOpen();
+    ReadStatement(statement, d->shape);
+    std::shared_ptr<PreparedStatement> prepared = d->cache.Statement(d->handle, d->shape);
+    if (!prepared->Meaning().columnNames.empty())
+        return Recordset(std::make_unique<RecordsetPrivate>(std::move(prepared), std::move(d->shape.literals)));
+    prepared->Bind(d->shape.literals);
+    prepared->Step();
+    prepared->Release();
+    return Recordset();
+}

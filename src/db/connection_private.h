@@ -1,0 +1,30 @@
+#pragma once
+
+#include "db/prepared_statement.h"
+#include "db/statement_cache.h"
+
+#include <QString>
+
+struct sqlite3;
+
+/// What the files of this folder share of a connection.
+class ConnectionPrivate {
+public:
+    ConnectionPrivate() = default;
+    ~ConnectionPrivate();
+    ConnectionPrivate(const ConnectionPrivate&) = delete;
+    ConnectionPrivate& operator=(const ConnectionPrivate&) = delete;
+
+    /// Throws RuntimeError when the connection is closed or the program has ended.
+    void RequireOpen() const;
+    /// Runs one of the engine's own statements. Throws RuntimeError when it fails.
+    void RunPlain(const char* sql) const;
+    void Close();
+
+    sqlite3* handle = nullptr;
+    QString path;
+    LiveStatements live;
+    StatementCache cache{live};
+    StatementShape shape; ///< kept from statement to statement for its memory
+    int openBatches = 0;
+};

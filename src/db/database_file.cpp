@@ -1,0 +1,94 @@
+#include "db/database_file.h"
+
+#include "db/engine_errors.h"
+
+#include <QFileInfo>
+
+#include <memory>
+
+#include <sqlite3.h>
+
+namespace {
+
+constexpr int BusyMilliseconds = 5000;
+
+struct HandleCloser {
+    void operator()(sqlite3* handle) const { sqlite3_close(handle); }
+};
+using Handle = std::unique_ptr<sqlite3, HandleCloser>;
+
+void RequireFile(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.exists())
+        throw RuntimeError(GeneralFailure, QStringLiteral("Could not find file '%1'.").arg(path));
+    if (!file.isFile())
+        throw CannotOpen(path, QStringLiteral("It is not a file."));
+    // The engine would take an empty file for a new database.
+    if (file.size() == 0)
+        throw CannotOpen(path, QStringLiteral("Unrecognized database format."));
+}
+
+Handle OpenHandle(const QString& path, FileUse use)
+{
+    // The program has one thread: the engine's locks would cost a sixth of a list's fill.
+    const int flags = SQLITE_OPEN_NOMUTEX | (use == FileUse::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+    sqlite3* handle = nullptr;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
+    Handle owner(handle);
+    if (code != SQLITE_OK)
+        throw CannotOpen(path, QStringLiteral("You may lack the rights to read or write it."));
+    // Without the right to write the engine opens for reading without a word.
+    if (use == FileUse::ReadAndWrite && sqlite3_db_readonly(handle, "main") == 1)
+        throw CannotOpen(path, QStringLiteral("It is read-only."));
+    // Each write makes a journal beside the file for its time.
+    if (use == FileUse::ReadAndWrite && !QFileInfo(QFileInfo(path).absolutePath()).isWritable())
+        throw CannotOpen(path, QStringLiteral("Its folder is read-only."));
+    return owner;
+}
+
+void Run(const QString& path, sqlite3* handle, const char* sql)
+{
+    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw CannotOpen(path, EngineError(handle).Description());
+}
+
+qint64 Number(const QString& path, sqlite3* handle, const char* sql)
+{
+    qint64 number = 0;
+    const auto read = [](void* out, int, char** fields, char**) {
+        *static_cast<qint64*>(out) = QByteArray(fields[0]).toLongLong();
+        return 0;
+    };
+    if (sqlite3_exec(handle, sql, read, &number, nullptr) != SQLITE_OK)
+        throw CannotOpen(path, EngineError(handle).Description());
+    return number;
+}
+
+/// Reading a page count rolls back what a killed process left, so that the sizes tell the truth.
+void RequireWhole(const QString& path, sqlite3* handle)
+{
+    Number(path, handle, "SELECT count(*) FROM sqlite_schema");
+    const qint64 size = Number(path, handle, "PRAGMA page_count") * Number(path, handle, "PRAGMA page_size");
+    if (QFileInfo(path).size() < size)
+        throw CannotOpen(path, QStringLiteral("The file is cut short."));
+}
+
+} // namespace
+
+sqlite3* OpenDatabaseFile(const QString& path, FileUse use)
+{
+    RequireFile(path);
+    Handle handle = OpenHandle(path, use);
+    sqlite3_extended_result_codes(handle.get(), 1);
+    sqlite3_busy_timeout(handle.get(), BusyMilliseconds);
+    // A name in double quotes that is no column is a mistake, not a text.
+    sqlite3_db_config(handle.get(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    RequireWhole(path, handle.get());
+    if (use == FileUse::ReadAndWrite)
+        Run(path, handle.get(), "PRAGMA journal_mode = DELETE");
+    Run(path, handle.get(), "PRAGMA synchronous = FULL");
+    Run(path, handle.get(), "PRAGMA temp_store = MEMORY");
+    Run(path, handle.get(), "PRAGMA cache_size = -32000");
+    return handle.release();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+struct sqlite3;
+
+enum class FileUse { ReadAndWrite, ReadOnly };
+
+/// Opens an existing database file whole and sound. Throws RuntimeError with the reason when it is missing, is a
+/// folder, lacks rights, is no database or is cut short; creates nothing.
+sqlite3* OpenDatabaseFile(const QString& path, FileUse use);

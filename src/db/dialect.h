@@ -1,0 +1,43 @@
+#pragma once
+
+#include "db/value.h"
+
+#include <QString>
+
+#include <string>
+#include <variant>
+#include <vector>
+
+/// The system's SQL dialect, read in one pass without allocation to speak of: the statement's shape (its text with
+/// every literal replaced by a mark) and the literals in order. Statements of one shape share one prepared statement.
+
+struct DateLiteral {
+    std::string iso; ///< yyyy-MM-dd HH:mm:ss
+};
+using Literal = std::variant<qint64, double, std::string, DateLiteral>;
+
+/// The marks that stand for literals in a shape: each tells what a translation depends on.
+enum class LiteralMark : char { Whole = 1, Fraction = 2, AsciiText = 3, OtherText = 4, Date = 5 };
+
+struct StatementShape {
+    std::string text; ///< the key of the statement cache
+    std::vector<Literal> literals;
+};
+
+/// Splits a statement into its shape and its literals. Throws RuntimeError for text that is no statement of the
+/// dialect: an open quote, a bad date, a parameter sign, text behind the end.
+void ReadStatement(const QString& statement, StatementShape& shape);
+
+/// What a literal becomes when it is bound: as it is, or brought to the kind of the column it is assigned to.
+enum class Coercion { None, Text, Long, Double, Money, Boolean, Date };
+
+struct Translation {
+    std::string sql; ///< for the engine, with `?1`, `?2` ... for the literals
+    std::vector<Coercion> coercions; ///< one a literal
+    std::vector<std::string> columnNames; ///< of the result, as the system names them; empty but for a SELECT
+    std::vector<Value::Kind> columnKinds; ///< one a name; Null for a column without a kind of its own
+};
+
+/// Translates a shape into the engine's own SQL: `[x]`, dates, booleans, TOP n with its ties, month(), LIKE, joins and
+/// the names of result columns. Throws RuntimeError with the dialect's own messages.
+Translation Translate(const StatementShape& shape);

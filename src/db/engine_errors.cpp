@@ -1,0 +1,161 @@
+#include "db/engine_errors.h"
+
+#include <sqlite3.h>
+
+namespace {
+
+QString Message(sqlite3* handle)
+{
+    return QString::fromUtf8(sqlite3_errmsg(handle));
+}
+
+QString GeneralText(sqlite3* handle, int code)
+{
+    if (code == SQLITE_READONLY_DBMOVED)
+        return QStringLiteral("The database file was moved or deleted while it was open.");
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return QStringLiteral("There is not enough space on the disk.");
+    case SQLITE_READONLY:
+        return QStringLiteral("Cannot update. Database or object is read-only.");
+    case SQLITE_IOERR:
+        return QStringLiteral("Disk or network error.");
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("Could not update; the database is in use by another program.");
+    case SQLITE_NOTADB:
+        return QStringLiteral("Unrecognized database format.");
+    case SQLITE_CORRUPT:
+        return QStringLiteral("The database is damaged: %1.").arg(Message(handle));
+    default:
+        return Message(handle);
+    }
+}
+
+RuntimeError ConstraintError(sqlite3* handle, int code)
+{
+    if (code == SQLITE_CONSTRAINT_CHECK)
+        return {TooLongFailure,
+            QStringLiteral("The field is too small to accept the amount of data you attempted to add. Try inserting or "
+                           "pasting less data.")};
+    if (code == SQLITE_CONSTRAINT_UNIQUE || code == SQLITE_CONSTRAINT_PRIMARYKEY || code == SQLITE_CONSTRAINT_ROWID)
+        return {GeneralFailure,
+            QStringLiteral("The changes you requested to the table were not successful because they would create "
+                           "duplicate values in the index, primary key, or relationship.")};
+    return {GeneralFailure, Message(handle)};
+}
+
+/// A failure while a statement is prepared, of a file that lacks what the program expects.
+RuntimeError StatementError(sqlite3* handle)
+{
+    const QString message = Message(handle);
+    const QString noTable = QStringLiteral("no such table: ");
+    if (message.startsWith(noTable))
+        return UnknownTableError(QStringView(message).mid(noTable.size()));
+    if (message.startsWith(QLatin1String("no such column")))
+        return UnknownNameError();
+    // The words of our own functions; the engine has no numbers for them.
+    if (message == Overflow().Description() || message == QLatin1String("integer overflow"))
+        return NumericOverflowError();
+    if (message == TypeMismatch().Description())
+        return CriteriaMismatchError();
+    return {SyntaxFailure, message};
+}
+
+} // namespace
+
+RuntimeError EngineError(sqlite3* handle)
+{
+    const int code = sqlite3_extended_errcode(handle);
+    switch (code & 0xff) {
+    case SQLITE_ERROR:
+        return StatementError(handle);
+    case SQLITE_CONSTRAINT:
+        return ConstraintError(handle, code);
+    default:
+        return {GeneralFailure, GeneralText(handle, code)};
+    }
+}
+
+RuntimeError CannotOpen(const QString& path, const QString& reason)
+{
+    return {GeneralFailure, QStringLiteral("Could not open file '%1'. %2").arg(path, reason)};
+}
+
+RuntimeError UnknownNameError()
+{
+    return {UnknownNameFailure, QStringLiteral("No value given for one or more required parameters.")};
+}
+
+RuntimeError UnknownTableError(QStringView table)
+{
+    return {UnknownTableFailure,
+        QStringLiteral(
+            "The database engine cannot find the input table or query '%1'. Make sure it exists and that its "
+            "name is spelled correctly.")
+            .arg(table)};
+}
+
+RuntimeError AmbiguousNameError(QStringView field)
+{
+    return {SyntaxFailure,
+        QStringLiteral("The specified field '%1' could refer to more than one table listed in the FROM clause of your "
+                       "SQL statement.")
+            .arg(field)};
+}
+
+RuntimeError CriteriaMismatchError()
+{
+    return {TypeMismatchFailure, QStringLiteral("Data type mismatch in criteria expression.")};
+}
+
+RuntimeError FieldMismatchError()
+{
+    return {FieldTypeFailure, QStringLiteral("Type mismatch.")};
+}
+
+RuntimeError NumericOverflowError()
+{
+    return {SyntaxFailure, QStringLiteral("Numeric field overflow.")};
+}
+
+RuntimeError NoCurrentRecordError()
+{
+    return {NoCurrentRecord,
+        QStringLiteral(
+            "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires "
+            "a current record.")};
+}
+
+RuntimeError UnknownFieldError()
+{
+    return {UnknownField,
+        QStringLiteral("Item cannot be found in the collection corresponding to the requested name or ordinal.")};
+}
+
+RuntimeError ObjectClosedError()
+{
+    return {ObjectClosed, QStringLiteral("Operation is not allowed when the object is closed.")};
+}
+
+RuntimeError SyntaxError(const QString& description)
+{
+    return {SyntaxFailure, description};
+}
+
+RuntimeError MissingOperatorError(QStringView expression)
+{
+    return {SyntaxFailure,
+        QStringLiteral("Syntax error (missing operator) in query expression '%1'.").arg(expression.trimmed())};
+}
+
+RuntimeError OpenTextError(QStringView expression)
+{
+    return {
+        SyntaxFailure, QStringLiteral("Syntax error in string in query expression '%1'.").arg(expression.trimmed())};
+}
+
+RuntimeError DateLiteralError(QStringView expression)
+{
+    return {SyntaxFailure, QStringLiteral("Syntax error in date in query expression '%1'.").arg(expression.trimmed())};
+}

@@ -1,0 +1,107 @@
+#include "db/engine_functions.h"
+
+#include "db/like_pattern.h"
+#include "db/locale_order.h"
+#include "db/value.h"
+#include "platform/numbers.h"
+#include "platform/regional.h"
+#include "platform/runtime_error.h"
+
+#include <sqlite3.h>
+
+namespace {
+
+std::string_view TextOf(sqlite3_value* value)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    return {text, size_t(sqlite3_value_bytes(value))};
+}
+
+bool IsNull(sqlite3_value* value)
+{
+    return sqlite3_value_type(value) == SQLITE_NULL;
+}
+
+/// A pattern that stays the same over a statement is read once.
+const LikePattern* PatternOf(sqlite3_context* context, sqlite3_value* value)
+{
+    if (void* kept = sqlite3_get_auxdata(context, 0))
+        return static_cast<const LikePattern*>(kept);
+    auto* pattern = new LikePattern(TextOf(value));
+    sqlite3_set_auxdata(context, 0, pattern, [](void* old) { delete static_cast<LikePattern*>(old); });
+    return static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 0));
+}
+
+void Like(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (IsNull(arguments[0]) || IsNull(arguments[1]))
+        return;
+    // The engine may drop what is kept at once, when memory is short.
+    const LikePattern* pattern = PatternOf(context, arguments[0]);
+    const bool matches = pattern != nullptr ? pattern->Matches(TextOf(arguments[1]))
+                                            : LikePattern(TextOf(arguments[0])).Matches(TextOf(arguments[1]));
+    sqlite3_result_int(context, matches);
+}
+
+void Fold(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (IsNull(arguments[0]))
+        return;
+    const std::string_view text = TextOf(arguments[0]);
+    const QByteArray folded = QString::fromUtf8(text.data(), qsizetype(text.size())).toCaseFolded().toUtf8();
+    sqlite3_result_text(context, folded.constData(), int(folded.size()), SQLITE_TRANSIENT);
+}
+
+void ConvertNumber(sqlite3_context* context, Value::Kind kind, double number)
+{
+    switch (kind) {
+    case Value::Kind::Long:
+        return sqlite3_result_int64(context, CLng(number));
+    case Value::Kind::Money:
+        return sqlite3_result_double(context, CCur(number).ToDouble());
+    case Value::Kind::Boolean:
+        return sqlite3_result_int(context, number != 0);
+    case Value::Kind::Text: {
+        const QByteArray text = CStr(number).toUtf8();
+        return sqlite3_result_text(context, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+    }
+    default:
+        return sqlite3_result_double(context, number);
+    }
+}
+
+/// A computed value on its way into a column of a kind.
+void Convert(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    const auto kind = Value::Kind(sqlite3_value_int(arguments[0]));
+    sqlite3_value* value = arguments[1];
+    if (IsNull(value))
+        return;
+    try {
+        if (sqlite3_value_type(value) == SQLITE_TEXT) {
+            const std::string_view text = TextOf(value);
+            return ConvertNumber(context, kind, CDbl(QString::fromUtf8(text.data(), qsizetype(text.size()))));
+        }
+        ConvertNumber(context, kind, sqlite3_value_double(value));
+    } catch (const RuntimeError& error) {
+        sqlite3_result_error(context, error.Description().toUtf8().constData(), -1);
+    }
+}
+
+int CompareTexts(void* order, int leftSize, const void* left, int rightSize, const void* right)
+{
+    return static_cast<LocaleOrder*>(order)->Compare(
+        {static_cast<const char*>(left), size_t(leftSize)}, {static_cast<const char*>(right), size_t(rightSize)});
+}
+
+} // namespace
+
+void RegisterEngineFunctions(sqlite3* handle)
+{
+    constexpr int Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+    sqlite3_create_function_v2(handle, LikeFunction, 2, Flags, nullptr, Like, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, FoldFunction, 1, Flags, nullptr, Fold, nullptr, nullptr, nullptr);
+    sqlite3_create_function_v2(handle, ConvertFunction, 2, Flags, nullptr, Convert, nullptr, nullptr, nullptr);
+    sqlite3_create_collation_v2(handle, LocaleCollation, SQLITE_UTF8, new LocaleOrder(Regional()), CompareTexts,
+        [](void* order) { delete static_cast<LocaleOrder*>(order); });
+}

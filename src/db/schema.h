@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringView>
+
+/// The tables of the file: kinds, lengths, defaults and indexes. The dialect reads column kinds from here to give
+/// literals their type; tools/make-database makes the file from here. The program itself never creates a table.
+
+enum class ColumnKind { AutoNumber, Id, Text, Memo, Long, Double, Money, Boolean, Date };
+
+struct ColumnDefinition {
+    QString name;
+    ColumnKind kind;
+    int length = 0; ///< characters of a Text column; 0 for no limit
+};
+
+struct TableDefinition {
+    QString name;
+    QList<ColumnDefinition> columns;
+};
+
+const QList<TableDefinition>& SchemaTables();
+/// Without regard to case; null when there is none.
+const TableDefinition* FindTable(QStringView name);
+const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name);
+
+/// The DDL of the whole file, one statement an entry, in order: tables, then indexes.
+QStringList SchemaStatements();

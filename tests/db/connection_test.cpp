@@ -1,0 +1,285 @@
+#include "db/add_row.h"
+#include "db/batch.h"
+#include "db/connection_private.h"
+#include "db/engine_errors.h"
+#include "db/make_database.h"
+#include "platform/guard.h"
+#include "support/temporary_database.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+class Reading : public DatabaseTest { };
+
+TEST_F(Reading, FieldsHaveTheKindOfTheirColumn)
+{
+    const int item = Item("Screws").Price("2.50").Stock(7.5).Add();
+    const int customer = Customer("Ann", "Lee").Add();
+    Invoice(customer).Paid(true).SecondTax("$1,234.50").Date(QDateTime(QDate(2026, 3, 1), QTime(9, 30))).Add();
+
+    const Recordset price = gConnection->Execute("SELECT price, pricelistid, itemid FROM itempricelist");
+    EXPECT_EQ(price["Price"].Type(), Value::Kind::Money);
+    EXPECT_EQ(price.Money(0), Money("2.50"));
+    EXPECT_EQ(price.Text(0), "2.5");
+    EXPECT_EQ(price.Long(2), item);
+    const Recordset rs = gConnection->Execute("SELECT paid, submitteddate, shippeddate, total2ndtax FROM invoice");
+    EXPECT_TRUE(rs["paid"].ToBool());
+    EXPECT_EQ(rs["submitteddate"].ToDate(), QDateTime(QDate(2026, 3, 1), QTime(9, 30)));
+    EXPECT_TRUE(rs["shippeddate"].IsNull());
+    EXPECT_EQ(rs.Text(2), "");
+    EXPECT_EQ(rs.Money(3), Money("1234.50"));
+    EXPECT_THROW(rs.Long(2), RuntimeError);
+}
+
+TEST_F(Reading, ACursorAtItsEndHasNoRow)
+{
+    Recordset rs = gConnection->Execute("SELECT id FROM warehouse");
+    rs.MoveNext();
+    EXPECT_TRUE(rs.Eof());
+    EXPECT_THROW(rs.MoveNext(), RuntimeError);
+    EXPECT_THROW(rs["id"], RuntimeError);
+    EXPECT_THROW(gConnection->Execute("UPDATE warehouse SET name = 'x'").Eof(), RuntimeError);
+}
+
+TEST_F(Reading, CursorsOfOneStatementDoNotDisturbEachOther)
+{
+    for (const char* name : {"a", "b", "c"})
+        Item(name).Add();
+    QStringList pairs;
+    for (Recordset outer = gConnection->Execute("SELECT name FROM item WHERE id > 1"); !outer.Eof(); outer.MoveNext()) {
+        for (Recordset inner = gConnection->Execute("SELECT name FROM item WHERE id > 2"); !inner.Eof();
+             inner.MoveNext())
+            pairs << outer[0].ToText() + inner[0].ToText();
+    }
+    EXPECT_EQ(pairs, QStringList({"bc", "cc"}));
+}
+
+TEST_F(Reading, StatementsOfOneShapeShareOnePreparedStatement)
+{
+    StatementCache& cache = gConnection->Private().cache;
+    const size_t before = cache.Size();
+    for (int id = 1; id <= 10; ++id)
+        gConnection->Execute(Sql("SELECT name FROM item WHERE id = {id}").Number("id", id));
+    EXPECT_EQ(cache.Size(), before + 1);
+    for (int columns = 1; columns <= 300; ++columns)
+        gConnection->Execute("SELECT 1" + QStringLiteral(", 1").repeated(columns));
+    EXPECT_EQ(cache.Size(), StatementCache::MaximumSize);
+}
+
+TEST_F(Reading, AClosedConnectionTakesItsCursorsAlongAndOpensAgain)
+{
+    Recordset rs = gConnection->Execute("SELECT id FROM warehouse");
+    gConnection->Close();
+    EXPECT_THROW(rs.MoveNext(), RuntimeError);
+    EXPECT_THROW(gConnection->Execute("SELECT 1"), RuntimeError);
+    gConnection->Open(DatabasePath());
+    EXPECT_EQ(gConnection->Execute("SELECT name FROM warehouse")["name"].ToText(), "Default Warehouse");
+}
+
+TEST(Markers, AreFilledByNameWhateverTheValuesHold)
+{
+    Sql sql("UPDATE item SET name = '{name}', description = '{text}' WHERE id = {id}");
+    sql.Number("id", 5).Text("name", "{id} O'Brien").Text("text", "{name}");
+    sql.Append(" AND name <> '{name2}'").Text("name2", "x");
+    EXPECT_EQ(
+        sql.Filled(), "UPDATE item SET name = '{id} O''Brien', description = '{name}' WHERE id = 5 AND name <> 'x'");
+    EXPECT_THROW(Sql("DELETE FROM item WHERE id = {id}").Filled(), std::logic_error);
+    EXPECT_THROW(Sql("DELETE FROM item").Number("id", 5), std::logic_error);
+}
+
+class Writing : public DatabaseTest { };
+
+TEST_F(Writing, QuotesArriveUnchangedOnBothPaths)
+{
+    const QString text = "O'Brien \"Bob\" {x} ''";
+    AddRow row(*gConnection, "[Customer]");
+    row.AddNew();
+    row.Set("LastName", text);
+    row.Update();
+    gConnection->Execute(
+        Sql("UPDATE Customer SET FirstName = '{name}' WHERE ID={id};").Text("name", text).Number("id", row.Id()));
+    EXPECT_EQ(Rows("SELECT FirstName, LastName FROM customer"), Table({{text, text}}));
+}
+
+TEST_F(Writing, AddRowConvertsValuesAndTakesDefaults)
+{
+    AddRow row(*gConnection, "customer");
+    row.AddNew();
+    row.Set("Discount", QStringLiteral("(2.5)"));
+    row.Set("IsYachtClubMember", true);
+    row.Set("LastName", QStringLiteral("Lee"));
+    row.Set("firstname", Value());
+    row.Update();
+    EXPECT_EQ(Rows("SELECT id, Discount, IsYachtClubMember, FirstName, SubmittedDate = date('now', 'localtime') || "
+                   "' 00:00:00' FROM customer"),
+        Table({{QString::number(row.Id()), "-2.5", "1", "NULL", "1"}}));
+    row.AddNew();
+    EXPECT_THROW(row.Set("Discount", QString()), RuntimeError);
+    EXPECT_THROW(row.Set("nothing", 1), RuntimeError);
+    EXPECT_EQ(Count("customer"), 1);
+}
+
+TEST_F(Writing, NumbersOfDeletedRowsAreNotGivenAgain)
+{
+    AddRow row(*gConnection, "category");
+    for (int i = 0; i < 2; ++i) {
+        row.AddNew();
+        row.Set("name", QStringLiteral("x"));
+        row.Update();
+        gConnection->Execute("DELETE FROM category WHERE id<>1");
+    }
+    EXPECT_EQ(row.Id(), 3);
+}
+
+TEST_F(Writing, ABatchKeepsWhatRanBeforeAFailure)
+{
+    const int item = Item("Screws").Stock(10).Add();
+    const auto act = [&] {
+        Batch batch(*gConnection);
+        {
+            Batch inner(*gConnection);
+            gConnection->Execute("UPDATE item SET noinstock = 7");
+        }
+        EXPECT_EQ(Stock(item), 10) << "the inner batch must not commit";
+        gConnection->Execute("UPDATE item SET noinstock = abc");
+    };
+    EXPECT_THROW(act(), RuntimeError);
+    EXPECT_EQ(Stock(item), 7);
+}
+
+TEST_F(Writing, AKilledProcessLeavesTheOldRows)
+{
+    const int item = Item("Screws").Stock(10).Add();
+    const QString path = DatabasePath();
+    const pid_t child = fork();
+    if (child == 0) {
+        Connection connection;
+        connection.Open(path);
+        connection.Private().RunPlain("PRAGMA cache_size = 1");
+        Batch batch(connection);
+        connection.Execute("UPDATE item SET noinstock = 1");
+        for (int i = 0; i < 200; ++i) {
+            AddRow row(connection, "invoice");
+            row.AddNew();
+            row.Set("Notes", QString(5000, u'x'));
+            row.Update();
+        }
+        kill(getpid(), SIGKILL);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    gConnection->Close();
+    gConnection->Open(path);
+    EXPECT_EQ(Stock(item), 10);
+    EXPECT_EQ(Count("invoice"), 0);
+    EXPECT_EQ(Single("PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(Writing, AFullDiskUndoesTheActAndLeavesTheFileUsable)
+{
+    const int item = Item("Screws").Stock(10).Add();
+    gConnection->Private().RunPlain("PRAGMA max_page_count = 100");
+    const QString text(1000000, u'x');
+    const auto fill = [&] {
+        Batch batch(*gConnection);
+        gConnection->Execute("UPDATE item SET noinstock = 7");
+        gConnection->Execute(Sql("UPDATE item SET description = '{text}'").Text("text", text));
+    };
+    EXPECT_THROW(fill(), RuntimeError);
+    EXPECT_EQ(Stock(item), 10);
+    gConnection->Execute("UPDATE item SET noinstock = 3");
+    EXPECT_EQ(Stock(item), 3);
+    EXPECT_EQ(Single("PRAGMA integrity_check"), "ok");
+}
+
+TEST_F(Writing, AFileThatWasTakenAwayIsNotWrittenTo)
+{
+    QFile::remove(DatabasePath());
+    EXPECT_THROW(gConnection->Execute("UPDATE warehouse SET name = 'x'"), RuntimeError);
+}
+
+TEST_F(Writing, NothingIsWrittenOnceTheProgramHasEnded)
+{
+    SetProgramEnd([](const RuntimeError&) {});
+    EndProgram(TypeMismatch());
+    EXPECT_THROW(gConnection->Execute("UPDATE warehouse SET name = 'x'"), RuntimeError);
+    EXPECT_THROW(Batch batch(*gConnection), RuntimeError);
+    EXPECT_THROW(AddRow(*gConnection, "warehouse"), RuntimeError);
+    SetProgramEnd({});
+    EXPECT_EQ(Single("SELECT name FROM warehouse"), "Default Warehouse");
+}
+
+class Opening : public DatabaseTest {
+protected:
+    QString File(const QByteArray& content) const
+    {
+        QFile file(Folder() + "/other.mdb");
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+    QByteArray DatabaseBytes() const
+    {
+        QFile file(DatabasePath());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    void ExpectRefused(const QString& path) const
+    {
+        const QStringList before = QDir(Folder()).entryList(QDir::Files);
+        Connection connection;
+        EXPECT_THROW(connection.Open(path), RuntimeError);
+        EXPECT_FALSE(connection.IsOpen());
+        EXPECT_EQ(QDir(Folder()).entryList(QDir::Files), before);
+    }
+};
+
+TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndNothingIsCreated)
+{
+    ExpectRefused(Folder() + "/missing.mdb");
+    ExpectRefused(Folder());
+    ExpectRefused(File(""));
+    ExpectRefused(File(QByteArray("This is a letter, not a database. ").repeated(50)));
+    ExpectRefused(File(DatabaseBytes().left(4096 * 5)));
+    ExpectRefused(File(DatabaseBytes().left(50)));
+}
+
+TEST_F(Opening, AReadOnlyFileOpensForReadingAlone)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "the superuser may write any file";
+    const QString path = File(DatabaseBytes());
+    QFile::setPermissions(path, QFile::ReadOwner);
+    ExpectRefused(path);
+    Connection connection;
+    connection.OpenReadOnly(path);
+    EXPECT_EQ(connection.Execute("SELECT id FROM warehouse").Long(0), 1);
+}
+
+TEST_F(Opening, AFileWithoutTheTablesOpensAndItsStatementsFail)
+{
+    Run(QStringLiteral("VACUUM INTO '%1/bare.mdb'").arg(Folder()));
+    Connection connection;
+    connection.Open(Folder() + "/bare.mdb");
+    connection.Private().RunPlain("DROP TABLE settings");
+    try {
+        connection.Execute("SELECT * FROM settings");
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), UnknownTableFailure);
+    }
+}
+
+TEST_F(Opening, MakingADatabaseNeverOverwritesOne)
+{
+    const QByteArray before = DatabaseBytes();
+    EXPECT_THROW(MakeDatabase(DatabasePath()), RuntimeError);
+    EXPECT_EQ(DatabaseBytes(), before);
+    EXPECT_THROW(MakeDatabase(Folder() + "/no such folder/db.mdb"), RuntimeError);
+    MakeDatabase(Folder() + "/new.mdb");
+    EXPECT_EQ(QDir(Folder()).entryList({"*.mdb*"}, QDir::Files), QStringList({"db.mdb", "new.mdb"}));
+}
