@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/combo_box.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+/// The inventory view: every item with its price in one chosen price list, its tax rate and its stock. The door to the
+/// item record.
+class InventoryList : public Panel {
+public:
+    explicit InventoryList(QWidget* parent = nullptr);
+
+    CONTROL(QLabel, lblInvoicePriceList);
+    CONTROL(ComboBox, cboInvoicePriceList);
+    CONTROL(QLabel, lblInventoryTotal);
+    CONTROL(FlexGrid, gInventory);
+    CONTROL(QPushButton, cmdAddInventory);
+    CONTROL(QPushButton, cmdEditInventory);
+    CONTROL(QPushButton, cmdDeleteInventory);
+
+    /// Reloads the list under the chosen price list's name. Selects the row whose item is `selectId`, else row number
+    /// `row`, pulled back to the last row. Throws RuntimeError when a statement fails or, with items to show, when no
+    /// price list is chosen.
+    void RefreshInventoryList(int row, qint64 selectId);
+
+    /// Opens the item record for a new item, then reloads the list with that item selected.
+    void AddItem();
+
+    /// Reads the price lists anew and selects none.
+    void FillInvoicePriceLists();
+    /// As above, then selects the first by name, which reloads the list. For when price lists may have changed.
+    void RefillInvoicePriceLists();
+
+private:
+    void EditItem();
+    void DeleteItem();
+    void ShowItemRecord(qint32 itemId);
+};

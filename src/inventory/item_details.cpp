@@ -1,0 +1,172 @@
+#include "inventory/item_details.h"
+
+#include "config/new_row.h"
+#include "db/connection.h"
+#include "inventory/edit_item.h"
+#include "inventory/item_details_scroll.h"
+#include "platform/layout.h"
+
+#include <QKeyEvent>
+#include <QScreen>
+
+namespace {
+
+constexpr int LongestText = 255;
+constexpr int LongestBarcode = 50;
+constexpr int LongestNumber = 10;
+constexpr int WidestLabel = 200;
+constexpr int LabelRoom = 12;
+constexpr int ColumnWidth = 420;
+constexpr int DescriptionLines = 4;
+
+void AddLine(QGridLayout* grid, QLabel* label, QWidget* control)
+{
+    SetLabelOf(label, control);
+    const int line = grid->rowCount();
+    grid->addWidget(label, line, 0);
+    grid->addWidget(control, line, 1);
+}
+
+void AddLine(QGridLayout* grid, const QString& label, QWidget* control)
+{
+    AddLine(grid, new QLabel(label), control);
+}
+
+} // namespace
+
+frmItemDetails::frmItemDetails(QWidget* parent)
+    : Form("frmItemDetails", tr("Item Details"), parent)
+{
+    cmdOk->setText(tr("OK"));
+    cmdCancel->setText(tr("&Cancel"));
+    SetLengths();
+
+    auto* content = new QWidget;
+    content->setLayout(
+        m_customFields.IsEmpty() ? row({MainFields()}) : row({MainFields(), gap(24), CustomFieldLines()}));
+    content->layout()->setContentsMargins(0, 0, 0, 0);
+    QLabel* instructionLine = instructions(tr(
+        "Instructions - enter the item's details. Only the name is required, however entering other details allows you "
+        "to use more program features. Press F1 for help."));
+    instructionLine->setObjectName(QStringLiteral("Label1"));
+    setLayout(column({
+        instructionLine,
+        new ItemDetailsScroll(content, m_customFields.IsEmpty() ? ColumnWidth : 2 * ColumnWidth),
+        row({stretch(), cmdOk, cmdCancel}),
+    }));
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    FitToScreen();
+
+    Connect();
+    FillLists();
+    if (gEditItemId == NewRow)
+        ProposeNewItem();
+    else
+        ShowStoredItem();
+}
+
+void frmItemDetails::SetLengths()
+{
+    for (TextBox* box : {m_number, m_name})
+        box->setMaxLength(LongestText);
+    m_description->SetMaxLength(LongestText);
+    m_barcode->setMaxLength(LongestBarcode);
+    for (TextBox* box : {m_noInStock, m_reorderLevel, m_minStockLevel, m_warrantyReturns})
+        box->setMaxLength(LongestNumber);
+    for (const PriceBox& price : m_prices)
+        price.box->setMaxLength(LongestNumber);
+}
+
+QLayout* frmItemDetails::MainFields()
+{
+    m_description->setFixedHeight(
+        qMax(m_description->minimumSizeHint().height(), DescriptionLines * fontMetrics().lineSpacing()));
+    QGridLayout* grid = fields({
+        {tr("Item Number:"), m_number},
+        {tr("Name:"), m_name},
+        {tr("Long Description:"), m_description},
+        {tr("Barcode:"), m_barcode},
+    });
+    for (const PriceBox& price : m_prices)
+        AddLine(grid, price.label, price.box);
+    AddLine(grid, tr("No In Stock:"), m_noInStock);
+    AddLine(grid, tr("Reorder Level:"), m_reorderLevel);
+    AddLine(grid, tr("Min Stock Level:"), m_minStockLevel);
+    AddLine(grid, tr("Warranty Returns:"), m_warrantyReturns);
+    AddLine(grid, tr("Category:"), cboCategory);
+    AddLine(grid, tr("Sub Category:"), cboSubCategory);
+    AddLine(grid, tr("Vendor:"), cboVendor);
+    AddLine(grid, tr("Tax Rate:"), cboTaxRate);
+    AddLine(grid, tr("Warehouse:"), cboWarehouse);
+    AddLine(grid, tr("Storage Location:"), cboStorage);
+    return column({grid, stretch()});
+}
+
+QLayout* frmItemDetails::CustomFieldLines()
+{
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    for (const CustomFields::Line& line : m_customFields.Lines())
+        AddLine(grid, line.label, line.control);
+    return column({grid, stretch()});
+}
+
+QLabel* frmItemDetails::MakeNameLabel(const char* array, int index, const QString& name)
+{
+    auto* label = MakeMember<QLabel>(array, index);
+    ShowName(label, name);
+    return label;
+}
+
+void frmItemDetails::ShowName(QLabel* label, const QString& name)
+{
+    QString shown = name;
+    label->setTextFormat(Qt::PlainText);
+    label->setText(shown.replace('&', "&&") + ':');
+    label->setToolTip(name.toHtmlEscaped());
+    label->setWordWrap(true);
+    label->setMinimumWidth(qMin(label->fontMetrics().horizontalAdvance(name) + LabelRoom, WidestLabel));
+    label->setMaximumWidth(WidestLabel);
+}
+
+QList<frmItemDetails::PriceBox> frmItemDetails::MakePriceBoxes()
+{
+    lblPriceList_0->setText(tr("Sale Price:"));
+    QList<PriceBox> prices{{lblPriceList_0, txtPriceList_0}};
+    int index = 0;
+    for (Recordset rs = gConnection->Execute("SELECT id, name FROM pricelist ORDER BY name"); !rs.Eof();
+         rs.MoveNext()) {
+        if (index > 0)
+            prices.append({MakeMember<QLabel>("lblPriceList", index), MakeMember<TextBox>("txtPriceList", index)});
+        ShowName(prices[index].label, NullToText(rs["name"]));
+        prices[index].box->setProperty("Tag", rs["id"].ToText());
+        ++index;
+    }
+    return prices;
+}
+
+void frmItemDetails::FitToScreen()
+{
+    const QSize frame(40, 80);
+    resize(sizeHint().boundedTo(screen()->availableGeometry().size() - frame));
+}
+
+void frmItemDetails::Connect()
+{
+    m_barcode->installEventFilter(this);
+    On(cboCategory, &ComboBox::Click, [this] { ShowSubCategories(); });
+    On(cboWarehouse, &ComboBox::Click, [this] { ShowLocations(); });
+    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+}
+
+bool frmItemDetails::eventFilter(QObject* watched, QEvent* event)
+{
+    // A scanner ends the bar code with Enter; that must not save a half-filled record.
+    if (watched == m_barcode && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter)
+            return focusNextChild();
+    }
+    return Form::eventFilter(watched, event);
+}

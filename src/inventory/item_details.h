@@ -1,0 +1,99 @@
+#pragma once
+
+#include "inventory/custom_fields.h"
+#include "platform/combo_box.h"
+#include "platform/form.h"
+#include "platform/text_box.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+/// The item record: creates and edits one item, its price in every price list and its custom field values. Edits
+/// `gEditItemId`; for a new item puts the new id there. Controls made when the form loads stand in the order of the
+/// declarations like all others, as the form is read.
+class frmItemDetails : public Form {
+public:
+    explicit frmItemDetails(QWidget* parent);
+
+    CONTROL_AT(TextBox, txtFields, 3);
+    CONTROL_AT(TextBox, txtFields, 5);
+    CONTROL_AT(MultiLineTextBox, txtFields, 1);
+    CONTROL_AT(TextBox, txtFields, 0);
+
+    CONTROL_AT(QLabel, lblPriceList, 0);
+    CONTROL_AT(TextBox, txtPriceList, 0);
+
+private:
+    struct PriceBox {
+        QLabel* label;
+        TextBox* box; ///< its property "Tag" is the price list's id
+    };
+    QList<PriceBox> m_prices = MakePriceBoxes();
+
+public:
+    CONTROL_AT(TextBox, txtFields, 6);
+    CONTROL_AT(TextBox, txtFields, 7);
+    CONTROL_AT(TextBox, txtFields, 4);
+    CONTROL_AT(TextBox, txtFields, 2);
+    CONTROL(ComboBox, cboCategory);
+    CONTROL(ComboBox, cboSubCategory);
+    CONTROL(ComboBox, cboVendor);
+    CONTROL(ComboBox, cboTaxRate);
+    CONTROL(ComboBox, cboWarehouse);
+    CONTROL(ComboBox, cboStorage);
+
+private:
+    CustomFields m_customFields{this};
+
+public:
+    CONTROL(QPushButton, cmdOk);
+    CONTROL(QPushButton, cmdCancel);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    friend class CustomFields;
+
+    // What the boxes of the array are for.
+    TextBox* const m_number = txtFields_3;
+    TextBox* const m_name = txtFields_5;
+    MultiLineTextBox* const m_description = txtFields_1;
+    TextBox* const m_barcode = txtFields_0;
+    TextBox* const m_noInStock = txtFields_6;
+    TextBox* const m_reorderLevel = txtFields_7;
+    TextBox* const m_minStockLevel = txtFields_4;
+    TextBox* const m_warrantyReturns = txtFields_2;
+
+    template <typename Control>
+    Control* MakeMember(const char* array, int index)
+    {
+        return Make<Control>(QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index).toLatin1().constData());
+    }
+    /// A label that shows a name out of the data: as it is, wrapped, no markup and no access key read into it.
+    QLabel* MakeNameLabel(const char* array, int index, const QString& name);
+    static void ShowName(QLabel* label, const QString& name);
+    QList<PriceBox> MakePriceBoxes();
+
+    void SetLengths();
+    QLayout* MainFields();
+    QLayout* CustomFieldLines();
+    void FitToScreen();
+    void Connect();
+
+    void FillLists();
+    void ShowSubCategories();
+    void ShowLocations();
+    void ProposeNewItem();
+    void ShowStoredItem();
+    void ShowItem(const class Recordset& item);
+    void ShowStorage(const QString& locationId);
+    void ShowPrices();
+
+    void Save();
+    bool MayBeSaved() const;
+    void RepairEntries();
+    void UpdateItem() const;
+    void AddNewItem() const;
+    void SavePrices() const;
+};

@@ -1,0 +1,153 @@
+#include "inventory/item_group_form.h"
+
+#include "config/lists.h"
+#include "config/new_row.h"
+#include "db/add_row.h"
+#include "db/batch.h"
+#include "db/connection.h"
+#include "platform/hourglass.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+namespace {
+constexpr int ScrollBarTwips = 400;
+}
+
+qint32 gEditItemGroupId = NewRow;
+
+frmItemGroup::frmItemGroup(QWidget* parent)
+    : Form("frmItemGroup", tr("Item Group Details"), parent)
+{
+    cmdAdd->setText(tr("&Add Item"));
+    cmdRemove->setText(tr("&Remove"));
+    cmdOk->setText(tr("OK"));
+    cmdCancel->setText(tr("&Cancel"));
+    auto* membersLabel = new QLabel(tr("Items in Group:"));
+    SetLabelOf(membersLabel, gItems);
+
+    cboItems->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    setLayout(column({
+        instructions(
+            tr("Instructions - enter the group's name, add items to the group and then click close to finish.")),
+        fields({
+            {tr("Item Group Name:"), txtName},
+            {tr("Items:"), row({cboItems, cmdAdd})},
+        }),
+        membersLabel,
+        gItems,
+        row({cmdRemove, stretch()}),
+        row({stretch(), cmdOk, cmdCancel}),
+    }));
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    resize(480, 480);
+
+    SetUpColumns(gItems, {{"Name", 2400, CellAlign::CenterTop}}, 0);
+    gItems->SetColAlignment(0, CellAlign::LeftCenter);
+    FillItems();
+    if (gEditItemGroupId == NewRow)
+        gItems->SetRows(1);
+    else
+        ShowStoredGroup();
+
+    On(gItems, &FlexGrid::Resized, [this] { StretchColumn(gItems, 0, ScrollBarTwips); });
+    On(cmdAdd, &QPushButton::clicked, [this] { AddMember(); });
+    On(cmdRemove, &QPushButton::clicked, [this] { RemoveMember(); });
+    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+}
+
+void frmItemGroup::FillItems()
+{
+    Hourglass hourglass;
+    FillCombo(cboItems, Sql("SELECT id, name FROM item ORDER BY name;"));
+    if (cboItems->ListCount() > 0)
+        cboItems->SetListIndex(0);
+}
+
+void frmItemGroup::ShowStoredGroup()
+{
+    const Recordset group = gConnection->Execute(Sql("SELECT id, name FROM itemgroup WHERE id = {gEditItemGroupId}")
+                                                     .Number("gEditItemGroupId", gEditItemGroupId));
+    if (!group.Eof())
+        txtName->setText(NullToText(group["name"]));
+    RefreshItemGroupList(1, 0);
+}
+
+void frmItemGroup::RefreshItemGroupList(int row, qint64 selectId)
+{
+    LoadList(gItems,
+        Sql("SELECT item.id, name FROM itemgroup_item, item WHERE itemgroup_item.itemid = item.id "
+            "AND itemgroupid = {gEditItemGroupId}")
+            .Number("gEditItemGroupId", gEditItemGroupId),
+        row, selectId, [](const Recordset& item, GridFill& fill) {
+            fill.Add(item.Text(1));
+            return item.Long(0);
+        });
+}
+
+void frmItemGroup::AddMember()
+{
+    const int last = gItems->Rows();
+    gItems->SetRows(last + 1);
+    gItems->SetTextMatrix(last, 0, cboItems->Text());
+    gItems->SetRowData(last, cboItems->SelectedData());
+    gItems->SelectRow(last);
+}
+
+void frmItemGroup::RemoveMember()
+{
+    if (gItems->Row() == 0) {
+        MsgBox(tr("No item has been selected. Please select an item to remove and try again."), Icon::Critical);
+        return;
+    }
+    const int last = gItems->Rows() - 1;
+    for (int row = gItems->Row(); row < last; ++row) {
+        gItems->SetRowData(row, gItems->RowData(row + 1));
+        gItems->SetTextMatrix(row, 0, gItems->TextMatrix(row + 1, 0));
+    }
+    gItems->SetRows(last);
+    gItems->SelectRow(last - 1);
+}
+
+void frmItemGroup::Save()
+{
+    {
+        Batch batch(*gConnection);
+        if (gEditItemGroupId == NewRow)
+            AddGroup();
+        else
+            ReplaceGroup();
+        AddMembers();
+    }
+    accept();
+}
+
+void frmItemGroup::ReplaceGroup() const
+{
+    gConnection->Execute(Sql("DELETE FROM itemgroup_item WHERE itemgroupid = {gEditItemGroupId}")
+                             .Number("gEditItemGroupId", gEditItemGroupId));
+    gConnection->Execute(Sql("UPDATE itemgroup SET name = '{name}' WHERE id = {gEditItemGroupId}")
+                             .Text("name", txtName->text())
+                             .Number("gEditItemGroupId", gEditItemGroupId));
+}
+
+void frmItemGroup::AddGroup() const
+{
+    AddRow group(*gConnection, "[itemgroup]");
+    group.AddNew();
+    group.Set("Name", txtName->text());
+    group.Update();
+    gEditItemGroupId = qint32(group.Id());
+}
+
+void frmItemGroup::AddMembers() const
+{
+    AddRow member(*gConnection, "[itemgroup_item]");
+    for (int row = 1; row < gItems->Rows(); ++row) {
+        member.AddNew();
+        member.Set("itemgroupid", gEditItemGroupId);
+        member.Set("ItemID", gItems->RowData(row));
+        member.Update();
+    }
+}

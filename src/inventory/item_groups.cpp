@@ -1,0 +1,92 @@
+#include "inventory/item_groups.h"
+
+#include "config/lists.h"
+#include "config/new_row.h"
+#include "db/connection.h"
+#include "inventory/item_group_form.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+ItemGroups::ItemGroups(QWidget* parent)
+    : Panel("picItemGroups", parent)
+{
+    cmdItemGroupEdit->setText(tr("View/Edit Item Group"));
+    cmdItemGroupNew->setText(tr("New Item Group"));
+    cmdItemGroupDelete->setText(tr("Delete Item Group"));
+    gItemGroups->setAccessibleName(tr("Item Groups"));
+    gItemGroups->SetCols(1);
+    gItemGroups->SetColAlignment(0, CellAlign::LeftCenter);
+
+    auto* buttonBar = new QWidget;
+    buttonBar->setObjectName(QStringLiteral("picItemGroupsBot"));
+    buttonBar->setLayout(row({stretch(), cmdItemGroupEdit, cmdItemGroupNew, cmdItemGroupDelete}));
+    buttonBar->layout()->setContentsMargins(0, 0, 0, 0);
+
+    setLayout(column({
+        head(tr("Item Groups"),
+            tr("Instructions - you are currently viewing your item groups. To sort by a column click it's title. "
+               "For more details press F1 for help.")),
+        gItemGroups,
+        buttonBar,
+    }));
+
+    On(gItemGroups, &FlexGrid::DblClick, [this] {
+        if (gItemGroups->MouseRow() != 0)
+            EditGroup();
+    });
+    On(cmdItemGroupEdit, &QPushButton::clicked, [this] { EditGroup(); });
+    On(cmdItemGroupNew, &QPushButton::clicked, [this] { NewGroup(); });
+    On(cmdItemGroupDelete, &QPushButton::clicked, [this] { DeleteGroup(); });
+}
+
+void ItemGroups::RefreshItemGroupList(int row, qint64 selectId)
+{
+    gConnection->Execute("SELECT count(*) FROM itemgroup").Close();
+
+    LoadList(gItemGroups, Ordered("SELECT id, name FROM itemgroup ", gItemGroups, "ORDER BY name"), row, selectId,
+        [](const Recordset& group, GridFill& fill) {
+            fill.Add(group.Text(1));
+            return group.Long(0);
+        });
+}
+
+void ItemGroups::EditGroup()
+{
+    // Only -1 is no group: on an empty list the form opens for group 0.
+    const qint64 groupId = gItemGroups->CurrentRowData();
+    if (groupId == -1) {
+        MsgBox(tr("No item group has been selected. Select an item group from the list and try again."),
+            Icon::Information);
+        return;
+    }
+    gEditItemGroupId = qint32(groupId);
+    frmItemGroup(window()).ShowModal();
+    RefreshItemGroupList(gItemGroups->Row(), 0);
+}
+
+void ItemGroups::NewGroup()
+{
+    gEditItemGroupId = NewRow;
+    frmItemGroup(window()).ShowModal();
+    RefreshItemGroupList(1, 0);
+}
+
+void ItemGroups::DeleteGroup()
+{
+    const qint64 groupId = gItemGroups->CurrentRowData();
+    if (groupId == 0 || groupId == -1)
+        return;
+
+    const Sql members = Sql("SELECT count(*) FROM itemgroup_item WHERE itemgroupid = {id} ").Number("id", groupId);
+    if (gConnection->Execute(members)[0].ToLong() > 0) {
+        MsgBox(
+            tr("This Item Group has existing items and cannot be deleted. To delete this Item Group first delete all "
+               "items they supply."),
+            Icon::Critical, tr("Cannot delete Item Group."));
+        return;
+    }
+    if (MsgBox(tr("Delete Item Group?"), Icon::Question, Buttons::YesNo) == Answer::No)
+        return;
+    gConnection->Execute(Sql("DELETE FROM itemgroup WHERE id = {id}").Number("id", groupId));
+    RefreshItemGroupList(gItemGroups->Row(), 0);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+#include "platform/text_box.h"
+
+#include <QPushButton>
+
+/// Books goods in: pick an item or scan its bar code, enter the quantity, and it is added to the item's stock. A
+/// scanner that ends its text with Enter drives the form alone, as Enter searches in one box and books in from the
+/// other.
+class frmReceiveStock : public Form {
+public:
+    explicit frmReceiveStock(QWidget* parent);
+
+    CONTROL(TextBox, txtBarcode);
+    CONTROL(QPushButton, cmdAddBarCodeItem);
+    CONTROL(FlexGrid, gInventory);
+    CONTROL(TextBox, txtAddQuantity);
+    CONTROL(QPushButton, cmdUpdateStockLevel);
+    CONTROL(QPushButton, cmdCancel);
+
+private:
+    void RefreshInventoryList(int row, qint64 selectId);
+    void FindByBarcode();
+    void UpdateStockLevel();
+};

@@ -1,0 +1,180 @@
+#include "inventory_test.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace {
+
+class ItemDetails : public ItemFormTest {
+protected:
+    QStringList Boxes() const
+    {
+        return {form->txtFields_3->text(), form->txtFields_5->text(), form->txtFields_1->Text(),
+            form->txtFields_0->text(), form->txtFields_6->text(), form->txtFields_7->text(), form->txtFields_4->text(),
+            form->txtFields_2->text()};
+    }
+    QStringList Lists() const
+    {
+        return {form->cboCategory->Text(), form->cboSubCategory->Text(), form->cboVendor->Text(),
+            form->cboTaxRate->Text(), form->cboWarehouse->Text(), form->cboStorage->Text()};
+    }
+};
+
+QStringList Entries(const ComboBox* combo, QList<qint64> data)
+{
+    for (int i = 0; i < data.size(); ++i)
+        EXPECT_EQ(combo->ItemData(i), data[i]) << qPrintable(combo->List(i));
+    return Entries(combo);
+}
+
+TEST_F(ItemDetails, ANewItemStartsWithTheNextNumberAndNothingChosen)
+{
+    Run("UPDATE nextitemno SET itemnumber = 42");
+    const int tools = CategoryRow("Tools");
+    const int shed = WarehouseRow("A Shed");
+    VendorRow("Acme");
+    Open(NewRow);
+
+    EXPECT_EQ(Boxes(), QStringList({"42", "", "", "", "", "", "", ""}));
+    EXPECT_EQ(Lists(), QStringList({"N/A", "All Sub-Categories", "N/A", "N/A", "A Shed", "N/A"}));
+    EXPECT_EQ(form->txtPriceList_0->text(), "$0.00");
+    EXPECT_EQ(Entries(form->cboCategory, {1, tools}), QStringList({"N/A", "Tools"}));
+    EXPECT_EQ(Entries(form->cboVendor), QStringList({"N/A", "Acme"}));
+    EXPECT_EQ(Entries(form->cboWarehouse, {shed, 1}), QStringList({"A Shed", "Default Warehouse"}));
+    EXPECT_TRUE(form->txtFields_3->hasFocus());
+    CheckForm(*form);
+
+    Click(form->cmdCancel);
+    EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 42);
+}
+
+TEST_F(ItemDetails, ACategoryPreselectsItsFirstSubCategory)
+{
+    const int tools = CategoryRow("Tools");
+    CategoryRow("Empty");
+    const int saws = SubCategoryRow(tools, "Saws");
+    const int drills = SubCategoryRow(tools, "Drills");
+    Open(NewRow);
+
+    Pick(form->cboCategory, "Tools");
+    EXPECT_EQ(Entries(form->cboSubCategory, {1, drills, saws}), QStringList({"All Sub-Categories", "Drills", "Saws"}));
+    EXPECT_EQ(form->cboSubCategory->Text(), "Drills");
+
+    Pick(form->cboCategory, "Empty");
+    EXPECT_EQ(Entries(form->cboSubCategory, {1}), QStringList({"All Sub-Categories"}));
+    EXPECT_EQ(form->cboSubCategory->ListIndex(), 0);
+
+    Pick(form->cboCategory, "N/A");
+    EXPECT_EQ(Entries(form->cboSubCategory), QStringList({"All Sub-Categories"}));
+}
+
+TEST_F(ItemDetails, AWarehouseFallsBackToNoLocation)
+{
+    const int shed = WarehouseRow("Shed");
+    const int bin = LocationRow(shed, "Bin 1");
+    Open(NewRow);
+
+    Pick(form->cboWarehouse, "Shed");
+    EXPECT_EQ(Entries(form->cboStorage, {1, bin}), QStringList({"N/A", "Bin 1"}));
+    EXPECT_EQ(form->cboStorage->ListIndex(), 0);
+    Pick(form->cboStorage, "Bin 1");
+    Pick(form->cboWarehouse, "Default Warehouse");
+    EXPECT_EQ(form->cboStorage->Text(), "N/A");
+}
+
+TEST_F(ItemDetails, AStoredItemShowsWhole)
+{
+    const int tools = CategoryRow("Tools");
+    SubCategoryRow(tools, "Drills");
+    const int saws = SubCategoryRow(tools, "Saws");
+    const int bin = LocationRow(WarehouseRow("Shed"), "Bin 1");
+    const int trade = PriceListRow("A & B <trade>");
+    const int item = Item("Saw")
+                         .Number("007")
+                         .Barcode("4006381333931")
+                         .Description("Sharp.\r\nVery.")
+                         .Stock(1234.5)
+                         .ReorderLevel(3)
+                         .MinStockLevel(2)
+                         .SubCategory(saws)
+                         .Location(bin)
+                         .Vendor(VendorRow("O'Brien"))
+                         .TaxRate(TaxRateRow("VAT", 17.5))
+                         .Price("1234.5")
+                         .Add();
+    Run(QString("DELETE FROM ItemPriceList WHERE PriceListID = %1").arg(trade));
+    Run("UPDATE item SET WarrantyReturns = NULL");
+    Open(item);
+
+    EXPECT_EQ(Boxes(), QStringList({"007", "Saw", "Sharp.\r\nVery.", "4006381333931", "1234.5", "3", "2", "0"}));
+    EXPECT_EQ(Lists(), QStringList({"Tools", "Saws", "O'Brien", "VAT", "Shed", "Bin 1"}));
+    EXPECT_EQ(Member<QLabel>("lblPriceList_0")->text(), "A && B <trade>:") << "lists stand in order of name";
+    EXPECT_EQ(form->txtPriceList_0->text(), "$0.00");
+    EXPECT_EQ(Member<TextBox>("txtPriceList_1")->text(), "$1,234.50");
+    CheckForm(*form);
+}
+
+TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOne)
+{
+    WarehouseRow("A Shed");
+    const int item = Item("Saw").Location(LocationRow(0, "Nowhere")).SubCategory(999).Add();
+    Open(item);
+    EXPECT_EQ(Lists(), QStringList({"", "", "N/A", "N/A", "Default Warehouse", "N/A"})) << "the sub-category is gone";
+}
+
+struct Unreadable {
+    const char* change;
+    int error;
+};
+class UnreadableItem : public ItemFormTest, public testing::WithParamInterface<Unreadable> { };
+
+TEST_P(UnreadableItem, EndsTheProgram)
+{
+    const int item = Item("Saw").Add();
+    Run(QString("UPDATE item SET %1").arg(GetParam().change));
+    ExpectedEnd end;
+    Guarded([&] { Open(item); });
+    EXPECT_EQ(end.Number(), GetParam().error);
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, UnreadableItem,
+    testing::Values(Unreadable{"NoInStock = NULL", 94}, Unreadable{"ReorderLevel = NULL", 94},
+        Unreadable{"MinStockLevel = NULL", 94}, Unreadable{"LocationID = 999", 3021}));
+
+TEST_F(ItemDetails, EnterAfterABarCodeMovesOnAndSavesNothing)
+{
+    Open(NewRow);
+    Type(form->txtFields_0, "4006381333931");
+    Press(form->txtFields_0, Qt::Key_Return);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(form->txtPriceList_0->hasFocus());
+    Press(form->txtPriceList_0, Qt::Key_Return);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(Single("SELECT barcode FROM item"), "4006381333931");
+}
+
+TEST_F(ItemDetails, FortyPriceListsAndFortyFieldsScrollOnTheScreen)
+{
+    for (int i = 2; i <= 40; ++i)
+        PriceListRow(QString("List %1").arg(i, 2, 10, QChar('0')));
+    for (int i = 1; i <= 40; ++i)
+        Run(QString("INSERT INTO ItemCustomField (name, type, pos) VALUES ('Field %1', 'text', %1)").arg(i));
+    Open(NewRow);
+
+    EXPECT_TRUE(form->screen()->availableGeometry().size().boundedTo(form->size()) == form->size());
+    const auto* area = form->findChild<QScrollArea*>();
+    EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+    EXPECT_TRUE(form->cmdOk->isVisible());
+
+    // Walking by keyboard brings each control into view, custom fields after the last list.
+    form->cboStorage->setFocus();
+    Tab();
+    EXPECT_EQ(form->focusWidget()->objectName(), "txtCustom_0");
+    BackTab();
+    const QRect seen(form->cboStorage->mapTo(area->viewport(), QPoint()), form->cboStorage->size());
+    EXPECT_TRUE(area->viewport()->rect().contains(seen));
+}
+
+} // namespace

@@ -1,0 +1,146 @@
+#include "inventory/item_group_form.h"
+#include "inventory/item_groups.h"
+#include "inventory_test.h"
+
+#include <QTest>
+
+namespace {
+
+class ItemGroupsTest : public PanelTest<ItemGroups> {
+protected:
+    void OpenList()
+    {
+        panel->RefreshItemGroupList(1, 0);
+        ShowPanel();
+    }
+    void OpenForm(qint32 group)
+    {
+        gEditItemGroupId = group;
+        form = std::make_unique<frmItemGroup>(nullptr);
+        Shown(form.get());
+    }
+    int Group(const QString& name, const QList<int>& items)
+    {
+        Run(QString("INSERT INTO itemgroup (name) VALUES ('%1')").arg(name));
+        const int id = Single("SELECT MAX(id) FROM itemgroup").toInt();
+        for (const int item : items)
+            Run(QString("INSERT INTO itemgroup_item (itemgroupid, ItemID) VALUES (%1, %2)").arg(id).arg(item));
+        return id;
+    }
+    Table Members() const { return Rows("SELECT itemgroupid, ItemID FROM itemgroup_item ORDER BY rowid"); }
+    static QStringList Member(int group, int item) { return {QString::number(group), QString::number(item)}; }
+
+    std::unique_ptr<frmItemGroup> form;
+};
+
+TEST_F(ItemGroupsTest, GroupsStandByNameAndARowWithoutOneIsRefused)
+{
+    Group("Winter", {});
+    Group("autumn", {});
+    OpenList();
+    CheckScreen(panel, panel->Controls(), {});
+    EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"autumn"}, {"Winter"}}));
+    panel->gItemGroups->SetRowData(1, -1);
+    answers.ExpectMessage(
+        "No item group has been selected. Select an item group from the list and try again.", Icon::Information);
+    Click(panel->cmdItemGroupEdit);
+    Click(panel->cmdItemGroupDelete);
+    EXPECT_EQ(Count("itemgroup"), 2);
+}
+
+TEST_F(ItemGroupsTest, ANewGroupIsStoredWithItsMembersOnOkAlone)
+{
+    const int saw = Item("Saw").Add();
+    const int drill = Item("Drill").Add();
+    OpenForm(NewRow);
+    CheckForm(*form);
+    EXPECT_EQ(form->cboItems->Text(), "Drill");
+    Type(form->txtName, "Builder's kit");
+    Click(form->cmdAdd);
+    Pick(form->cboItems, "Saw");
+    Click(form->cmdAdd);
+    Click(form->cmdAdd);
+    EXPECT_EQ(GridRows(form->gItems), Table({{"Drill"}, {"Saw"}, {"Saw"}}));
+    EXPECT_EQ(form->gItems->Row(), 3);
+    EXPECT_EQ(Count("itemgroup_item") + Count("itemgroup"), 0);
+
+    Click(form->cmdOk);
+    const int group = gEditItemGroupId;
+    EXPECT_EQ(Rows("SELECT id, name FROM itemgroup"), Table({{QString::number(group), "Builder's kit"}}));
+    EXPECT_EQ(Members(), Table({Member(group, drill), Member(group, saw), Member(group, saw)}));
+}
+
+TEST_F(ItemGroupsTest, RemovingMovesTheRestUpAndSelectsTheLast)
+{
+    const int group = Group("Kit", {Item("A").Add(), Item("B").Add(), Item("C").Add()});
+    OpenForm(group);
+    ClickRow(form->gItems, 1);
+    Click(form->cmdRemove);
+    EXPECT_EQ(GridRows(form->gItems), Table({{"B"}, {"C"}}));
+    EXPECT_EQ(form->gItems->Row(), 2);
+    Click(form->cmdRemove);
+    Click(form->cmdRemove);
+    EXPECT_EQ(form->gItems->Row(), 0);
+    answers.ExpectMessage("No item has been selected. Please select an item to remove and try again.", Icon::Critical);
+    Click(form->cmdRemove);
+    Click(form->cmdCancel);
+    EXPECT_EQ(Members().size(), 3) << "Cancel writes nothing";
+}
+
+TEST_F(ItemGroupsTest, AGroupOfDeletedItemsIsEmptiedByOkAndOnlyThenDeleted)
+{
+    const int other = Group("Other", {Item("Saw").Add()});
+    Group("Kit", {998, 999});
+    OpenList();
+    answers.ExpectMessage("This Item Group has existing items and cannot be deleted. To delete this Item Group first "
+                          "delete all items they supply.",
+        Icon::Critical, "Cannot delete Item Group.");
+    Click(panel->cmdItemGroupDelete);
+
+    WhenFormShows<frmItemGroup>([](frmItemGroup& shown) {
+        EXPECT_EQ(shown.txtName->text(), "Kit");
+        EXPECT_EQ(shown.gItems->Rows(), 1);
+        Type(shown.txtName, "O'Kit");
+        Click(shown.cmdOk);
+    });
+    DoubleClickRow(panel->gItemGroups, 1);
+    EXPECT_EQ(Members(), Table({Member(other, 1)}));
+    EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"O'Kit"}, {"Other"}}));
+
+    answers.Expect("Delete Item Group?", Icon::Question, Buttons::YesNo, Answer::No);
+    Click(panel->cmdItemGroupDelete);
+    answers.Expect("Delete Item Group?", Answer::Yes);
+    Click(panel->cmdItemGroupDelete);
+    EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"Other"}}));
+}
+
+TEST_F(ItemGroupsTest, OnAnEmptyListViewOpensGroupZeroAndStoresMembersUnderIt)
+{
+    const int saw = Item("Saw").Add();
+    OpenList();
+    Click(panel->cmdItemGroupDelete);
+    WhenFormShows<frmItemGroup>([](frmItemGroup& shown) {
+        EXPECT_EQ(gEditItemGroupId, 0);
+        Click(shown.cmdAdd);
+        Click(shown.cmdOk);
+    });
+    Click(panel->cmdItemGroupEdit);
+    EXPECT_EQ(Count("itemgroup"), 0);
+    EXPECT_EQ(Members(), Table({Member(0, saw)}));
+}
+
+TEST_F(ItemGroupsTest, AnItemIsFoundAmongAHundredThousandByTypingItsName)
+{
+    Run("INSERT INTO item (name) WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 100000) "
+        "SELECT 'Item ' || printf('%06d', x) FROM n");
+    Run("INSERT INTO item (name) VALUES ('Zebra stripe'), ('Zebra hoof')");
+    OpenForm(NewRow);
+    EXPECT_EQ(form->cboItems->ListCount(), 100002);
+    form->cboItems->setFocus();
+    QTest::keyClicks(form->cboItems, "zebra s");
+    EXPECT_EQ(form->cboItems->Text(), "Zebra stripe");
+    Click(form->cmdAdd);
+    EXPECT_EQ(GridRows(form->gItems), Table({{"Zebra stripe"}}));
+}
+
+} // namespace

@@ -1,0 +1,187 @@
+#include "inventory_test.h"
+
+namespace {
+
+class ItemSave : public ItemFormTest {
+protected:
+    Table SavedItem() const
+    {
+        return Rows("SELECT Number, Name, Description, Barcode, LocationID, SubCategoryID, VendorID, TaxRateID, "
+                    "CAST(NoInStock AS TEXT), CAST(ReorderLevel AS TEXT), CAST(MinStockLevel AS TEXT), "
+                    "CAST(WarrantyReturns AS TEXT) FROM item ORDER BY id DESC LIMIT 1");
+    }
+    Table Prices() const
+    {
+        return Rows("SELECT PriceListID, ItemID, printf('%.4f', Price) FROM ItemPriceList WHERE ItemID = (SELECT "
+                    "MAX(id) FROM item) ORDER BY 1");
+    }
+
+    void FillIn()
+    {
+        Type(form->txtFields_5, "O'Brien's saw");
+        Type(form->txtFields_1, "it's \"sharp\"");
+        Type(form->txtFields_3, "N'1");
+        Type(form->txtFields_0, "''");
+    }
+    const QStringList filledIn{
+        "N'1", "O'Brien's saw", "it's \"sharp\"", "''", "1", "1", "1", "1", "0.0", "0.0", "0.0", "0.0"};
+};
+
+TEST_F(ItemSave, AnEmptyNewItemIsSavedWithDefaultsAndTheProposedNumber)
+{
+    const int trade = PriceListRow("Trade");
+    Run("UPDATE nextitemno SET itemnumber = 42");
+    Open(NewRow);
+    for (TextBox* price : {form->txtPriceList_0, Member<TextBox>("txtPriceList_1")})
+        Type(price, "");
+    SaveAndClose();
+
+    EXPECT_EQ(SavedItem(), Table({{"42", "No Name", "", "", "1", "1", "1", "1", "0.0", "0.0", "0.0", "0.0"}}));
+    EXPECT_EQ(Single("SELECT id FROM item"), QString::number(gEditItemId));
+    const QString id = QString::number(gEditItemId);
+    EXPECT_EQ(Prices(), Table({{"1", id, "0.0000"}, {QString::number(trade), id, "0.0000"}}));
+    EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 43);
+}
+
+TEST_F(ItemSave, QuotesArriveUnchangedInANewItemAndInAnEditedOne)
+{
+    Open(NewRow);
+    FillIn();
+    SaveAndClose();
+    EXPECT_EQ(SavedItem(), Table({filledIn}));
+    EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 2) << "raised although the number was typed";
+
+    Run("UPDATE item SET Number = 'x', Name = '{locationId}', Description = 'x', Barcode = 'x'");
+    Open(gEditItemId);
+    FillIn();
+    SaveAndClose();
+    EXPECT_EQ(SavedItem(), Table({filledIn}));
+    EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 2);
+}
+
+TEST_F(ItemSave, AllFieldsOfAnEditedItemAreWritten)
+{
+    const int tools = CategoryRow("Tools");
+    const int saws = SubCategoryRow(tools, "Saws");
+    const int shed = WarehouseRow("Shed");
+    const int bin = LocationRow(shed, "Bin 1");
+    const int vat = TaxRateRow("VAT", 17.5);
+    const int acme = VendorRow("Acme");
+    const int trade = PriceListRow("Trade");
+    Item("Without number or bar code").Add();
+    const int item = Item("{number}").Number("1").Price("3").Add();
+    Run(QString("DELETE FROM ItemPriceList WHERE PriceListID = %1").arg(trade));
+    Open(item);
+    Pick(form->cboCategory, "Tools");
+    Pick(form->cboWarehouse, "Shed");
+    Pick(form->cboStorage, "Bin 1");
+    Pick(form->cboTaxRate, "VAT");
+    Pick(form->cboVendor, "Acme");
+    Type(form->txtFields_6, "-2.5");
+    Type(form->txtFields_7, "lots");
+    Type(form->txtFields_4, "1e2");
+    Type(form->txtFields_2, "");
+    Type(form->txtPriceList_0, "$1,234.5");
+    Type(Member<TextBox>("txtPriceList_1"), "gratis");
+    SaveAndClose();
+
+    EXPECT_EQ(SavedItem(),
+        Table({{"1", "{number}", "", "", QString::number(bin), QString::number(saws), QString::number(acme),
+            QString::number(vat), "-2.5", "0.0", "100.0", "0.0"}}));
+    EXPECT_EQ(Prices(),
+        Table({{"1", QString::number(item), "1234.5000"}, {QString::number(trade), QString::number(item), "0.0000"}}));
+}
+
+TEST_F(ItemSave, NumberBarCodeAndNameInUseAreAskedForInThisOrder)
+{
+    Item("saw").Number("o'7").Barcode("400").Add();
+    Open(NewRow);
+    Type(form->txtFields_3, "O'7");
+    Type(form->txtFields_0, "400");
+    Type(form->txtFields_5, "Saw");
+    Type(form->txtFields_6, "many");
+
+    const QString number = "The Item Number is already in use. Continue anyway?";
+    const QString barcode = "The Barcode is already in use. Continue anyway?";
+    const QString name = "The Name is already in use. Continue anyway?";
+    answers.Expect(number, Icon::Exclamation, Buttons::YesNoCancel, Answer::Cancel);
+    Click(form->cmdOk);
+    answers.Expect(number, Answer::Yes);
+    answers.Expect(barcode, Icon::Exclamation, Buttons::YesNoCancel, Answer::No);
+    Click(form->cmdOk);
+    answers.Expect(number, Answer::Yes);
+    answers.Expect(barcode, Answer::Yes);
+    answers.Expect(name, Icon::Exclamation, Buttons::YesNoCancel, Answer::No);
+    Click(form->cmdOk);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Count("item"), 1);
+    EXPECT_EQ(form->txtFields_6->text(), "many") << "entries are repaired after the last question";
+
+    for (const QString& question : {number, barcode, name})
+        answers.Expect(question, Answer::Yes);
+    SaveAndClose();
+    EXPECT_EQ(Count("item"), 2);
+}
+
+struct NumberText {
+    const char* text;
+    const char* inNewItem;
+    const char* inEditedItem; ///< nothing: ends the program
+};
+class NumberTexts : public ItemSave, public testing::WithParamInterface<NumberText> { };
+
+TEST_P(NumberTexts, AreReadByTheNumberRulesInANewItemAndByTheStatementInAnEditedOne)
+{
+    Open(NewRow);
+    Type(form->txtFields_6, GetParam().text);
+    SaveAndClose();
+    EXPECT_EQ(SavedItem()[0][8], GetParam().inNewItem);
+
+    Open(gEditItemId);
+    Type(form->txtFields_6, GetParam().text);
+    Type(form->txtFields_5, "Changed");
+    Type(form->txtPriceList_0, "99");
+    ExpectedEnd end;
+    Click(form->cmdOk);
+    EXPECT_EQ(end.Ended(), GetParam().inEditedItem == nullptr);
+    EXPECT_EQ(SavedItem()[0][8], end.Ended() ? GetParam().inNewItem : GetParam().inEditedItem);
+    EXPECT_EQ(SavedItem()[0][1], end.Ended() ? "No Name" : "Changed");
+    EXPECT_EQ(Prices()[0][2], end.Ended() ? "0.0000" : "99.0000") << "nothing is written after the failure";
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, NumberTexts,
+    testing::Values(NumberText{"1e3", "1000.0", "1000.0"}, NumberText{"(5)", "-5.0", "5.0"},
+        NumberText{" 7 ", "7.0", "7.0"}, NumberText{"1,234", "1234.0", nullptr}, NumberText{"$ 3", "3.0", nullptr},
+        NumberText{"5-", "-5.0", nullptr}, NumberText{"1d3", "1000.0", nullptr}, NumberText{"\u0663", "0.0", "0.0"},
+        NumberText{"1e309", "0.0", "0.0"}));
+
+TEST_F(ItemSave, AFailingPriceEndsTheProgramAndWhatWasWrittenBeforeItStays)
+{
+    Open(Item("Saw").Number("7").Price("3").Add());
+    Type(form->txtFields_5, "Sawblade");
+    Type(form->txtPriceList_0, "9E15");
+
+    ExpectedEnd end;
+    Click(form->cmdOk);
+    EXPECT_TRUE(end.Ended());
+    EXPECT_EQ(SavedItem()[0][1], "Sawblade");
+    EXPECT_EQ(Prices()[0][2], "3.0000");
+}
+
+TEST_F(ItemSave, TextsOfAnyKindAreStoredWholeUpToTheirLength)
+{
+    const QString odd = QString::fromUtf8("Zoë's \xF0\x9F\xAA\x9A 50% [a] #1# \"x\" ") + QChar(1) + "\t{name}";
+    Open(NewRow);
+    form->txtFields_5->setText(odd);
+    form->txtFields_1->SetText("one\r\ntwo\nthree" + QString(300, 'x'));
+    form->txtFields_0->setText(QString(60, '7'));
+    SaveAndClose();
+    Open(gEditItemId);
+    EXPECT_EQ(form->txtFields_5->text(), odd);
+    EXPECT_EQ(form->txtFields_1->Text(), ("one\r\ntwo\nthree" + QString(300, 'x')).left(255));
+    EXPECT_EQ(form->txtFields_0->text(), QString(50, '7'));
+    SaveAndClose();
+    EXPECT_EQ(Single("SELECT name FROM item"), odd);
+}
+
+} // namespace

@@ -1,0 +1,157 @@
+#include "inventory/inventory_list.h"
+#include "inventory/receive_stock.h"
+#include "inventory_test.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace {
+
+class ReceiveStock : public FormTest<frmReceiveStock> {
+protected:
+    /// What a scanner or a hand on the keyboard does: keys to whatever has the focus, then Enter.
+    void Enter(const QString& keys)
+    {
+        QWidget* focus = QApplication::focusWidget();
+        ASSERT_TRUE(focus);
+        QTest::keyClicks(focus, keys);
+        QTest::keyClick(focus, Qt::Key_Return);
+    }
+    void Receive(const QString& quantity)
+    {
+        Type(form->txtAddQuantity, quantity);
+        Press(form->txtAddQuantity, Qt::Key_Return);
+    }
+};
+
+TEST_F(ReceiveStock, ListsEveryItemOnceAlsoThoseWithoutATaxRate)
+{
+    Item("Saw").Number("2").Stock(1.5).TaxRate(999).Add();
+    Item("drill").Number("1").Add();
+    Open();
+    CheckForm(*form);
+    EXPECT_EQ(GridTitles(form->gInventory), QStringList({"Number", "Name", "In Stock"}));
+    EXPECT_EQ(GridRows(form->gInventory), Table({{"1", "drill", "0"}, {"2", "Saw", "1.5"}}));
+    EXPECT_EQ(form->txtAddQuantity->text(), "0");
+    EXPECT_EQ(form->gInventory->Row(), 1);
+}
+
+TEST_F(ReceiveStock, AScannerDrivesTheFormAlone)
+{
+    const int saw = Item("Saw").Barcode("111").Stock(5).Add();
+    const int drill = Item("Drill").Barcode("222").Add();
+    Open();
+    Enter("111");
+    EXPECT_TRUE(form->txtAddQuantity->hasFocus());
+    EXPECT_EQ(form->gInventory->CurrentRowData(), saw);
+    Enter("7");
+    EXPECT_TRUE(form->txtBarcode->hasFocus());
+    EXPECT_EQ(form->txtAddQuantity->text(), "0");
+    EXPECT_EQ(form->gInventory->CurrentRowData(), saw) << "the row stays selected";
+    EXPECT_EQ(form->gInventory->TextMatrix(form->gInventory->Row(), 2), "12");
+    Enter("222");
+    Enter("0.5");
+    EXPECT_EQ(Stock(saw), 12);
+    EXPECT_EQ(Stock(drill), 0.5);
+
+    answers.ExpectMessage("Item not found.", Icon::Critical);
+    Enter("333");
+    EXPECT_TRUE(form->txtBarcode->hasFocus());
+    EXPECT_EQ(form->txtBarcode->selectedText(), "333");
+
+    Type(form->txtAddQuantity, "9");
+    Press(form->gInventory, Qt::Key_Return);
+    EXPECT_EQ(Stock(drill), 0.5) << "Enter books in from the quantity box alone";
+}
+
+TEST_F(ReceiveStock, QuantitiesThatAreNoNumberAreRefused)
+{
+    const int saw = Item("Saw").Stock(5).Add();
+    Open();
+    for (const char* text : {"", "abc", "1 2"}) {
+        answers.ExpectMessage(
+            "No valid number has been entered to update. Please enter a valid number and try again.", Icon::Critical);
+        Receive(text);
+        EXPECT_TRUE(form->txtAddQuantity->hasFocus());
+    }
+    EXPECT_EQ(Stock(saw), 5);
+    Receive("-2.5");
+    EXPECT_EQ(Stock(saw), 2.5);
+    Receive("(2)");
+    EXPECT_EQ(Stock(saw), 4.5) << "brackets only group in a statement";
+    Receive("0");
+    EXPECT_EQ(Stock(saw), 4.5);
+}
+
+struct Failing {
+    const char* barcode;
+    const char* quantity;
+};
+class FailingEntry : public ReceiveStock, public testing::WithParamInterface<Failing> { };
+
+TEST_P(FailingEntry, EndsTheProgramWithNothingWritten)
+{
+    const int saw = Item("Saw").Barcode("111").Stock(5).Add();
+    Open();
+    ExpectedEnd end;
+    if (GetParam().barcode) {
+        Type(form->txtBarcode, GetParam().barcode);
+        Click(form->cmdAddBarCodeItem);
+    } else {
+        Type(form->txtAddQuantity, GetParam().quantity);
+        Click(form->cmdUpdateStockLevel);
+    }
+    EXPECT_TRUE(end.Ended());
+    EXPECT_EQ(Stock(saw), 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, FailingEntry,
+    testing::Values(Failing{"O'Brien", nullptr}, Failing{"' OR '1'='1'; DELETE FROM item", nullptr},
+        Failing{nullptr, "1,000"}, Failing{nullptr, "$5"}, Failing{nullptr, "5-"}));
+
+TEST_F(ReceiveStock, OddBarCodesAreLookedUpAsTheyAre)
+{
+    Item("Empty code").Barcode("").Add();
+    const int percent = Item("Percent").Barcode("50%").Add();
+    Open();
+    for (const QString& missing : {QString("%"), QString("5_%"), QString(300, '7')}) {
+        answers.ExpectMessage("Item not found.");
+        Type(form->txtBarcode, missing);
+        Press(form->txtBarcode, Qt::Key_Return);
+    }
+    Type(form->txtBarcode, "50%");
+    Press(form->txtBarcode, Qt::Key_Return);
+    EXPECT_EQ(form->gInventory->CurrentRowData(), percent);
+    Type(form->txtBarcode, "");
+    Press(form->txtBarcode, Qt::Key_Return);
+    EXPECT_EQ(form->gInventory->TextMatrix(form->gInventory->Row(), 1), "Empty code");
+}
+
+TEST_F(ReceiveStock, AStockOfNullStaysNullAndAnEmptyListBooksNothing)
+{
+    Open();
+    Receive("5");
+    EXPECT_EQ(form->txtAddQuantity->text(), "5") << "nothing was booked";
+
+    const int saw = Item("Saw").Add();
+    Run("UPDATE item SET NoInStock = NULL");
+    Open();
+    Receive("5");
+    EXPECT_EQ(Single(QString("SELECT NoInStock FROM item WHERE id = %1").arg(saw)), "NULL");
+    EXPECT_EQ(form->gInventory->TextMatrix(1, 2), "");
+}
+
+TEST_F(ReceiveStock, TheMainListShowsTheOldLevelUntilItsNextLoad)
+{
+    Item("Saw").Stock(5).Add();
+    InventoryList list;
+    list.RefillInvoicePriceLists();
+    Open();
+    Receive("3");
+    Click(form->cmdCancel);
+    EXPECT_EQ(list.gInventory->TextMatrix(1, 4), "5");
+    list.RefreshInventoryList(1, 0);
+    EXPECT_EQ(list.gInventory->TextMatrix(1, 4), "8");
+}
+
+} // namespace
