@@ -1,0 +1,71 @@
+#include "invoicing/add_group_items.h"
+
+#include "config/lists.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+std::vector<GroupItem> GroupItems;
+qint32 GroupItemCount = 0;
+
+namespace {
+
+constexpr int MarginForScrollBar = 400;
+
+void ReadGroupItems(qint64 groupId, qint64 priceListId)
+{
+    Recordset rs =
+        gConnection->Execute(Sql("SELECT item.id, itempricelist.price FROM ItemGroup_Item, Item, ItemPriceList "
+                                 "WHERE ItemPriceList.pricelistid = {priceListId} AND ItemPriceList.itemid = item.id "
+                                 "AND ItemGroup_Item.itemid = item.id AND itemgroupid = {groupId}")
+                                 .Number("priceListId", priceListId)
+                                 .Number("groupId", groupId));
+    for (; !rs.Eof(); rs.MoveNext())
+        GroupItems.push_back({qint32(rs.Long(0)), 1, rs.Money(1)});
+    GroupItemCount = qint32(GroupItems.size());
+}
+
+} // namespace
+
+frmAddGroupItems::frmAddGroupItems(qint64 priceListId, QWidget* parent)
+    : Form("frmAddGroupItems", tr("Add Group Items"), parent)
+    , m_priceListId(priceListId)
+{
+    cmdOk->setText(tr("Add Items to Invoice"));
+    cmdCancel->setText(tr("&Cancel"));
+    auto* caption = new QLabel(tr("Item Groups:"));
+    SetLabelOf(caption, gItemGroups);
+    setLayout(column({
+        instructions(tr("Instructions - select the item group to add to the invoice and then click "
+                        "'Add Items to Invoice'.")),
+        caption,
+        gItemGroups,
+        row({stretch(), cmdOk, cmdCancel}),
+    }));
+    resize(480, 400);
+    layout()->activate();
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+
+    SetUpColumns(gItemGroups, {{QT_TR_NOOP("Name"), 6300, CellAlign::LeftCenter}}, 0);
+    StretchColumn(gItemGroups, 0, MarginForScrollBar);
+    LoadList(gItemGroups, Sql("SELECT id, name FROM itemgroup ORDER BY name"), 1, 0,
+        [](const Recordset& group, GridFill& fill) {
+            fill.Add(group.Text(1));
+            return group.Long(0);
+        });
+
+    On(cmdOk, &QPushButton::clicked, [this] { TakeItems(); });
+    On(gItemGroups, &FlexGrid::DblClick, [this] { TakeItems(); });
+}
+
+void frmAddGroupItems::TakeItems()
+{
+    const qint64 groupId = gItemGroups->CurrentRowData();
+    if (groupId == 0) {
+        MsgBox(
+            tr("No Item Group has been selected. Please select an Item Group to add then try again."), Icon::Critical);
+        return;
+    }
+    ReadGroupItems(groupId, m_priceListId);
+    accept();
+}

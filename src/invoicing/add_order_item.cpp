@@ -1,0 +1,182 @@
+#include "invoicing/add_order_item.h"
+
+#include "config/lists.h"
+#include "invoicing/item_search.h"
+#include "invoicing/order_lines.h"
+#include "platform/focus.h"
+#include "platform/hourglass.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+
+qint32 SelectedItemID = -1;
+qint32 SelectedItemQuantity = 0;
+Currency SelectedItemPrice;
+
+namespace {
+
+constexpr int DescriptionColumn = 2;
+constexpr int ScrollBarMargin = 400; ///< twips
+
+bool IsInStock(qint64 itemId, qint32 quantity)
+{
+    const Recordset item = gConnection->Execute(Sql("SELECT noinstock FROM item WHERE id = {id}").Number("id", itemId));
+    return item.Eof() || item.IsNull(0) || quantity <= item[0].ToDouble();
+}
+
+} // namespace
+
+frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
+    : Form("frmAddOrderItem", tr("Add Order Item"), parent)
+{
+    SetCaptions();
+    BuildLayout();
+    resize(760, 600);
+    SetUpColumns(gItems,
+        {{QT_TR_NOOP("Number"), 1300, CellAlign::LeftCenter}, {QT_TR_NOOP("Name"), 2600, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Description"), 3600, CellAlign::LeftCenter},
+            {QT_TR_NOOP("No In Stock"), 1200, CellAlign::RightCenter},
+            {QT_TR_NOOP("Sale Price"), 1400, CellAlign::RightCenter}},
+        DescriptionColumn);
+    for (int col = 0; col < gItems->Cols(); ++col)
+        gItems->SetColAlignment(col, col <= DescriptionColumn ? CellAlign::LeftCenter : CellAlign::RightCenter);
+    Connect();
+
+    txtQuantityToAdd->setText(QStringLiteral("1"));
+    SelectedItemQuantity = 1;
+    FillCategories();
+    FillPriceLists(cboPriceList);
+    SelectComboByData(cboPriceList, priceListId);
+    DoSearch();
+}
+
+void frmAddOrderItem::SetCaptions()
+{
+    cmdSearch->setText(tr("&Search"));
+    lblItemMatches->setText(tr("Item Matches:"));
+    cmdOk->setText(tr("Add Item to Invoice"));
+    cmdCancel->setText(tr("&Cancel"));
+    SetLabelOf(lblItemMatches, gItems);
+    // Its label counts the matches; the name by which it is read out does not change with them.
+    gItems->setAccessibleName(tr("Item Matches"));
+}
+
+void frmAddOrderItem::BuildLayout()
+{
+    setLayout(column({
+        instructions(tr("Instructions - select the item to add to the invoice and then click 'Add Item to Invoice'. To "
+                        "search for an item select the Category, Sub-Category, Item Name, Item Description and then "
+                        "click 'Search'.")),
+        fieldColumns({
+            {{tr("Category:"), cboCategory}, {tr("Sub Category:"), cboSubCategory}, {tr("Price List:"), cboPriceList}},
+            {{tr("Item Name:"), txtItemName}, {tr("Item Description:"), txtItemDescription},
+                {tr("Item Number:"), txtItemNumber}},
+        }),
+        row({stretch(), cmdSearch}),
+        lblItemMatches,
+        gItems,
+        row({fieldColumns({{{tr("Quantity to Add:"), txtQuantityToAdd}}, {{tr("Price:"), txtItemPrice}}}), stretch(),
+            cmdOk, cmdCancel}),
+    }));
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+}
+
+void frmAddOrderItem::Connect()
+{
+    On(cboCategory, &ComboBox::Click, [this] { FillSubCategories(); });
+    On(cmdSearch, &QPushButton::clicked, [this] { DoSearch(); });
+    On(gItems, &FlexGrid::Click, [this] { ShowPriceOfCurrentItem(); });
+    // The price is that of the current item also when the arrow keys moved on to it.
+    On(gItems->selectionModel(), &QItemSelectionModel::currentRowChanged, [this] { ShowPriceOfCurrentItem(); });
+    On(gItems, &FlexGrid::DblClick, [this] {
+        if (gItems->CurrentRowData() != 0)
+            TakeItem();
+    });
+    On(cmdOk, &QPushButton::clicked, [this] { TakeItem(); });
+    On(cmdCancel, &QPushButton::clicked, [] { SelectedItemID = -1; });
+
+    // Enter in a search field searches.
+    for (TextBox* box : {txtItemName, txtItemDescription, txtItemNumber}) {
+        OnFocusGained(box, [this] { SetDefaultButton(cmdSearch, true); });
+        OnFocusLeft(box, [this] { SetDefaultButton(cmdOk, true); });
+    }
+}
+
+void frmAddOrderItem::resizeEvent(QResizeEvent* event)
+{
+    Form::resizeEvent(event);
+    StretchColumn(gItems, DescriptionColumn, ScrollBarMargin);
+}
+
+void frmAddOrderItem::FillCategories()
+{
+    cboCategory->AddItem(tr("All Categories"), 0);
+    cboCategory->AddItem(tr("No Category"), 1);
+    FillCombo(cboCategory, Sql("SELECT id, name FROM category WHERE id<>1 ORDER BY name"));
+    cboCategory->SetListIndex(0);
+}
+
+void frmAddOrderItem::FillSubCategories()
+{
+    cboSubCategory->Clear();
+    cboSubCategory->AddItem(tr("All Sub-Categories"), 0);
+    if (cboCategory->SelectedData() != 0)
+        FillCombo(cboSubCategory,
+            Sql("SELECT id, name FROM subcategory WHERE categoryid = {categoryId} ORDER BY name")
+                .Number("categoryId", cboCategory->SelectedData()));
+    cboSubCategory->SetListIndex(0);
+}
+
+void frmAddOrderItem::DoSearch()
+{
+    const Hourglass hourglass;
+    lblItemMatches->setText(tr("Searching..."));
+    lblItemMatches->repaint();
+
+    const Sql items = ItemSearchStatement({txtItemName->text(), txtItemDescription->text(), txtItemNumber->text(),
+        cboSubCategory->SelectedData(), cboCategory->SelectedData()});
+    LoadList(gItems, items, 1, 0, [this](const Recordset& item, GridFill& fill) {
+        enum { Id, Number, Name, Description, NoInStock };
+        fill.Add(item.Text(Number));
+        fill.Add(item.Text(Name));
+        fill.Add(item.Text(Description));
+        fill.Add(NullToText(item[NoInStock]));
+        fill.Add(PriceText(item.Long(Id)));
+        return item.Long(Id);
+    });
+
+    lblItemMatches->setText(tr("%1 Item Matches:").arg(gItems->Rows() - 1));
+    ShowPriceOfCurrentItem();
+}
+
+void frmAddOrderItem::ShowPriceOfCurrentItem()
+{
+    if (const qint64 itemId = gItems->CurrentRowData(); itemId != 0)
+        txtItemPrice->setText(PriceText(itemId));
+}
+
+QString frmAddOrderItem::PriceText(qint64 itemId) const
+{
+    return FormatCurrency(ListPrice(qint32(itemId), cboPriceList->SelectedData()));
+}
+
+void frmAddOrderItem::TakeItem()
+{
+    const QString quantity = txtQuantityToAdd->text();
+    SelectedItemQuantity = IsNumeric(quantity) ? CLng(quantity) : 1;
+    if (!IsNumeric(txtItemPrice->text()))
+        txtItemPrice->setText(QStringLiteral("0"));
+
+    const qint64 itemId = gItems->CurrentRowData();
+    if (!IsInStock(itemId, SelectedItemQuantity)) {
+        MsgBox(tr("This item does not have enough items in stock. To add this item first increase the total number in "
+                  "stock."),
+            Icon::Critical);
+        txtQuantityToAdd->FocusAll();
+        return;
+    }
+    SelectedItemPrice = CCur(txtItemPrice->text());
+    SelectedItemID = qint32(itemId);
+    accept();
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/combo_box.h"
+#include "platform/currency.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+#include "platform/text_box.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+/// What frmAddOrderItem hands back: the item (-1 for none), how many of it, and its price before tax and discount.
+extern qint32 SelectedItemID;
+extern qint32 SelectedItemQuantity;
+extern Currency SelectedItemPrice;
+
+/// Finds an item and says how many of it go on the invoice at which price. Writes nothing to the database; the result
+/// is in the globals above, and SelectedItemID stays as the caller set it when the window is just closed.
+class frmAddOrderItem : public Form {
+    Q_OBJECT
+public:
+    /// Opens with all items at the prices of `priceListId`, the list of the invoice's customer.
+    frmAddOrderItem(qint64 priceListId, QWidget* parent);
+
+    /// Refills the list by the search fields and makes the first match the current one.
+    void DoSearch();
+
+    CONTROL(ComboBox, cboCategory);
+    CONTROL(ComboBox, cboSubCategory);
+    CONTROL(TextBox, txtItemName);
+    CONTROL(TextBox, txtItemDescription);
+    CONTROL(TextBox, txtItemNumber);
+    CONTROL(QPushButton, cmdSearch);
+    CONTROL(ComboBox, cboPriceList);
+    CONTROL(QLabel, lblItemMatches);
+    CONTROL(FlexGrid, gItems);
+    CONTROL(TextBox, txtQuantityToAdd);
+    CONTROL(TextBox, txtItemPrice);
+    CONTROL(QPushButton, cmdOk);
+    CONTROL(QPushButton, cmdCancel);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void SetCaptions();
+    void BuildLayout();
+    void Connect();
+    void FillCategories();
+    void FillSubCategories();
+    void ShowPriceOfCurrentItem();
+    QString PriceText(qint64 itemId) const;
+    void TakeItem();
+};

@@ -1,0 +1,101 @@
+#include "invoicing/customer_search.h"
+
+#include "config/lists.h"
+#include "platform/hourglass.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+int SelectedCustomerID = -1;
+
+namespace {
+
+/// The clause for one name; "" for an empty box.
+QString NameClause(const char* field, const QString& text)
+{
+    if (text.isEmpty())
+        return {};
+    return Sql("{field} LIKE '%{text}%'").Raw("field", QLatin1String(field)).Text("text", text).Filled();
+}
+
+Sql SearchStatement(const QString& firstName, const QString& lastName)
+{
+    const QString first = NameClause("firstname", firstName);
+    const QString last = NameClause("lastname", lastName);
+    const QString either = first.isEmpty() || last.isEmpty() ? first + last : first + QStringLiteral(" OR ") + last;
+    return Sql("SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer "
+               "WHERE {names} ORDER BY lastname, firstname")
+        .Raw("names", either.isEmpty() ? QStringLiteral(" id = id ") : either);
+}
+
+QString AddressText(const Recordset& customer)
+{
+    const QString first = NullToText(customer["address1"]);
+    const QString second = NullToText(customer["address2"]);
+    return second.isEmpty() ? first : first + QStringLiteral(", ") + second;
+}
+
+} // namespace
+
+frmResCustSearch::frmResCustSearch(const QString& firstName, const QString& lastName, QWidget* parent)
+    : Form("frmResCustSearch", tr("Customer Search"), parent)
+{
+    cmdOk->setText(tr("&Start Search"));
+    cmdSelect->setText(tr("S&elect"));
+    cmdCancel->setText(tr("&Close"));
+    auto* results = new QLabel(tr("Search Results:"));
+    SetLabelOf(results, gcust);
+    setLayout(column({
+        fields({{tr("First Name:"), txtFirstname}, {tr("Last Name:"), txtLastname}}),
+        row({stretch(), cmdOk}),
+        results,
+        gcust,
+        row({stretch(), cmdSelect, cmdCancel}),
+    }));
+    resize(680, 460);
+    cmdOk->setDefault(true);
+    cmdSelect->setAutoDefault(false);
+    SetCancelButton(cmdCancel);
+
+    SetUpColumns(gcust,
+        {{QT_TR_NOOP("Name"), 2700, CellAlign::LeftCenter}, {QT_TR_NOOP("Address"), 3600, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Postcode"), 1300, CellAlign::LeftCenter}, {QT_TR_NOOP("Phone"), 1700, CellAlign::LeftCenter}},
+        1);
+    txtFirstname->setText(firstName);
+    txtLastname->setText(lastName);
+
+    On(cmdOk, &QPushButton::clicked, [this] { RefreshCustomerScreen(); });
+    On(cmdSelect, &QPushButton::clicked, [this] { SelectCustomer(); });
+    On(gcust, &FlexGrid::DblClick, [this] { SelectCustomer(); });
+}
+
+void frmResCustSearch::RefreshCustomerScreen()
+{
+    ListMatches();
+    if (!cmdSelect->isEnabled())
+        MsgBox(
+            tr("No matches found. Please try again or press Close to enter new customer details."), Icon::Information);
+}
+
+void frmResCustSearch::ListMatches()
+{
+    const Hourglass hourglass;
+    cmdSelect->setEnabled(false);
+    LoadList(gcust, SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0,
+        [](const Recordset& customer, GridFill& fill) {
+            fill.Add(NullToText(customer["firstname"]) + QLatin1Char(' ') + NullToText(customer["lastname"]));
+            fill.Add(AddressText(customer));
+            fill.Add(customer.Text(5));
+            fill.Add(customer.Text(6));
+            return customer.Long(0);
+        });
+    cmdSelect->setEnabled(gcust->Rows() > 1);
+}
+
+void frmResCustSearch::SelectCustomer()
+{
+    // An empty list has nothing to pick: its title row is no customer.
+    if (!cmdSelect->isEnabled())
+        return;
+    SelectedCustomerID = ToInteger16(gcust->CurrentRowData());
+    accept();
+}

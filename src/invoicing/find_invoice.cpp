@@ -1,0 +1,101 @@
+#include "invoicing/find_invoice.h"
+
+#include "config/lists.h"
+#include "platform/clock.h"
+#include "platform/dates.h"
+#include "platform/hourglass.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+qint16 SelectedInvoiceID = -1;
+bool InvoiceSelected = false;
+
+namespace {
+
+constexpr int BusinessNameColumn = 1;
+constexpr int ScrollBarMargin = 400; ///< twips
+
+} // namespace
+
+frmFindInvoice::frmFindInvoice(QWidget* parent)
+    : Form("frmFindInvoice", tr("Find Invoice"), parent)
+{
+    cmdOk->setText(tr("&Start Search"));
+    cmdEditCustomer->setText(tr("View/Edit Invoice"));
+    cmdCancel->setText(tr("&Close"));
+    gres->setAccessibleName(tr("Matches"));
+    for (DatePicker* date : {dtFromDate, dtToDate}) {
+        date->SetCheckBox(true);
+        date->SetValue(Now());
+    }
+
+    setLayout(column({
+        row({fields({{tr("From Date:"), dtFromDate}, {tr("To Date:"), dtToDate}}), stretch(), cmdOk}),
+        gres,
+        row({fields({{tr("Total matches:"), lblTotalCustomers}}), stretch(), cmdEditCustomer, cmdCancel}),
+    }));
+    resize(600, 440);
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    SetUpColumns(gres,
+        {{QT_TR_NOOP("Contact Name"), 3000, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Business Name"), 3000, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Invoice Date"), 1600, CellAlign::LeftCenter}},
+        BusinessNameColumn);
+
+    On(cmdOk, &QPushButton::clicked, [this] { Search(); });
+    On(cmdEditCustomer, &QPushButton::clicked, [this] { TakeInvoice(); });
+    On(gres, &FlexGrid::DblClick, [this] {
+        if (gres->MouseRow() != 0)
+            TakeInvoice();
+    });
+}
+
+void frmFindInvoice::resizeEvent(QResizeEvent* event)
+{
+    Form::resizeEvent(event);
+    StretchColumn(gres, BusinessNameColumn, ScrollBarMargin);
+}
+
+void frmFindInvoice::Search()
+{
+    if (!dtFromDate->Value() && !dtToDate->Value()) {
+        MsgBox(
+            tr("No criteria to search by has been entered. Please enter some details and try again."), Icon::Critical);
+        return;
+    }
+    const Hourglass hourglass;
+    // One date alone leaves the other one empty, which the statement does not survive.
+    const Sql invoices =
+        Sql("SELECT invoice.id, businessname, invoice.SubmittedDate as isubmitteddate, firstname, "
+            "lastname FROM invoice, customer WHERE invoice.customerid = customer.id "
+            "AND invoice.SubmittedDate >= #{from} 12:00AM# AND invoice.SubmittedDate <= #{to} 11:59PM# "
+            "ORDER BY invoice.SubmittedDate")
+            .Raw("from", DateToYmd(dtFromDate->Value()))
+            .Raw("to", DateToYmd(dtToDate->Value()));
+    ShortDateWriter shortDate;
+    std::string name;
+    LoadList(gres, invoices, 1, 0, [&](const Recordset& invoice, GridFill& fill) {
+        enum { Id, BusinessName, SubmittedDate, FirstName, LastName };
+        name.assign(invoice.Text(FirstName)).append(1, ' ').append(invoice.Text(LastName));
+        fill.Add(name);
+        fill.Add(invoice.Text(BusinessName));
+        fill.Add(shortDate(invoice.StoredText(SubmittedDate)));
+        return invoice.Long(Id);
+    });
+    lblTotalCustomers->setText(QString::number(gres->Rows() - 1));
+}
+
+void frmFindInvoice::TakeInvoice()
+{
+    const qint64 invoiceId = gres->CurrentRowData();
+    if (invoiceId == 0) {
+        // The words are those of an older vocabulary, and users know them.
+        MsgBox(tr("No reservation has been selected. Select a reservation to to view or edit and try again."),
+            Icon::Critical);
+        return;
+    }
+    SelectedInvoiceID = qint16(ToInteger16(invoiceId));
+    InvoiceSelected = true;
+    accept();
+}

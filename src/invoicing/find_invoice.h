@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/date_picker.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+/// What frmFindInvoice hands back. The caller resets both (-1, false) before it shows the form.
+extern qint16 SelectedInvoiceID;
+extern bool InvoiceSelected;
+
+/// Finds invoices by their date and picks one of them to open. Its ids are 16 bits wide: picking an invoice with a
+/// greater one is an overflow.
+class frmFindInvoice : public Form {
+    Q_OBJECT
+public:
+    explicit frmFindInvoice(QWidget* parent);
+
+    CONTROL(DatePicker, dtFromDate);
+    CONTROL(DatePicker, dtToDate);
+    CONTROL(QPushButton, cmdOk);
+    CONTROL(FlexGrid, gres);
+    CONTROL(QLabel, lblTotalCustomers);
+    CONTROL(QPushButton, cmdEditCustomer);
+    CONTROL(QPushButton, cmdCancel);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void Search();
+    void TakeInvoice();
+};

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "platform/combo_box.h"
+#include "platform/currency.h"
+#include "platform/date_picker.h"
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+#include "platform/text_box.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+/// The invoice page: the one invoice that is open, new or old. It has no Save button and keeps no copy of the data:
+/// each control writes through when the focus leaves it, so the rows are as current as the last control left.
+///
+/// The main window fills cboPaymentMethod and the columns of gNewInvoice when it loads.
+class InvoicePage : public Panel {
+    Q_OBJECT
+public:
+    explicit InvoicePage(QWidget* parent);
+
+    /// Opens gCurrentInvoiceId, or a new invoice when that is -1. To be called when the panel shows.
+    void ShowInvoicePage();
+    /// Captions or hides the secondary tax as it is set up now.
+    void ShowSecondaryTax();
+
+    /// Clears the page and adds the Invoice row with the next number, which is only read. Sets both current ids.
+    void CreateNewInvoice();
+    /// Fills the page from the row gCurrentInvoiceId. Without such a row the page stays as it is.
+    void EditInvoice();
+    /// Fills the customer section; empties it when there is no such customer.
+    void LoadCustomerDetailsIntoInvoice(qint32 customerId);
+    /// Writes the customer and the invoice as they stand on the page; adds the Customer row if the invoice has none
+    /// yet. Writes nothing while no invoice is open.
+    void UpdateInvoiceEdit();
+    /// Refills the lines and the totals. The line `selectId` is selected, else row `selectRow` or the last one.
+    void RefreshNewInvoiceItemsList(int selectRow, qint64 selectId);
+
+    CONTROL(TextBox, txtFirstname);
+    CONTROL(TextBox, txtLastname);
+    CONTROL(TextBox, txtBusinessName);
+    CONTROL(TextBox, txtAddress1);
+    CONTROL(TextBox, txtAddress2);
+    CONTROL(TextBox, txtCity);
+    CONTROL(TextBox, txtState);
+    CONTROL(QLabel, lblPostCode);
+    CONTROL(TextBox, txtPostcode);
+    CONTROL(TextBox, txtCountry);
+    CONTROL(TextBox, txtPhone);
+    CONTROL(TextBox, txtFax);
+    CONTROL(TextBox, txtEmail);
+    CONTROL(TextBox, txtDiscount);
+    CONTROL(ComboBox, cboPriceList);
+    CONTROL(QPushButton, cmdNewInvoiceCustSearch);
+    CONTROL(QPushButton, cmdNewInvoiceCustReset);
+    CONTROL(TextBox, lblInvoiceNo);
+    CONTROL(DatePicker, lblInvoiceDate);
+    CONTROL(DatePicker, dtShippedDate);
+    CONTROL(QCheckBox, chkWarrantyInvoice);
+    CONTROL(QWidget, picBarcode);
+    CONTROL(TextBox, txtBarcode);
+    CONTROL(QPushButton, cmdAddBarCodeItem);
+    CONTROL(FlexGrid, gNewInvoice);
+    CONTROL(QPushButton, cmdAddOrderItem);
+    CONTROL(QPushButton, cmdEditOrderItem);
+    CONTROL(QPushButton, cmdDeleteOrderItem);
+    CONTROL(QPushButton, cmdAddGroupItems);
+    CONTROL(QWidget, picNewInvoiceBotBit);
+    CONTROL(ComboBox, cboPaymentMethod);
+    CONTROL(TextBox, txtAmountPayed);
+    CONTROL(QCheckBox, chkPaid);
+    CONTROL(MultiLineTextBox, txtNotes);
+    CONTROL_AT(QLabel, lblLabels, 26);
+    CONTROL(QLabel, lblSecondTax);
+    CONTROL(QLabel, lblTotal);
+    CONTROL(QWidget, picNewInvoiceBotButts);
+    CONTROL(QPushButton, cmdCompleteInvoice);
+    CONTROL(QPushButton, cmdCancelInvoice);
+    CONTROL(QPushButton, cmdPrintPickingList);
+    CONTROL(QPushButton, cmdCloseInvoice);
+
+signals:
+    /// Work on the invoice has ended; the invoice history is to show.
+    void Left();
+
+private:
+    struct CustomerBox {
+        TextBox* box;
+        const char* field;
+    };
+    /// The customer's text boxes and the fields behind them; the discount, a number, is not among them.
+    std::array<CustomerBox, 12> CustomerBoxes() const;
+
+    QLayout* CustomerSection();
+    QLayout* LinesSection();
+    QLayout* PaymentAndTotals();
+    QLayout* EndButtons();
+    void SetCaptions();
+    void ConnectSaves();
+    void ConnectCommands();
+
+    void FillPriceListChoice();
+    void PriceListChosen();
+    void EmptyCustomerBoxes();
+    void LoadInvoiceFields();
+    qint32 AddInvoice(const QDateTime& submitted);
+    void ShowTotals(double secondTax, double total);
+
+    void CorrectDiscount();
+    void UpdateCustomer();
+    qint32 AddCustomer();
+    void UpdateInvoice();
+
+    void SearchCustomer();
+    void ResetCustomer();
+    void AddOrderItem();
+    void AddBarCodeItem();
+    void AddGroupItems();
+    bool AddChosenGroupItems();
+    void EditOrderItem();
+    void EditLine(qint64 lineId);
+    void DeleteOrderItem();
+    bool AddLine(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice);
+    qint32 QuantityInRow(int row) const;
+    void CompleteInvoice();
+    void CloseInvoice();
+    void CancelInvoice();
+    void PrintPickingList();
+    void PutAwayAndRaiseNextNumber();
+};

@@ -1,0 +1,181 @@
+#include "invoicing/invoice_page.h"
+#include "platform/focus.h"
+#include "platform/layout.h"
+#include "platform/numbers.h"
+
+namespace {
+
+/// A bar at the bottom of the page: as wide as the page, as high as its content.
+void FillBar(QWidget* bar, QLayout* content)
+{
+    content->setContentsMargins(0, 0, 0, 0);
+    bar->setLayout(content);
+    bar->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QLabel* CaptionOver(const QString& text, QWidget* control)
+{
+    auto* caption = new QLabel(text);
+    SetLabelOf(caption, control);
+    return caption;
+}
+
+/// A figure stands right-aligned under the others and can be copied.
+void ShowAsFigure(QLabel* label)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+} // namespace
+
+InvoicePage::InvoicePage(QWidget* parent)
+    : Panel("picNewInvoice", parent)
+{
+    SetCaptions();
+    FillBar(picBarcode, row({CaptionOver(tr("Bar Code:"), txtBarcode), txtBarcode, cmdAddBarCodeItem}));
+    FillBar(picNewInvoiceBotBit, PaymentAndTotals());
+    FillBar(picNewInvoiceBotButts, EndButtons());
+    auto* page = column({
+        head(tr("New Invoice"),
+            tr("Instructions -  Enter your customer's details and/or click Customer Search to locate an existing "
+               "customer. Add your invoice items and then click Complete Invoice.")),
+        heading(tr("Enter your customer's details:")),
+        CustomerSection(),
+        row({cmdNewInvoiceCustSearch, cmdNewInvoiceCustReset, stretch(), picBarcode}),
+        LinesSection(),
+        picNewInvoiceBotBit,
+        picNewInvoiceBotButts,
+    });
+    page->setContentsMargins(9, 6, 9, 6);
+    page->setSpacing(5);
+    setLayout(page);
+
+    ConnectSaves();
+    ConnectCommands();
+}
+
+void InvoicePage::SetCaptions()
+{
+    lblPostCode->setText(tr("Zip/Post Code:"));
+    cmdNewInvoiceCustSearch->setText(tr("Customer &Search"));
+    cmdNewInvoiceCustReset->setText(tr("&Reset Customer"));
+    chkWarrantyInvoice->setText(tr("Warranty Invoice"));
+    cmdAddBarCodeItem->setText(tr("Add From Bar Code"));
+    cmdAddOrderItem->setText(tr("Add Order Item"));
+    cmdEditOrderItem->setText(tr("Edit Order Item"));
+    cmdDeleteOrderItem->setText(tr("Delete Order Item"));
+    cmdAddGroupItems->setText(tr("Add Group Items"));
+    chkPaid->setText(tr("Paid in full"));
+    lblLabels_26->setText(tr("Secondary Tax:"));
+    cmdCompleteInvoice->setText(tr("Complete Invoice"));
+    cmdCancelInvoice->setText(tr("Cancel Invoice"));
+    cmdPrintPickingList->setText(tr("Picking List"));
+    cmdCloseInvoice->setText(tr("Close"));
+}
+
+QLayout* InvoicePage::CustomerSection()
+{
+    dtShippedDate->SetCheckBox(true);
+    QGridLayout* section = fieldColumns({
+        {{tr("First Name:"), txtFirstname}, {tr("Last Name:"), txtLastname}, {tr("Business Name:"), txtBusinessName},
+            {tr("Address:"), txtAddress1}, {tr("Address:"), txtAddress2}},
+        {{tr("City:"), txtCity}, {tr("State:"), txtState}, {lblPostCode, txtPostcode}, {tr("Country:"), txtCountry},
+            {tr("Phone:"), txtPhone}},
+        {{tr("Fax:"), txtFax}, {tr("Email:"), txtEmail}, {tr("Discount:"), txtDiscount},
+            {tr("Price List:"), cboPriceList}},
+        {{tr("Invoice No:"), lblInvoiceNo}, {tr("Invoice Date:"), lblInvoiceDate}, {tr("Shipped Date:"), dtShippedDate},
+            {QString(), chkWarrantyInvoice}},
+    });
+    section->setVerticalSpacing(3);
+    return section;
+}
+
+QLayout* InvoicePage::LinesSection()
+{
+    constexpr CellAlign Alignments[] = {CellAlign::CenterCenter, CellAlign::LeftCenter, CellAlign::LeftCenter,
+        CellAlign::RightCenter, CellAlign::LeftCenter, CellAlign::RightCenter};
+    gNewInvoice->SetCols(int(std::size(Alignments)));
+    for (int col = 0; col < gNewInvoice->Cols(); ++col)
+        gNewInvoice->SetColAlignment(col, Alignments[col]);
+
+    auto* grid = row(
+        {gNewInvoice, column({cmdAddOrderItem, cmdEditOrderItem, cmdDeleteOrderItem, cmdAddGroupItems, stretch()})});
+    auto* section = column({CaptionOver(tr("Items Ordered:"), gNewInvoice), grid});
+    section->setStretchFactor(grid, 1);
+    return section;
+}
+
+QLayout* InvoicePage::PaymentAndTotals()
+{
+    auto* payment = fields({
+        {tr("Payment Method:"), cboPaymentMethod},
+        {tr("Amount Payed:"), txtAmountPayed},
+        {QString(), chkPaid},
+    });
+    auto* notes = column({CaptionOver(tr("Invoice Notes:"), txtNotes), txtNotes, stretch()});
+    // The bar is as high as the payments beside the notes, not as the notes would like to be.
+    txtNotes->setFixedHeight(txtNotes->minimumSizeHint().height());
+
+    // The secondary tax's caption is no buddy: "&" in the name of a tax is a letter.
+    lblLabels_26->setTextFormat(Qt::PlainText);
+    auto* totalCaption = new QLabel(tr("Total:"));
+    lblTotal->setAccessibleName(tr("Total"));
+    QFont bold = lblTotal->font();
+    bold.setBold(true);
+    lblTotal->setFont(bold);
+    totalCaption->setFont(bold);
+    ShowAsFigure(lblSecondTax);
+    ShowAsFigure(lblTotal);
+    auto* totals = new QGridLayout;
+    totals->addWidget(lblLabels_26, 0, 0);
+    totals->addWidget(lblSecondTax, 0, 1);
+    totals->addWidget(totalCaption, 1, 0);
+    totals->addWidget(lblTotal, 1, 1);
+    totals->setColumnMinimumWidth(1, 110);
+    totals->setRowStretch(2, 1);
+
+    auto* payments = column({new QLabel(tr("Customer Payments:")), payment, stretch()});
+    auto* bar = row({payments, gap(12), notes, gap(12), totals});
+    bar->setStretchFactor(notes, 1);
+    return bar;
+}
+
+QLayout* InvoicePage::EndButtons()
+{
+    return row({cmdCompleteInvoice, cmdCancelInvoice, cmdPrintPickingList, stretch(), cmdCloseInvoice});
+}
+
+void InvoicePage::ConnectSaves()
+{
+    for (const CustomerBox& entry : CustomerBoxes())
+        OnFocusLeft(entry.box, [this] { UpdateInvoiceEdit(); });
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             txtDiscount, txtNotes, lblInvoiceNo, cboPriceList, cboPaymentMethod, chkPaid, chkWarrantyInvoice})
+        OnFocusLeft(control, [this] { UpdateInvoiceEdit(); });
+    On(lblInvoiceDate, &DatePicker::Change, [this] { UpdateInvoiceEdit(); });
+    On(dtShippedDate, &DatePicker::Change, [this] { UpdateInvoiceEdit(); });
+}
+
+void InvoicePage::ConnectCommands()
+{
+    On(cboPriceList, &ComboBox::Click, [this] { PriceListChosen(); });
+    OnFocusLeft(txtAmountPayed,
+        [this] { Ignoring([this] { txtAmountPayed->setText(FormatCurrency(txtAmountPayed->text())); }); });
+    OnFocusGained(txtBarcode, [this] { SetDefaultButton(cmdAddBarCodeItem, true); });
+    OnFocusLeft(txtBarcode, [this] { SetDefaultButton(cmdAddBarCodeItem, false); });
+
+    On(cmdNewInvoiceCustSearch, &QPushButton::clicked, [this] { SearchCustomer(); });
+    On(cmdNewInvoiceCustReset, &QPushButton::clicked, [this] { ResetCustomer(); });
+    On(cmdAddBarCodeItem, &QPushButton::clicked, [this] { AddBarCodeItem(); });
+    On(cmdAddOrderItem, &QPushButton::clicked, [this] { AddOrderItem(); });
+    On(cmdEditOrderItem, &QPushButton::clicked, [this] { EditOrderItem(); });
+    On(gNewInvoice, &FlexGrid::DblClick, [this] { EditOrderItem(); });
+    On(cmdDeleteOrderItem, &QPushButton::clicked, [this] { DeleteOrderItem(); });
+    On(cmdAddGroupItems, &QPushButton::clicked, [this] { AddGroupItems(); });
+    On(cmdCompleteInvoice, &QPushButton::clicked, [this] { CompleteInvoice(); });
+    On(cmdCancelInvoice, &QPushButton::clicked, [this] { CancelInvoice(); });
+    On(cmdPrintPickingList, &QPushButton::clicked, [this] { PrintPickingList(); });
+    On(cmdCloseInvoice, &QPushButton::clicked, [this] { CloseInvoice(); });
+}

@@ -1,0 +1,177 @@
+#include "invoicing/invoice_report.h"
+
+#include "config/secondary_tax.h"
+#include "db/connection.h"
+#include "db/data_environment.h"
+#include "invoicing/invoice_report_design.h"
+#include "invoicing/invoice_report_style.h"
+#include "platform/clock.h"
+#include "platform/dates.h"
+#include "platform/dialogs.h"
+#include "platform/guard.h"
+#include "platform/numbers.h"
+#include "platform/report_band.h"
+#include "platform/report_picture.h"
+
+#include <QObject>
+#include <QPrinter>
+
+namespace {
+const QString RepInvoice = QStringLiteral("repInvoice");
+
+void RegisterRepInvoice()
+{
+    if (DataEnvironment().Has(RepInvoice))
+        return;
+    DataEnvironment().Register({
+        RepInvoice,
+        "SELECT Customer.*, Invoice.* FROM Customer, Invoice WHERE Invoice.CustomerID = Customer.ID AND Invoice.id = "
+        "{prmInvID}",
+        "SELECT *, quantity * (taxratepercentage/100*amount+amount) AS taxsubtotal, quantity * "
+        "(taxratepercentage/100*amount) AS taxsubtotal2 FROM invoiceline",
+        " WHERE InvoiceID = {parentKey}",
+        "Invoice.ID",
+        {{"Aggregate1", "taxsubtotal"}, {"Aggregate2", "taxsubtotal2"}},
+    });
+}
+
+/// A statement about one invoice, on the connection of the screens.
+Recordset AboutInvoice(const char* statement, qint32 invoiceId)
+{
+    return gConnection->Execute(Sql(statement).Number("gCurrentInvoiceId", invoiceId));
+}
+
+QString CustomerName(qint32 invoiceId)
+{
+    const Recordset row = AboutInvoice("SELECT firstname, lastname FROM invoice, customer WHERE invoice.customerid = "
+                                       "customer.id AND invoice.id = {gCurrentInvoiceId}",
+        invoiceId);
+    return row.Eof() ? QString() : NullToText(row["firstname"]) + " " + NullToText(row["lastname"]);
+}
+
+void SetReportFieldFormat(ReportControl& field, const QString& format)
+{
+    field.format = format;
+}
+
+void FormatAmounts(Report& report)
+{
+    for (const char* field : {"txtAmount", "txttaxsubtotal", "Text1", "Text2"})
+        SetReportFieldFormat(report.Control(field), "Currency");
+}
+
+QString BusinessAddress(const Recordset& settings)
+{
+    QString address;
+    for (const char* field : {"businessname", "Address1", "Address2", "City", "State", "PostCode", "Country"})
+        address += GetS(settings[field]);
+    return address + GetS(Value(QObject::tr("Phone: ") + NullToText(settings["Phone"])));
+}
+
+// A logo needs no more than what a printer shows of its place.
+void ShowLogo(Report& report, const QString& path)
+{
+    constexpr QSize MostPixels(1200, 1200);
+    report.Control("imgLogo").picture = ReadPicture(path, MostPixels);
+}
+
+void ShowBusiness(Report& report)
+{
+    const Recordset settings = gConnection->Execute("SELECT businessname, Address1, Address2, City, State, PostCode, "
+                                                    "Country, Phone, Email, Logofilename FROM Settings");
+    if (settings.Eof())
+        return;
+    ReportControl& address = report.Control("lblBusinessAddress");
+    address.caption = BusinessAddress(settings);
+    const QString logo = NullToText(settings["Logofilename"]);
+    if (!logo.isEmpty()) {
+        ShowLogo(report, logo);
+    } else {
+        address.width += address.left;
+        address.left = 0;
+    }
+}
+
+void HideColumns(Report& report, const InvoiceStyle& style)
+{
+    for (const char* control : {"Label7", "txtTaxRatePercentage", "txtTaxRateName", "Label12", "Text1"})
+        report.Control(control).visible = !style.hideTax;
+    if (style.hideOurPrice)
+        for (const char* control : {"Label9", "txtAmount"})
+            report.Control(control).visible = false;
+}
+
+Currency StoredSecondTax(qint32 invoiceId)
+{
+    const Recordset row = AboutInvoice("SELECT total2ndTax FROM invoice WHERE id = {gCurrentInvoiceId}", invoiceId);
+    const QString text = row.Eof() ? QString() : NullToText(row["total2ndTax"]);
+    return text.isEmpty() ? Currency() : CCur(text);
+}
+
+void ShowSecondTax(Report& report)
+{
+    ReportControl& name = report.Control("TaxName2");
+    if (SecondaryTaxEnable)
+        name.caption = SecondaryTaxName;
+    name.visible = SecondaryTaxEnable;
+    report.Control("txtTotal2ndTax").visible = SecondaryTaxEnable;
+}
+
+void ShowGrandTotal(Report& report, qint32 invoiceId, Currency secondTax)
+{
+    const Recordset row = AboutInvoice("SELECT sum (quantity * (taxratepercentage/100*amount+amount)) AS subtotal FROM "
+                                       "invoiceline WHERE invoiceid = {gCurrentInvoiceId}",
+        invoiceId);
+    if (row.Eof())
+        return;
+    const Value subtotal = row["subtotal"];
+    double total = subtotal.IsNull() ? 0 : subtotal.ToDouble();
+    if (SecondaryTaxEnable)
+        total += secondTax.ToDouble();
+    report.Control("GrandTotal").caption = FormatCurrency(total);
+}
+
+// The title tells one open preview, and one saved file, from the next.
+void SetTitle(Report& report)
+{
+    const ReportTable& parent = report.rows->parents;
+    const QString number =
+        parent.Count() > 0 ? ReportValueText(parent.At(0, parent.Field("InvoiceNo")), QString()) : QString();
+    report.title = (report.Control("Label6").caption + " " + number).trimmed();
+}
+} // namespace
+
+QString GetS(const Value& value)
+{
+    const QString lineBreak = QStringLiteral("\r\n");
+    if (value.IsNull())
+        return lineBreak;
+    const QString text = value.ToText();
+    return text.isEmpty() ? text : text + lineBreak;
+}
+
+Report PrepareInvoice(qint32 invoiceId, bool isWarranty)
+{
+    RegisterRepInvoice();
+    Report report = InvoiceDesign();
+    if (DataEnvironment().IsOpen(RepInvoice))
+        DataEnvironment().Requery(RepInvoice);
+    if (isWarranty)
+        report.Control("Label6").caption = QObject::tr("Warranty Invoice");
+    DataEnvironment().SetParameter(RepInvoice, "prmInvID", invoiceId);
+    report.Control("lblName").caption = CustomerName(invoiceId);
+    report.Control("lblDate").caption = ShortDate(Now());
+    const InvoiceStyle style = ReadInvoiceStyle();
+    report.Control("Label6").font.points = style.fontSize;
+    report.Control("lblDate").font.points = style.fontSize;
+    FormatAmounts(report);
+    ShowBusiness(report);
+    HideColumns(report, style);
+    const Currency secondTax = StoredSecondTax(invoiceId);
+    ShowSecondTax(report);
+    ShowGrandTotal(report, invoiceId, secondTax);
+    DataEnvironment().Bind(report, RepInvoice);
+    SetTitle(report);
+    report.FillPaper(PaperOf(CurrentPrinter()));
+    return report;
+}

@@ -1,0 +1,34 @@
+#include "invoicing/invoice_totals.h"
+
+#include "config/secondary_tax.h"
+#include "platform/numbers.h"
+#include "platform/regional.h"
+
+Currency LineTotal(qint64 quantity, Currency amount, double taxPercentage)
+{
+    if (taxPercentage <= 0)
+        return amount * quantity;
+    const Currency tax = CCur(amount.ToDouble() * taxPercentage / 100);
+    return (amount + tax) * quantity;
+}
+
+QString TaxRateText(const QString& name, double percentage)
+{
+    return name + QStringLiteral(" (") + CStr(percentage) + QStringLiteral("%)");
+}
+
+void RunningTotal::Add(Currency lineTotal)
+{
+    // What FormatCurrency shows reads back as just this: the amount at the locale's digits, half away from zero.
+    m_total += lineTotal.RoundedHalfAway(CurrencyDigits()).ToDouble();
+}
+
+InvoiceTotals RunningTotal::Totals() const
+{
+    InvoiceTotals totals{0, m_total};
+    if (SecondaryTaxEnable) {
+        totals.secondTax = m_total * SecondaryTaxPercentage / 100;
+        totals.total += totals.secondTax;
+    }
+    return totals;
+}

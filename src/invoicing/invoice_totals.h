@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/currency.h"
+
+#include <QString>
+
+/// The line's total with tax. A percentage above 0 gives a unit price with tax, rounded to currency before it is
+/// multiplied; one of 0 or less adds no tax. Throws Overflow beyond the range of currency.
+Currency LineTotal(qint64 quantity, Currency amount, double taxPercentage);
+
+/// The tax column of a line: "VAT (17.5%)".
+QString TaxRateText(const QString& name, double percentage);
+
+/// The figures under the lines, unrounded: they are rounded only where they are shown.
+struct InvoiceTotals {
+    double secondTax = 0;
+    double total = 0; ///< with the secondary tax
+};
+
+/// Adds up an invoice as its reader would: from the figures that the lines show.
+class RunningTotal {
+public:
+    void Add(Currency lineTotal);
+    /// The totals with the secondary tax as it is set up now.
+    InvoiceTotals Totals() const;
+
+private:
+    double m_total = 0;
+};

@@ -1,0 +1,178 @@
+#include "invoicing/add_order_item.h"
+
+#include "support/form_check.h"
+#include "support/screen.h"
+#include "support/scripted_answers.h"
+#include "support/temporary_database.h"
+
+namespace {
+
+class AddOrderItem : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        SelectedItemID = -1;
+        SelectedItemQuantity = 0;
+        SelectedItemPrice = Currency();
+        tools = CategoryRow("Tools");
+        hand = SubCategoryRow(tools, "Hand tools");
+        power = SubCategoryRow(tools, "Power tools");
+        trade = PriceListRow("Trade");
+        hammer = Item("Hammer").Number("H-1").Description("steel").Stock(5).Price("12.50").SubCategory(hand).Add();
+        drill = Item("Drill").Number("D-1").Description("for O'Brien").Stock(2).Price("99").SubCategory(power).Add();
+        glue = Item("Glue").Number("G-1").Description("steel and wood").Stock(0).Price("3").SubCategory(1).Add();
+        Run(QStringLiteral("UPDATE itempricelist SET price = 80 WHERE itemid = %1 AND pricelistid = %2")
+                .arg(drill)
+                .arg(trade));
+        Run(QStringLiteral("DELETE FROM itempricelist WHERE itemid = %1 AND pricelistid = %2").arg(glue).arg(trade));
+    }
+
+    std::unique_ptr<frmAddOrderItem> Form(qint64 priceList = 1) const
+    {
+        auto form = std::make_unique<frmAddOrderItem>(priceList, nullptr);
+        Shown(form.get());
+        return form;
+    }
+    /// The names of the items found, sorted: the statement leaves their order open.
+    static QStringList Found(const frmAddOrderItem& form)
+    {
+        QStringList names;
+        for (const QStringList& row : GridRows(form.gItems))
+            names.append(row.at(1));
+        names.sort();
+        return names;
+    }
+    static void SelectItem(frmAddOrderItem& form, const QString& name)
+    {
+        for (int row = 1; row < form.gItems->Rows(); ++row)
+            if (form.gItems->TextMatrix(row, 1) == name)
+                ClickRow(form.gItems, row);
+    }
+
+    int tools = 0, hand = 0, power = 0, trade = 0;
+    int hammer = 0, drill = 0, glue = 0;
+};
+
+TEST_F(AddOrderItem, OpensWithAllItemsAtThePricesOfTheInvoicesList)
+{
+    const auto form = Form(trade);
+    EXPECT_EQ(form->cboPriceList->Text(), "Trade");
+    EXPECT_EQ(Found(*form), (QStringList{"Drill", "Glue", "Hammer"}));
+    EXPECT_EQ(form->lblItemMatches->text(), "3 Item Matches:");
+    EXPECT_EQ(form->txtQuantityToAdd->text(), "1");
+    EXPECT_EQ(form->gItems->Row(), 1);
+    EXPECT_EQ(form->txtItemPrice->text(), form->gItems->TextMatrix(1, 4));
+    SelectItem(*form, "Drill");
+    EXPECT_EQ(GridRows(form->gItems).at(form->gItems->Row() - 1),
+        (QStringList{"D-1", "Drill", "for O'Brien", "2", "$80.00"}));
+    SelectItem(*form, "Glue");
+    EXPECT_EQ(form->txtItemPrice->text(), "$0.00") << "an item without a price in the list";
+}
+
+TEST_F(AddOrderItem, IsLaidOutForItsUser)
+{
+    frmAddOrderItem form(1, nullptr);
+    CheckForm(form);
+}
+
+TEST_F(AddOrderItem, CategoriesLeadToTheirSubCategories)
+{
+    const auto form = Form();
+    EXPECT_EQ(Entries(form->cboCategory), (QStringList{"All Categories", "No Category", "Tools"}));
+    EXPECT_EQ(Entries(form->cboSubCategory), QStringList{"All Sub-Categories"});
+    Pick(form->cboCategory, "Tools");
+    EXPECT_EQ(Entries(form->cboSubCategory), (QStringList{"All Sub-Categories", "Hand tools", "Power tools"}));
+    EXPECT_EQ(Found(*form).size(), 3) << "only the button searches";
+    Click(form->cmdSearch);
+    EXPECT_EQ(Found(*form), (QStringList{"Drill", "Hammer"}));
+    Pick(form->cboSubCategory, "Hand tools");
+    Click(form->cmdSearch);
+    EXPECT_EQ(Found(*form), QStringList{"Hammer"});
+    Pick(form->cboCategory, "No Category");
+    EXPECT_EQ(form->cboSubCategory->Text(), "All Sub-Categories");
+    Click(form->cmdSearch);
+    EXPECT_EQ(Found(*form), QStringList{"Glue"});
+}
+
+TEST_F(AddOrderItem, EnterInASearchFieldSearches)
+{
+    const auto form = Form();
+    Type(form->txtItemDescription, "o'brien");
+    Press(form->txtItemDescription, Qt::Key_Return);
+    EXPECT_EQ(Found(*form), QStringList{"Drill"});
+    EXPECT_EQ(form->txtItemPrice->text(), "$99.00");
+    Type(form->txtItemDescription, "nothing like it");
+    Press(form->txtItemDescription, Qt::Key_Return);
+    EXPECT_EQ(form->lblItemMatches->text(), "0 Item Matches:");
+    EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(AddOrderItem, ATypedPriceOverridesTheListAndEnterAddsTheItem)
+{
+    const auto form = Form();
+    SelectItem(*form, "Hammer");
+    EXPECT_EQ(form->txtItemPrice->text(), "$12.50");
+    Type(form->txtItemPrice, "$10.25");
+    Type(form->txtQuantityToAdd, "2.5");
+    Press(form->txtQuantityToAdd, Qt::Key_Return);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(SelectedItemID, hammer);
+    EXPECT_EQ(SelectedItemQuantity, 2) << "half to even";
+    EXPECT_EQ(SelectedItemPrice, Money("10.25"));
+}
+
+TEST_F(AddOrderItem, ThePriceFollowsTheArrowKeys)
+{
+    const auto form = Form();
+    ClickRow(form->gItems, 1);
+    Press(form->gItems, Qt::Key_Down);
+    EXPECT_EQ(form->txtItemPrice->text(), form->gItems->TextMatrix(2, 4));
+}
+
+TEST_F(AddOrderItem, BadNumbersCountAsOnePieceAtNoPrice)
+{
+    const auto form = Form();
+    SelectItem(*form, "Drill");
+    Type(form->txtQuantityToAdd, "abc");
+    Type(form->txtItemPrice, "dear");
+    Click(form->cmdOk);
+    EXPECT_EQ(SelectedItemID, drill);
+    EXPECT_EQ(SelectedItemQuantity, 1);
+    EXPECT_EQ(SelectedItemPrice, Currency());
+}
+
+TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
+{
+    ScriptedAnswers answers;
+    const auto form = Form();
+    SelectItem(*form, "Drill");
+    Type(form->txtQuantityToAdd, "3");
+    answers.ExpectMessage(
+        "This item does not have enough items in stock. To add this item first increase the total number in stock.",
+        Icon::Critical);
+    Click(form->cmdOk);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(SelectedItemID, -1);
+    Type(form->txtQuantityToAdd, "2");
+    DoubleClickRow(form->gItems, form->gItems->Row());
+    EXPECT_EQ(SelectedItemID, drill);
+    EXPECT_EQ(SelectedItemQuantity, 2);
+}
+
+TEST_F(AddOrderItem, CancelSelectsNothingAndAnEmptyListItemNought)
+{
+    auto form = Form();
+    SelectedItemID = 7;
+    Press(form->txtItemName, Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(SelectedItemID, -1);
+
+    form = Form();
+    Type(form->txtItemName, "no such item");
+    Click(form->cmdSearch);
+    Click(form->cmdOk);
+    EXPECT_EQ(SelectedItemID, 0);
+}
+
+} // namespace

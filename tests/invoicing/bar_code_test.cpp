@@ -1,0 +1,95 @@
+#include "invoice_page_fixture.h"
+
+namespace {
+
+class BarCode : public InvoicePageTest {
+protected:
+    Table Lines() const { return Rows("SELECT quantity, amount FROM invoiceline ORDER BY id"); }
+};
+
+TEST_F(BarCode, EveryScanAddsOneAtTheListPriceNetOfDiscount)
+{
+    const int trade = PriceListRow("Trade");
+    const int screws = Item("Screws").Barcode("4006381333931").Stock(2).Price("3").Price("Trade", "9.994").Add();
+    Open(Invoice(Customer("Ada", "Byron").Discount(10).PriceList(trade).Add()).Add());
+
+    Scan("4006381333931");
+    EXPECT_EQ(Lines(), Table({{"1", "8.991"}}));
+    EXPECT_EQ(page->txtBarcode->text(), "");
+    EXPECT_TRUE(page->txtBarcode->hasFocus());
+    Scan("4006381333931");
+    EXPECT_EQ(Lines(), Table({{"2", "8.991"}}));
+    EXPECT_EQ(GridRows(page->gNewInvoice).constFirst().constFirst(), "2");
+    EXPECT_EQ(Stock(screws), 0);
+
+    Scan("4006381333931");
+    EXPECT_EQ(Lines(), Table({{"2", "8.991"}})) << "out of stock adds nothing and says nothing";
+    EXPECT_EQ(page->txtBarcode->text(), "");
+}
+
+TEST_F(BarCode, AScanUnderWarrantyIsFreeAndMovesStockAllTheSame)
+{
+    const int screws = Item("Screws").Barcode("1").Stock(2).Price("3").Add();
+    OpenNew();
+    Click(page->chkWarrantyInvoice);
+    Scan("1");
+    EXPECT_EQ(Lines(), Table({{"1", "0"}}));
+    EXPECT_EQ(Stock(screws), 1);
+}
+
+TEST_F(BarCode, AnUnknownCodeIsSaidAndStandsSelectedForTheNextScan)
+{
+    OpenNew();
+    ScriptedAnswers answers;
+    answers.ExpectMessage("Item not found.", Icon::Critical);
+    Scan("999");
+    EXPECT_TRUE(page->txtBarcode->hasFocus());
+    EXPECT_EQ(page->txtBarcode->selectedText(), "999");
+    EXPECT_EQ(Count("invoiceline"), 0);
+}
+
+TEST_F(BarCode, TheTotalsFollowAScanAndAreStoredWithTheNextSave)
+{
+    Run("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'GST & PST', SecondaryTaxPercentage = 5");
+    LoadSecondaryTax();
+    page->ShowSecondaryTax();
+    EXPECT_EQ(page->lblLabels_26->text(), "GST & PST:");
+    Item("Screws").Barcode("1").Stock(9).Price("20").Add();
+    OpenNew();
+    Scan("1");
+    EXPECT_EQ(page->lblSecondTax->text(), "$1.00");
+    EXPECT_EQ(page->lblTotal->text(), "$21.00");
+    EXPECT_EQ(Single("SELECT Total2ndTax FROM invoice"), "$0.00");
+    page->txtFirstname->setFocus();
+    Tab();
+    EXPECT_EQ(Single("SELECT Total2ndTax FROM invoice"), "$1.00");
+}
+
+TEST_F(BarCode, ACodeWithAQuoteEndsTheProgramAndNothingIsWrittenAfterIt)
+{
+    OpenNew();
+    Type(page->txtFirstname, "Ada");
+    page->txtBarcode->setFocus();
+    ExpectedEnd end;
+    Scan("40'63");
+    EXPECT_TRUE(end.Ended());
+    Type(page->txtFirstname, "Grace");
+    Tab();
+    Click(page->cmdCloseInvoice);
+    EXPECT_EQ(Single("SELECT FirstName FROM customer"), "Ada");
+    EXPECT_EQ(timesLeft, 0);
+}
+
+TEST_F(BarCode, ADiscountThatBreaksTheNumberRuleEndsTheProgram)
+{
+    Item("Screws").Barcode("1").Stock(9).Price("20").Add();
+    OpenNew();
+    page->txtBarcode->setFocus();
+    page->txtDiscount->setText("50.5%");
+    ExpectedEnd end;
+    Scan("1");
+    EXPECT_EQ(end.Number(), 13);
+    EXPECT_EQ(Count("invoiceline"), 0);
+}
+
+} // namespace

@@ -1,0 +1,205 @@
+#include "invoicing/invoice_documents.h"
+
+#include "config/secondary_tax.h"
+#include "invoicing/invoice_report.h"
+#include "invoicing/picking_list.h"
+#include "platform/dialogs.h"
+#include "platform/preview_window.h"
+#include "platform/regional.h"
+#include "platform/settings_store.h"
+#include "support/golden.h"
+#include "support/screen.h"
+#include "support/temporary_database.h"
+
+#include <QPrinter>
+
+namespace {
+class InvoiceDocuments : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        CurrentPrinter().setPageSize(QPageSize(QPageSize::A4));
+        LoadSecondaryTax();
+        Run("UPDATE settings SET BusinessName = 'Harbour Hardware', Address1 = '1 Quay Street', Address2 = '', City = "
+            "'Portsea', State = 'VIC', PostCode = '3944', Country = NULL, Phone = '03 5555 0100'");
+        m_gst = TaxRateRow("GST", 10);
+    }
+    void TearDown() override
+    {
+        ClosePreviews();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        SecondaryTaxEnable = false;
+        DatabaseTest::TearDown();
+    }
+
+    int AnnsInvoice()
+    {
+        const int ann = Customer("Ann", "O'Brien")
+                            .Business("O'Brien & Daughters")
+                            .Address("12 Hill Road", "Sorrento", "3943")
+                            .Phone("03 5555 0199")
+                            .Add();
+        const int invoice = Invoice(ann).No("00042").Date(QDate(2026, 3, 4)).SecondTax("$3.21").Add();
+        Line(invoice, Item("Screws M4").Number("S-4").TaxRate(m_gst).Add(), 3, "9.99");
+        Line(invoice, Item("Chandler's rope, 12 mm").Number("R12").Add(), 20, "1.255");
+        return invoice;
+    }
+    void EnableSecondTax()
+    {
+        Run("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'PST', SecondaryTaxPercentage = 6");
+        LoadSecondaryTax();
+    }
+    QString SaveLogo()
+    {
+        QImage logo(200, 80, QImage::Format_RGB32);
+        logo.fill(Qt::darkBlue);
+        const QString path = Folder() + "/logo.png";
+        EXPECT_TRUE(logo.save(path));
+        return path;
+    }
+    QString TextOf(const Report& report) { return ReportText(report); }
+
+    int m_gst = 0;
+};
+} // namespace
+
+TEST_F(InvoiceDocuments, AnInvoiceSaysWhatWasSoldToWhomForHowMuch)
+{
+    ExpectGolden(TextOf(PrepareInvoice(AnnsInvoice(), false)), "invoice.txt");
+}
+
+TEST_F(InvoiceDocuments, AWarrantyInvoiceWithSecondTaxAndLogo)
+{
+    EnableSecondTax();
+    Run("UPDATE settings SET Logofilename = '" + SaveLogo() + "'");
+    const Report report = PrepareInvoice(AnnsInvoice(), true);
+    ExpectGolden(TextOf(report), "warranty_invoice.txt");
+    EXPECT_EQ(report.title, "Warranty Invoice 00042");
+}
+
+TEST_F(InvoiceDocuments, HiddenTaxAndPriceColumnsKeepTheTotals)
+{
+    SaveConfig("HideTaxOnInvoice", "True");
+    SaveConfig("HideOurPriceOnInvoice", "True");
+    ExpectGolden(TextOf(PrepareInvoice(AnnsInvoice(), false)), "invoice_hidden_columns.txt");
+}
+
+TEST_F(InvoiceDocuments, AnInvoiceWithoutLinesAndWithoutBusinessDetails)
+{
+    Run("UPDATE settings SET BusinessName = NULL, Address1 = NULL, Address2 = NULL, City = NULL, State = NULL, "
+        "PostCode "
+        "= NULL, Country = NULL, Phone = NULL");
+    ExpectGolden(TextOf(PrepareInvoice(Invoice(Customer("", "").Add()).No("00007").Add(), false)), "invoice_empty.txt");
+    Run("DELETE FROM settings");
+    EXPECT_FALSE(TextOf(PrepareInvoice(1, false)).contains("lblBusinessAddress"));
+}
+
+TEST_F(InvoiceDocuments, APreparationStartsFromTheDesign)
+{
+    const int invoice = AnnsInvoice();
+    SaveConfig("HideOurPriceOnInvoice", "True");
+    PrepareInvoice(invoice, true);
+    SaveConfig("HideOurPriceOnInvoice", "False");
+    const QString text = TextOf(PrepareInvoice(invoice, false));
+    EXPECT_TRUE(text.contains("Label6: Invoice\n"));
+    EXPECT_TRUE(text.contains("txtAmount: $9.99"));
+}
+
+TEST_F(InvoiceDocuments, TheAddressTakesThePlaceOfAMissingLogoSettingButNotOfAMissingFile)
+{
+    const int invoice = AnnsInvoice();
+    EXPECT_EQ(PrepareInvoice(invoice, false).Control("lblBusinessAddress").left, 0);
+    Run("UPDATE settings SET Logofilename = '" + Folder() + "/gone.png'");
+    Report report = PrepareInvoice(invoice, false);
+    EXPECT_GT(report.Control("lblBusinessAddress").left, 0);
+    EXPECT_TRUE(report.Control("imgLogo").picture.isNull());
+}
+
+struct FontSize {
+    const char* stored;
+    double points;
+};
+class InvoiceFontSizes : public InvoiceDocuments, public testing::WithParamInterface<FontSize> { };
+
+TEST_P(InvoiceFontSizes, AnyStoredSizePrints)
+{
+    SaveConfig("InvoiceFontSize", GetParam().stored);
+    Report report = PrepareInvoice(AnnsInvoice(), false);
+    EXPECT_EQ(report.Control("Label6").font.points, GetParam().points);
+    EXPECT_EQ(report.Control("lblDate").font.points, GetParam().points);
+    EXPECT_TRUE(TextOf(report).contains("GrandTotal: $58.07"));
+}
+
+INSTANTIATE_TEST_SUITE_P(, InvoiceFontSizes,
+    testing::Values(FontSize{"14", 14}, FontSize{"8.25", 8.25}, FontSize{"0", 8.25}, FontSize{"-3", 8.25},
+        FontSize{"1e9", 72}, FontSize{"abc", 8.25}, FontSize{"", 8.25}));
+
+TEST_F(InvoiceDocuments, LongTextsAndManyLinesStayInTheirPlaces)
+{
+    EnableSecondTax();
+    SecondaryTaxName = QString(10'000, 'P');
+    Run("UPDATE settings SET BusinessName = '" + QString("Very long ").repeated(25) + "'");
+    const int customer = Customer(QString(255, 'F'), "L").Business(QString("Long & Sons ").repeated(20)).Add();
+    const int invoice = Invoice(customer).No(QString(255, '9')).SecondTax("$1.00").Add();
+    const int item = Item(QString("Endless rope ").repeated(19)).Number(QString(255, 'N')).Add();
+    for (int i = 0; i < 200; ++i)
+        Line(invoice, item, i, "12345678.9");
+
+    ReportLayout layout(PrepareInvoice(invoice, false), {});
+    EXPECT_GT(layout.PageCount(), 10);
+    for (int page = 0; layout.HasPage(page); ++page) {
+        const ReportPage sheet = layout.Page(page);
+        for (size_t i = 0; i < sheet.items.size(); ++i)
+            for (size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(
+                    sheet.items[i].place.adjusted(1, 1, -1, -1).intersects(sheet.items[j].place.adjusted(1, 1, -1, -1)))
+                    << sheet.items[i].control->name.toStdString() << sheet.items[j].control->name.toStdString();
+        EXPECT_TRUE(PageText(sheet).contains(QString("Page %1 of ").arg(page + 1)));
+    }
+    EXPECT_TRUE(PageText(layout.Page(1)).startsWith("repInvoice_Header\n  Line1: -----\n  Label4: Quantity\n"))
+        << "the column titles come again";
+}
+
+TEST_F(InvoiceDocuments, AmountsFollowTheUsersLocale)
+{
+    SetRegional(QLocale(QLocale::German, QLocale::Germany));
+    const int invoice = Invoice(Customer("Uwe", "Roß").Add()).No("00001").Add();
+    Line(invoice, Item("Schraube").TaxRate(m_gst).Add(), 1, "1234.5");
+    const QString text = TextOf(PrepareInvoice(invoice, false));
+    EXPECT_TRUE(text.contains(QString("txttaxsubtotal: 1.357,95") + QChar(0xA0) + "€")) << text.toStdString();
+    EXPECT_TRUE(text.contains("txtTaxRatePercentage: 10,0%"));
+    EXPECT_TRUE(text.contains("lblDate: 14.03.2026")) << text.toStdString();
+}
+
+TEST_F(InvoiceDocuments, ThePickingListTellsWhereTheGoodsLie)
+{
+    const int invoice = AnnsInvoice();
+    const int shelf = LocationRow(WarehouseRow("Back store"), "Shelf 3");
+    const int lost = Item("No place").Location(9999).Add();
+    const int stored = Item("Anchor").Location(shelf).Add();
+    Line(invoice, lost, 1, "5");
+    Line(invoice, stored, 2, "7");
+    Run(QString("UPDATE item SET name = 'Anchor, galvanised' WHERE id = %1").arg(stored));
+    ExpectGolden(TextOf(PreparePickingList(invoice)), "picking_list.txt");
+}
+
+TEST_F(InvoiceDocuments, EachOpensInAPreviewOfItsOwn)
+{
+    const int invoice = AnnsInvoice();
+    ShowInvoiceDocument(invoice, false);
+    ShowPickingList(invoice);
+    QStringList titles;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* preview = qobject_cast<PreviewWindow*>(window))
+            titles.append(preview->windowTitle());
+    titles.sort();
+    EXPECT_EQ(titles, QStringList({"Invoice 00042", "Picking List 00042"}));
+}
+
+TEST(BusinessAddress, EachPartEndsItsLineButAnEmptyOne)
+{
+    EXPECT_EQ(GetS(Value(QString("Portsea"))), "Portsea\r\n");
+    EXPECT_EQ(GetS(Value(QString())), "");
+    EXPECT_EQ(GetS(Value()), "\r\n");
+}

@@ -1,0 +1,128 @@
+#include "invoice_page_fixture.h"
+
+#include "invoicing/item_quantity.h"
+#include "platform/preview_window.h"
+
+#include <QApplication>
+
+namespace {
+
+class InvoiceLife : public InvoicePageTest {
+protected:
+    void TearDown() override
+    {
+        ClosePreviews();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        InvoicePageTest::TearDown();
+    }
+    QStringList PreviewTitles() const
+    {
+        QStringList titles;
+        for (const QWidget* top : QApplication::topLevelWidgets())
+            if (qobject_cast<const PreviewWindow*>(top))
+                titles.append(top->windowTitle());
+        return titles;
+    }
+    double NextNumber() const { return Single("SELECT invoiceno FROM nextinvoiceno").toDouble(); }
+    QString CustomerOfInvoice() const { return Single("SELECT CustomerID FROM invoice ORDER BY id DESC"); }
+};
+
+TEST_F(InvoiceLife, FromNewInvoiceToComplete)
+{
+    Run("UPDATE nextinvoiceno SET invoiceno = 42");
+    Run("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxPercentage = 10");
+    LoadSecondaryTax();
+    const int screws = Item("Screws").Barcode("1").Stock(10).Price("5").Add();
+    const int known = Customer("Known", "One").Add();
+    OpenNew();
+
+    Type(page->txtFirstname, "First");
+    Tab();
+    const int first = Single("SELECT max(id) FROM customer").toInt();
+    EXPECT_EQ(CustomerOfInvoice(), QString::number(first));
+    Type(page->txtLastname, "Draft");
+    Tab();
+    EXPECT_EQ(Count("customer"), 2);
+
+    ScriptedAnswers answers;
+    answers.Expect("Clear customer details?", Icon::None, Buttons::YesNo, Answer::Yes);
+    Click(page->cmdNewInvoiceCustReset);
+    EXPECT_EQ(page->txtLastname->text(), "");
+    EXPECT_EQ(CustomerOfInvoice(), QString::number(first)) << "resetting alone touches no row";
+    Type(page->txtFirstname, "Second");
+    Tab();
+    EXPECT_EQ(Rows("SELECT FirstName, LastName FROM customer ORDER BY id"),
+        Table({{"Known", "One"}, {"First", "Draft"}, {"Second", ""}}));
+    EXPECT_EQ(CustomerOfInvoice(), Single("SELECT max(id) FROM customer"));
+    EXPECT_NE(CustomerOfInvoice(), QString::number(known));
+
+    Scan("1");
+    Scan("1");
+    EXPECT_EQ(Stock(screws), 8);
+    WhenFormShows<frmItemQuantity>([](frmItemQuantity& form) {
+        Type(form.txtQuantityToAdd, "6");
+        Press(form.txtQuantityToAdd, Qt::Key_Return);
+    });
+    Click(page->cmdEditOrderItem);
+    EXPECT_EQ(Stock(screws), 4);
+    EXPECT_EQ(Single("SELECT Total2ndTax FROM invoice"), "$3.00");
+    EXPECT_EQ(page->lblTotal->text(), "$33.00");
+
+    // The last control left before the button saves as well.
+    Type(page->txtNotes, "Gift");
+    answers.Expect("Print Invoice?", Icon::Question, Buttons::YesNo, Answer::No);
+    Click(page->cmdCompleteInvoice);
+    EXPECT_EQ(Rows("SELECT InvoiceNo, Notes, Total2ndTax FROM invoice"), Table({{"00042", "Gift", "$3.00"}}));
+    EXPECT_EQ(Stock(screws), 4);
+    EXPECT_EQ(NextNumber(), 43);
+    EXPECT_EQ(gCurrentInvoiceId, -1);
+    EXPECT_EQ(gCurrentCustomerId, -1);
+    EXPECT_EQ(timesLeft, 1);
+    EXPECT_EQ(Count("customer"), 3) << "putting the page away adds no customer";
+
+    OpenNew();
+    EXPECT_EQ(page->lblInvoiceNo->text(), "00043");
+    EXPECT_EQ(page->gNewInvoice->Rows(), 1);
+}
+
+TEST_F(InvoiceLife, AnEmptyPageCompletesWithACustomerOfItsOwn)
+{
+    OpenNew();
+    ScriptedAnswers answers;
+    answers.Expect("Print Invoice?", Icon::Question, Buttons::YesNo, Answer::No);
+    // Nothing has lost the focus before the question.
+    page->cmdCompleteInvoice->click();
+    EXPECT_EQ(Count("customer"), 1);
+    EXPECT_EQ(CustomerOfInvoice(), Single("SELECT id FROM customer"));
+}
+
+TEST_F(InvoiceLife, CloseRaisesTheNumberForAnOldInvoiceToo)
+{
+    Open(Invoice(Customer("Ada", "Byron").Add()).No("00009").Add());
+    page->txtFirstname->setText("Augusta");
+    page->cmdCloseInvoice->click();
+    EXPECT_EQ(Single("SELECT FirstName FROM customer"), "Augusta");
+    EXPECT_EQ(Count("customer"), 1);
+    EXPECT_EQ(NextNumber(), 2);
+    EXPECT_EQ(timesLeft, 1);
+}
+
+TEST_F(InvoiceLife, DocumentsShowTheInvoiceAsItStandsOnThePage)
+{
+    Open(Invoice(Customer("Ada", "Byron").Add()).No("00009").Add());
+    page->lblInvoiceNo->setText("A-1");
+    page->cmdPrintPickingList->click();
+    EXPECT_EQ(PreviewTitles(), QStringList{"Picking List A-1"});
+    EXPECT_NE(gCurrentInvoiceId, -1);
+    ClosePreviews();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+
+    page->lblInvoiceNo->setText("A-2");
+    ScriptedAnswers answers;
+    answers.Expect("Print Invoice?", Icon::Question, Buttons::YesNo, Answer::Yes);
+    page->cmdCompleteInvoice->click();
+    EXPECT_EQ(PreviewTitles(), QStringList{"Invoice A-2"});
+    EXPECT_EQ(gCurrentInvoiceId, -1);
+}
+
+} // namespace

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "config/lists.h"
+#include "config/secondary_tax.h"
+#include "invoicing/current_invoice.h"
+#include "invoicing/invoice_page.h"
+#include "support/screen.h"
+#include "support/scripted_answers.h"
+#include "support/temporary_database.h"
+
+#include <QCoreApplication>
+#include <QVBoxLayout>
+
+/// The invoice page in a window, set up as the main window does it.
+class InvoicePageTest : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        gCurrentInvoiceId = -1;
+        gCurrentCustomerId = -1;
+        LoadSecondaryTax();
+        page = new InvoicePage(&window);
+        (new QVBoxLayout(&window))->addWidget(page);
+        window.resize(1024, 640);
+        int methods = 0;
+        for (const char* method : {"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"})
+            page->cboPaymentMethod->AddItem(method, methods++);
+        SetUpColumns(page->gNewInvoice,
+            {{"Qty", 500, CellAlign::CenterTop}, {"Number", 1200, CellAlign::LeftCenter},
+                {"Name", 1600, CellAlign::LeftCenter}, {"Sale Price", 1200, CellAlign::RightCenter},
+                {"Tax Rate", 1600, CellAlign::LeftCenter}, {"Sub-Total", 1100, CellAlign::RightCenter}},
+            2);
+        QObject::connect(page, &InvoicePage::Left, &window, [this] {
+            ++timesLeft;
+            page->hide();
+        });
+        Shown(&window);
+    }
+
+    void Open(qint32 invoiceId)
+    {
+        gCurrentInvoiceId = invoiceId;
+        page->show();
+        page->ShowInvoicePage();
+        // Events of the show itself are not part of what a test looks at.
+        QCoreApplication::processEvents();
+    }
+    void OpenNew() { Open(-1); }
+
+    void Scan(const QString& code)
+    {
+        Type(page->txtBarcode, code);
+        Press(page->txtBarcode, Qt::Key_Return);
+    }
+
+    QWidget window;
+    InvoicePage* page = nullptr;
+    int timesLeft = 0;
+};

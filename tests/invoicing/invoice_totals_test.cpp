@@ -1,0 +1,85 @@
+#include "invoicing/invoice_totals.h"
+
+#include "config/secondary_tax.h"
+#include "platform/numbers.h"
+#include "platform/regional.h"
+#include "platform/runtime_error.h"
+#include "support/temporary_database.h"
+
+#include <random>
+
+namespace {
+
+struct LineCase {
+    int quantity;
+    const char* amount;
+    double tax;
+    const char* total;
+};
+class LineTotals : public ::testing::TestWithParam<LineCase> { };
+
+TEST_P(LineTotals, RoundTheUnitPriceWithTaxBeforeMultiplying)
+{
+    const auto& [quantity, amount, tax, total] = GetParam();
+    EXPECT_EQ(LineTotal(quantity, Money(amount), tax), Money(total));
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, LineTotals,
+    ::testing::Values(LineCase{3, "9.99", 8.25, "32.4426"}, LineCase{1, "5", 0, "5"}, LineCase{4, "2.5", -20, "10"},
+        LineCase{0, "9.99", 8.25, "0"}, LineCase{2, "0", 17.5, "0"}, LineCase{-2, "10", 20, "-24"},
+        LineCase{1000, "0.0333", 0, "33.3"}));
+
+TEST(LineTotals, BeyondTheRangeOfCurrencyIsAnOverflow)
+{
+    EXPECT_THROW(LineTotal(2'000'000'000, Money("900000000"), 0), RuntimeError);
+}
+
+class Totals : public ::testing::Test {
+protected:
+    void SetUp() override { SetRegional(QLocale("en_US")); }
+    void TearDown() override { SecondaryTaxEnable = false; }
+};
+
+TEST_F(Totals, OfTheWorkedExample)
+{
+    SecondaryTaxEnable = true;
+    SecondaryTaxPercentage = 5;
+    RunningTotal running;
+    running.Add(LineTotal(3, Money("9.99"), 8.25));
+    running.Add(LineTotal(1, Money("5"), 0));
+
+    EXPECT_EQ(FormatCurrency(running.Totals().secondTax), "$1.87");
+    EXPECT_EQ(FormatCurrency(running.Totals().total), "$39.31");
+    EXPECT_NEAR(running.Totals().total, 39.312, 1e-9) << "the secondary tax enters the total unrounded";
+
+    SecondaryTaxPercentage = 0;
+    EXPECT_EQ(FormatCurrency(running.Totals().secondTax), "$0.00");
+    SecondaryTaxEnable = false;
+    SecondaryTaxPercentage = 5;
+    EXPECT_EQ(FormatCurrency(running.Totals().total), "$37.44");
+}
+
+class TotalsByLocale : public ::testing::TestWithParam<const char*> {
+protected:
+    void TearDown() override { SetRegional(QLocale("en_US")); }
+};
+
+// The reader adds up what the lines show, so the total must be the sum of the shown texts read back.
+TEST_P(TotalsByLocale, SumTheFiguresShown)
+{
+    SetRegional(QLocale(GetParam()));
+    std::mt19937_64 random(20260314);
+    RunningTotal running;
+    double shown = 0;
+    for (int line = 0; line < 500; ++line) {
+        const Currency lineTotal = Currency::FromTenThousandths(qint64(random() % 200'000'000) - 50'000'000);
+        running.Add(lineTotal);
+        shown += CCur(FormatCurrency(lineTotal)).ToDouble();
+    }
+    EXPECT_EQ(running.Totals().total, shown);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Locales, TotalsByLocale, ::testing::Values("en_US", "de_DE", "fr_FR", "ja_JP", "en_IN", "ar_KW"));
+
+} // namespace

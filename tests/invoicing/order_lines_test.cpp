@@ -1,0 +1,129 @@
+#include "invoicing/order_lines.h"
+
+#include "invoicing/current_invoice.h"
+#include "support/temporary_database.h"
+
+namespace {
+
+class OrderLines : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        gCurrentInvoiceId = Invoice(Customer("Ada", "Byron").Add()).Add();
+    }
+    Table Lines() const { return Rows("SELECT quantity, amount FROM invoiceline ORDER BY id"); }
+};
+
+TEST_F(OrderLines, ANewLineIsASnapshotOfTheItem)
+{
+    const int vat = TaxRateRow("VAT", 17.5);
+    const int screws = Item("Screws 'M4'").Number("S-04").Description("Box of 50").Stock(10).TaxRate(vat).Add();
+
+    EXPECT_TRUE(AddNewOrderItemToDB(screws, 3, 0, false, Money("2.5")));
+    Run("UPDATE item SET name = 'Nails', noinstock = 99");
+    Run("UPDATE taxrate SET percentage = 20");
+
+    EXPECT_EQ(Rows("SELECT InvoiceID, ItemID, Quantity, Amount, Description, Number, Name, TaxRateName, "
+                   "TaxRatePercentage FROM invoiceline"),
+        Table({{QString::number(gCurrentInvoiceId), QString::number(screws), "3", "2.5", "Box of 50", "S-04",
+            "Screws 'M4'", "VAT", "17.5"}}));
+}
+
+TEST_F(OrderLines, AllTheStockCanBeSoldAndNotOneMore)
+{
+    const int screws = Item("Screws").Stock(5).Add();
+
+    EXPECT_TRUE(AddNewOrderItemToDB(screws, 5, 0, false, Money("1")));
+    EXPECT_EQ(Stock(screws), 0);
+    EXPECT_FALSE(AddNewOrderItemToDB(screws, 1, 0, false, Money("1")));
+    EXPECT_EQ(Lines(), Table({{"5", "1"}}));
+    EXPECT_EQ(Stock(screws), 0);
+}
+
+TEST_F(OrderLines, AddingTheSameItemTwiceKeepsTheFirstPrice)
+{
+    const int screws = Item("Screws").Stock(10).Add();
+
+    AddNewOrderItemToDB(screws, 3, 0, false, Money("2.5"));
+    AddNewOrderItemToDB(screws, 4, 50, true, Money("9.99"));
+
+    EXPECT_EQ(Lines(), Table({{"7", "2.5"}}));
+    EXPECT_EQ(Stock(screws), 3);
+}
+
+TEST_F(OrderLines, TheSameItemOnAnotherInvoiceIsALineOfItsOwn)
+{
+    const int screws = Item("Screws").Stock(10).Add();
+    AddNewOrderItemToDB(screws, 3, 0, false, Money("2.5"));
+    gCurrentInvoiceId = Invoice(gCurrentCustomerId).Add();
+    AddNewOrderItemToDB(screws, 1, 0, false, Money("4"));
+    EXPECT_EQ(Lines(), Table({{"3", "2.5"}, {"1", "4"}}));
+}
+
+struct PriceCase {
+    const char* price;
+    double discount;
+    bool warranty;
+    const char* amount;
+};
+class StoredAmounts : public OrderLines, public ::testing::WithParamInterface<PriceCase> { };
+
+TEST_P(StoredAmounts, AreNetOfDiscountAndNothingUnderWarranty)
+{
+    const auto& [price, discount, warranty, amount] = GetParam();
+    const int screws = Item("Screws").Stock(10).Add();
+    AddNewOrderItemToDB(screws, 2, discount, warranty, Money(price));
+    EXPECT_EQ(Lines(), Table({{"2", amount}}));
+    EXPECT_EQ(Stock(screws), 8);
+}
+
+INSTANTIATE_TEST_SUITE_P(Prices, StoredAmounts,
+    ::testing::Values(PriceCase{"9.99", 10, false, "8.991"}, PriceCase{"9.99", 0, false, "9.99"},
+        PriceCase{"9.99", 10, true, "0"}, PriceCase{"10", -5, false, "10.5"}, PriceCase{"0.07", 33, false, "0.0469"}));
+
+TEST_F(OrderLines, AnItemThatIsGoneOrHasNoTaxRateAddsNothing)
+{
+    const int odd = Item("Odd").Stock(4).TaxRate(77).Add();
+    EXPECT_TRUE(AddNewOrderItemToDB(4711, 1, 0, false, Money("1")));
+    EXPECT_TRUE(AddNewOrderItemToDB(odd, 1, 0, false, Money("1")));
+    EXPECT_EQ(Count("invoiceline"), 0);
+    EXPECT_EQ(Stock(odd), 4);
+}
+
+TEST_F(OrderLines, AChangedQuantityMovesTheDifferenceEvenBelowZero)
+{
+    const int screws = Item("Screws").Stock(2).Add();
+    const int line = Line(gCurrentInvoiceId, screws, 3, "2.5");
+
+    ChangeOrderLine(line, 3, 8, Money("1234.5"));
+    EXPECT_EQ(Lines(), Table({{"8", "1234.5"}}));
+    EXPECT_EQ(Stock(screws), -3);
+    ChangeOrderLine(line, 8, 0, Money("2.25"));
+    EXPECT_EQ(Lines(), Table({{"0", "2.25"}}));
+    EXPECT_EQ(Stock(screws), 5);
+}
+
+TEST_F(OrderLines, ADeletedLineGivesItsGoodsBackAndOneWithoutItemJustGoes)
+{
+    const int screws = Item("Screws").Stock(2).Add();
+    const int nails = Item("Nails").Stock(1).Add();
+    const int first = Line(gCurrentInvoiceId, screws, 3, "2.5");
+    const int second = Line(gCurrentInvoiceId, nails, 1, "2.5");
+    Run("DELETE FROM item WHERE name = 'Nails'");
+
+    DeleteOrderLine(first, 3);
+    DeleteOrderLine(second, 1);
+
+    EXPECT_EQ(Count("invoiceline"), 0);
+    EXPECT_EQ(Stock(screws), 5);
+}
+
+TEST_F(OrderLines, AListPriceIsRoundedAsItWouldBeShown)
+{
+    const int screws = Item("Screws").Price("1.2345").Add();
+    EXPECT_EQ(ListPrice(screws, 1), Money("1.23"));
+    EXPECT_EQ(ListPrice(screws, 99), Currency());
+}
+
+} // namespace
