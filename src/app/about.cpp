@@ -1,0 +1,58 @@
+#include "app/about.h"
+
+#include "app/endpoints.h"
+#include "app/image_lists.h"
+#include "platform/dialogs.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+#include "platform/regional.h"
+
+namespace {
+
+constexpr QSize PictureSize(96, 96);
+constexpr int SiteIconSize = 24;
+
+} // namespace
+
+frmAbout::frmAbout(QWidget* parent)
+    : Form("frmAbout", tr("About"), parent)
+{
+    Picture1->setPixmap(ProgramPicture(QStringLiteral("tavrin-xp"), PictureSize, devicePixelRatio()));
+    Picture2->setPixmap(ProgramPicture(QStringLiteral("tavrin"), PictureSize, devicePixelRatio()));
+    (IsWindowsXP() ? Picture2 : Picture1)->hide();
+
+    lblProductName->setText(tr("Tavrin Inventory"));
+    lblProductName->setFont(heading(QString())->font());
+    lblVersion->setText(tr("Version %1").arg(QStringLiteral(TAVRIN_VERSION)));
+    lblDescription->setText(tr("The fully flexible and easy to use inventory management system."));
+    lblDescription->setWordWrap(true);
+    Label2->setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(MakerWebSite().toHtmlEscaped()));
+    Label2->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    Picture4->setIcon(ProgramIcon(QStringLiteral("web-orders")));
+    Picture4->setIconSize({SiteIconSize, SiteIconSize});
+    Picture4->setAutoRaise(true);
+    Picture4->setFocusPolicy(Qt::TabFocus);
+    Picture4->setAccessibleName(tr("Web site"));
+    Picture4->setToolTip(MakerWebSite());
+    cmdOK->setText(tr("OK"));
+    cmdSysInfo->setText(tr("&System Info..."));
+
+    setLayout(column({
+        row({
+            column({Picture1, Picture2, stretch()}),
+            gap(12),
+            column({lblProductName, lblVersion, gap(6), lblDescription, gap(6), row({Picture4, Label2, stretch()}),
+                stretch()}),
+        }),
+        row({cmdSysInfo, stretch(), cmdOK}),
+    }));
+    SetDefaultButton(cmdOK, true);
+    SetCancelButton(cmdOK);
+    cmdOK->setFocus();
+
+    On(Label2, &QLabel::linkActivated, [] { OpenLink(MakerWebSite()); });
+    On(Picture4, &QToolButton::clicked, [] { OpenLink(MakerWebSite()); });
+    // No tool of this system tells what the button promises.
+    On(cmdSysInfo, &QPushButton::clicked,
+        [] { MsgBox(tr("System Information Is Unavailable At This Time"), Icon::None); });
+}

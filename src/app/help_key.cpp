@@ -1,0 +1,25 @@
+#include "app/help_key.h"
+
+#include "platform/dialogs.h"
+#include "platform/guard.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+HelpKey::HelpKey(QObject* parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool HelpKey::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
+        return false;
+    constexpr int Contents = 1;
+    Guarded([] { OpenHelp(HelpCommand::Context, Contents); });
+    return true;
+}

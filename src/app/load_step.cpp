@@ -1,0 +1,87 @@
+#include "app/load_step.h"
+
+#include "app/database_folder.h"
+#include "app/main_grids.h"
+#include "app/main_window.h"
+#include "config/secondary_tax.h"
+#include "invoicing/current_invoice.h"
+#include "platform/files.h"
+#include "platform/message_box.h"
+#include "platform/numbers.h"
+#include "platform/regional.h"
+#include "platform/settings_store.h"
+
+namespace {
+
+bool OpenDatabase(Connection& connection, const QString& folder)
+{
+    const QString fileName = QLatin1String(DatabaseFileName);
+    try {
+        connection.Open(NativePath(folder, fileName));
+    } catch (const RuntimeError&) {
+        MsgBox(QObject::tr("Unable to open database ") + folder + fileName, Icon::Critical);
+        return false;
+    }
+    gConnection = &connection;
+    return true;
+}
+
+void FillFixedLists(MainWindow& window)
+{
+    for (const char* method : {"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"})
+        window.picNewInvoice->cboPaymentMethod->AddItem(QObject::tr(method), 0);
+    for (const char* filter : {"All Invoices", "Unpaid Invoices"})
+        window.picArrivals->cboInvoiceFilter->AddItem(QObject::tr(filter), 0);
+}
+
+/// Selects the first entry and runs what choosing it runs, here, where a failing statement of it is skipped.
+template <typename Handler>
+void SelectFirst(ComboBox* combo, Handler handler)
+{
+    Ignoring([&] {
+        const QSignalBlocker quiet(combo);
+        combo->SetListIndex(0);
+    });
+    Ignoring(handler);
+}
+
+/// Terms that a store of long ago may hold. Nothing uses them any more but the last.
+void ReadTerms(MainWindow& window)
+{
+    Ignoring([] { CCur(GetConfig(QStringLiteral("CostPerNight"), QStringLiteral("123"))); });
+    Ignoring([] { CDbl(GetConfig(QStringLiteral("SalesTaxPercentage"), QStringLiteral("10"))); });
+    GetConfig(QStringLiteral("CurrencySymbol"), GetLocaleText(LocaleItem::CurrencySymbol));
+    GetConfig(QStringLiteral("SalesTaxName"), QStringLiteral("Sales Tax"));
+    const QString postCode = GetConfig(QStringLiteral("PostCode"), QStringLiteral("Post Code"));
+    for (QLabel* label : window.findChildren<QLabel*>(QStringLiteral("lblPostCode")))
+        label->setText(postCode);
+}
+
+} // namespace
+
+bool LoadStep(MainWindow& window, Connection& connection)
+{
+    window.SetupToolbar();
+    window.setWindowState(Qt::WindowMaximized);
+    if (!OpenDatabase(connection, ResolveDatabaseFolder()))
+        return false;
+
+    FillFixedLists(window);
+    gCurrentInvoiceId = -1;
+    gCurrentCustomerId = -1;
+    Ignoring([] { LoadSecondaryTax(); });
+    window.picNewInvoice->ShowSecondaryTax();
+    Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });
+    SetUpMainGrids(window);
+    window.picReports->ShowWeekdays(WeekdayNames());
+    Ignoring([&] { window.picReports->cboGraphStyle->SetListIndex(0); });
+    Ignoring([&] { window.picReports->cboGraphType->SetListIndex(0); });
+    window.picBack->PlaceHiddenPanels();
+    ReadTerms(window);
+    SelectFirst(window.picArrivals->cboInvoiceFilter, [&] { window.picArrivals->RefreshInvoiceList(1, 0); });
+    SelectFirst(window.picInventory->cboInvoicePriceList,
+        [&] { window.picInventory->RefreshInventoryList(window.picInventory->gInventory->Row(), 0); });
+    window.ShowMainPanel(InvoiceHistoryPanel);
+    Ignoring([&] { window.picArrivals->RefreshInvoiceList(1, 0); });
+    return true;
+}

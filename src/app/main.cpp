@@ -1,0 +1,28 @@
+#include "app/help_key.h"
+#include "app/image_lists.h"
+#include "app/start.h"
+#include "platform/guard.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tavrin-inventory"));
+    QGuiApplication::setWindowIcon(ProgramIcon(QStringLiteral("tavrin")));
+    // The main window's closing ends the program; the splash's does not.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const HelpKey helpKey(&application);
+
+    Program program;
+    int status = EXIT_FAILURE;
+    Guarded([&] {
+        if (!program.Main())
+            return;
+        On(program.Window(), &MainWindow::Closed, [] { QCoreApplication::exit(EXIT_SUCCESS); });
+        status = QApplication::exec();
+    });
+    return status;
+}

@@ -1,0 +1,222 @@
+#include "app/main_window.h"
+
+#include "app/image_lists.h"
+#include "app/main_grids.h"
+#include "app/menu_table.h"
+#include "app/toolbar.h"
+#include "inventory/multiple_pricing.h"
+#include "invoicing/current_invoice.h"
+#include "invoicing/find_invoice.h"
+#include "platform/dialogs.h"
+#include "platform/message_box.h"
+#include "platform/regional.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QWindow>
+
+namespace {
+
+constexpr QSize FirstSize(1024, 700);
+constexpr QSize ToolbarIconSize(32, 32);
+constexpr QSize TopIconSize(32, 32);
+
+/// The picture of each panel's head, numbered in the toolbar's list.
+constexpr int TopImages[]{6, 7, 4, 2, 3, 4, 3};
+
+bool IsTitleLabel(const QWidget* panel, const QWidget* pressed)
+{
+    const auto* titled = dynamic_cast<const Panel*>(panel);
+    return titled && pressed == titled->TitleLabel();
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+    : Toolbar(new QToolBar)
+    , picBack(new PanelArea(this))
+    , picNewInvoice(new InvoicePage(picBack))
+    , picArrivals(new InvoiceHistory(picBack))
+    , picCustomers(new CustomersPanel(picBack))
+    , picReports(new ReportsPanel(picBack))
+    , picInventory(new InventoryList(picBack))
+    , picVendors(new VendorsPanel(picBack))
+    , picItemGroups(new ItemGroups(picBack))
+    , m_panels{picNewInvoice, picArrivals, picCustomers, picReports, picInventory, picVendors, picItemGroups}
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(tr("Tavrin Inventory"));
+    resize(FirstSize);
+
+    for (Panel* panel : m_panels)
+        picBack->AddPanel(panel);
+    setCentralWidget(picBack);
+
+    BuildMenus(*this, menuBar());
+
+    Toolbar->setObjectName(QStringLiteral("Toolbar"));
+    Toolbar->setWindowTitle(tr("Toolbar"));
+    Toolbar->setMovable(false);
+    Toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    Toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    Toolbar->setIconSize(ToolbarIconSize);
+    addToolBar(Toolbar);
+    BuildToolbar(*this, Toolbar);
+
+    ConnectPanels();
+    LetPanelsDragTheWindow();
+}
+
+void MainWindow::ConnectPanels()
+{
+    On(picBack, &PanelArea::Resized, [this] { RunResizeRules(); });
+    On(picReports, &ReportsPanel::Expanded, [this] { RunResizeRules(); });
+    On(picNewInvoice, &InvoicePage::Left, [this] { ListInvoices(); });
+    On(picArrivals, &InvoiceHistory::OpenInvoice, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
+    On(picArrivals, &InvoiceHistory::NewInvoice, [this] { OpenInvoicePage(); });
+}
+
+void MainWindow::LetPanelsDragTheWindow()
+{
+    picBack->installEventFilter(this);
+    for (Panel* panel : m_panels)
+        panel->installEventFilter(this);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseButtonPress && widget) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        // A press on a label travels on to the panel beneath.
+        QWidget* pressed = widget->childAt(mouse->position().toPoint());
+        if (mouse->button() == Qt::LeftButton && (!pressed || IsTitleLabel(widget, pressed)))
+            windowHandle()->startSystemMove();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::ShowMainPanel(int panelNumber)
+{
+    if (panelNumber >= 0 && panelNumber < picBack->PanelCount())
+        picBack->ShowPanel(panelNumber);
+}
+
+void MainWindow::SetupToolbar()
+{
+    const bool xp = IsWindowsXP();
+    for (const ToolbarButton& button : ToolbarButtons()) {
+        if (button.position == 10)
+            continue;
+        QAction* action = Toolbar->findChild<QAction*>(QLatin1String(button.key));
+        action->setIcon(xp ? ImageOfImageListXP(button.imageInImageListXP) : ImageOfImToolbar(button.imageInImToolbar));
+    }
+    if (xp)
+        return;
+    for (int number = 0; number < m_panels.size(); ++number)
+        m_panels.at(number)->TopIcon()->setPixmap(
+            ImageOfImToolbar(TopImages[number]).pixmap(TopIconSize, devicePixelRatio()));
+}
+
+void MainWindow::RunResizeRules()
+{
+    StretchMainGrids(*this);
+}
+
+QAction* MainWindow::MenuEntry(const QString& name) const
+{
+    return menuBar()->findChild<QAction*>(name);
+}
+
+void MainWindow::Run(const QString& name)
+{
+    if (!name.isEmpty())
+        MenuEntry(name)->trigger();
+}
+
+void MainWindow::ListInvoices()
+{
+    ShowMainPanel(InvoiceHistoryPanel);
+    picArrivals->RefreshInvoiceList(1, 0);
+}
+
+void MainWindow::OpenInvoicePage()
+{
+    ShowMainPanel(InvoicePagePanel);
+    picNewInvoice->ShowInvoicePage();
+}
+
+void MainWindow::OpenInvoice(qint32 invoiceId)
+{
+    gCurrentInvoiceId = invoiceId;
+    OpenInvoicePage();
+}
+
+void MainWindow::FindInvoice()
+{
+    InvoiceSelected = false;
+    SelectedInvoiceID = -1;
+    frmFindInvoice(this).ShowModal();
+    if (InvoiceSelected)
+        OpenInvoice(SelectedInvoiceID);
+}
+
+void MainWindow::ViewInventory()
+{
+    ShowMainPanel(InventoryListPanel);
+    picInventory->RefreshInventoryList(1, 0);
+}
+
+void MainWindow::ViewItemGroups()
+{
+    ShowMainPanel(ItemGroupsPanel);
+    picItemGroups->RefreshItemGroupList(1, 0);
+}
+
+void MainWindow::AddItem()
+{
+    picInventory->AddItem();
+}
+
+void MainWindow::ViewCustomers()
+{
+    ShowMainPanel(CustomersListPanel);
+    picCustomers->RefreshCustomerList(1, 0);
+}
+
+void MainWindow::ViewVendors()
+{
+    ShowMainPanel(VendorsListPanel);
+    picVendors->RefreshVendorList(1, 0);
+}
+
+void MainWindow::ConfigurePriceLists()
+{
+    frmMultiplePricing(this).ShowModal();
+    picInventory->RefillInvoicePriceLists();
+}
+
+void MainWindow::FirstRun()
+{
+    const Answer tutorial =
+        MsgBox(tr("We've noticed that this is the first time you have launched Tavrin Inventory. You "
+                  "may find it useful to follow the getting started tutorial. Would you like to view "
+                  "it now?"),
+            Icon::Question, Buttons::YesNoCancel);
+    if (tutorial == Answer::Yes) {
+        constexpr int TutorialTopic = 3;
+        OpenHelp(HelpCommand::Context, TutorialTopic);
+        Run(QStringLiteral("mnuConfigureWizard"));
+    } else if (MsgBox(tr("Would you like to run the 'Configuration Wizard' now?"), Icon::Question, Buttons::YesNoCancel)
+        == Answer::Yes) {
+        Run(QStringLiteral("mnuConfigureWizard"));
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    Guarded([this] { SaveMainGridWidths(*this); });
+    QMainWindow::closeEvent(event);
+    emit Closed();
+}

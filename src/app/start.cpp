@@ -1,0 +1,73 @@
+#include "app/start.h"
+
+#include "app/load_step.h"
+#include "app/main_grids.h"
+#include "app/splash.h"
+#include "app/tip.h"
+#include "platform/numbers.h"
+#include "platform/settings_store.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QWindow>
+
+namespace {
+
+/// A window system gives a maximised window its size some time after it was told to show it.
+void WaitUntilPlaced(const QWidget& window)
+{
+    constexpr int PatienceMs = 1000;
+    constexpr int StepMs = 20;
+    const QDeadlineTimer patience(PatienceMs);
+    while (!window.windowHandle()->isExposed() && !patience.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, StepMs);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+Program::Program() = default;
+
+Program::~Program()
+{
+    m_window.reset();
+    if (gConnection == &m_connection)
+        gConnection = nullptr;
+}
+
+bool Program::Main()
+{
+    frmSplash([this] { return LoadMainWindow(); }).ShowModal();
+    if (!LoadMainWindow())
+        return false;
+    m_window->show();
+    WaitUntilPlaced(*m_window);
+    if (frmTip::ShowAtStartup())
+        frmTip(m_window.get()).ShowModal();
+    RunFirstRunPrompts();
+    RestoreMainGridWidths(*m_window);
+    return true;
+}
+
+bool Program::LoadMainWindow()
+{
+    if (m_load != Load::NotYet)
+        return m_load == Load::Done;
+    // A message of the load runs the splash's timers, which would load again.
+    m_load = Load::Failed;
+    auto window = std::make_unique<MainWindow>();
+    if (!LoadStep(*window, m_connection))
+        return false;
+    m_window = std::move(window);
+    m_load = Load::Done;
+    return true;
+}
+
+void Program::RunFirstRunPrompts()
+{
+    const QString key = QStringLiteral("FirstRun");
+    const bool firstRun = CBool(GetConfig(key, QStringLiteral("True")));
+    SaveConfig(key, QStringLiteral("False"));
+    if (firstRun)
+        m_window->FirstRun();
+}

@@ -1,0 +1,97 @@
+#include "parties/customers_panel.h"
+
+#include "config/lists.h"
+#include "platform/layout.h"
+
+namespace {
+
+constexpr std::string_view AddressSeparator = ", ";
+
+/// One a column; the name's is the default order.
+const QStringList& SortExpressions()
+{
+    static const QStringList expressions{"", "address1", "postcode", "phone"};
+    return expressions;
+}
+
+enum CustomerField { Id, FirstName, LastName, BusinessName, Address1, Address2, PostCode, Phone };
+
+std::optional<qint64> AddCustomerCells(const Recordset& row, GridFill& fill)
+{
+    // A first name is never Null in a row that the program wrote.
+    if (row.IsNull(FirstName))
+        throw InvalidUseOfNull();
+    fill.Add(CustomerName(row.Text(FirstName), row.Text(LastName), row.Text(BusinessName)));
+    std::string address(row.Text(Address1));
+    if (!row.Text(Address2).empty())
+        address.append(AddressSeparator).append(row.Text(Address2));
+    fill.Add(address);
+    fill.Add(row.Text(PostCode));
+    fill.Add(row.Text(Phone));
+    return row.Long(Id);
+}
+
+} // namespace
+
+std::string CustomerName(std::string_view firstName, std::string_view lastName, std::string_view businessName)
+{
+    std::string name(firstName);
+    if (!firstName.empty())
+        name += ' ';
+    name += lastName;
+    if (businessName.empty())
+        return name;
+    if (!lastName.empty())
+        name += ' ';
+    return name.append("(").append(businessName).append(")");
+}
+
+CustomersPanel::CustomersPanel(QWidget* parent)
+    : Panel("picCustomers", parent)
+{
+    cmdEditCustomer->setText(tr("View/Edit Customer"));
+    cmdCreateCustomer->setText(tr("Add Customer"));
+    cmdDeleteCustomer->setText(tr("Delete Customer"));
+    gcust->setAccessibleName(tr("Customers"));
+
+    gcust->SetCols(int(SortExpressions().size()));
+    for (int col = 0; col < gcust->Cols(); ++col)
+        gcust->SetColAlignment(col, CellAlign::LeftCenter);
+
+    auto* buttonBar = new QWidget;
+    buttonBar->setObjectName(QStringLiteral("picCustBot"));
+    buttonBar->setLayout(row({stretch(), cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer}));
+    buttonBar->layout()->setContentsMargins(0, 0, 0, 0);
+
+    setLayout(column({
+        head(tr("Customers"),
+            tr("Instructions - you are currently viewing your customer list. This includes all customers you "
+               "have invoiced or previously added. To sort by a column click it's title. For more details "
+               "press F1 for help.")),
+        gcust,
+        buttonBar,
+    }));
+
+    // The customer record is not built yet.
+    for (QPushButton* button : {cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer}) {
+        button->setEnabled(false);
+        button->setToolTip(tr("The customer record is not available yet."));
+    }
+
+    On(gcust, &FlexGrid::Click,
+        [this] { SortOnTitleClick(gcust, SortExpressions(), [this] { RefreshCustomerList(gcust->Row(), 0); }); });
+    On(gcust, &FlexGrid::DblClick, [this] {
+        if (gcust->MouseRow() != 0)
+            cmdEditCustomer->click();
+    });
+}
+
+void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)
+{
+    gConnection->Execute("SELECT count(*) FROM customer").Close();
+    LoadList(gcust,
+        Ordered(QStringLiteral("SELECT id, firstname, lastname, businessname, address1, address2, postcode, phone FROM "
+                               "customer "),
+            gcust, QStringLiteral("ORDER BY lastname, firstname")),
+        row, selectId, AddCustomerCells);
+}

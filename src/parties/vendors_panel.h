@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/flex_grid.h"
+#include "platform/form.h"
+
+#include <QPushButton>
+
+/// The vendor list of the main window. The row that stands for no vendor is left out.
+class VendorsPanel : public Panel {
+    Q_OBJECT
+public:
+    explicit VendorsPanel(QWidget* parent = nullptr);
+
+    /// Refills the list and selects the row of `selectId`, else row number `row`. Throws RuntimeError when a statement
+    /// fails.
+    void RefreshVendorList(int row, qint64 selectId);
+
+    CONTROL(FlexGrid, gVendors);
+    CONTROL(QPushButton, cmdVendorEdit);
+    CONTROL(QPushButton, cmdVendorNew);
+    CONTROL(QPushButton, cmdVendorDelete);
+};

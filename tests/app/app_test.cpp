@@ -1,0 +1,31 @@
+#include "app/app_test.h"
+
+#include <QFile>
+
+MainWindow& MainWindowTest::Window(QSize size)
+{
+    if (!m_window) {
+        m_before = gConnection;
+        m_window = std::make_unique<MainWindow>();
+        EXPECT_TRUE(LoadStep(*m_window, m_connection));
+        m_window->setWindowState(Qt::WindowNoState);
+        m_window->resize(size);
+        Shown(m_window.get());
+    }
+    return *m_window;
+}
+
+void MainWindowTest::TearDown()
+{
+    m_window.reset();
+    if (m_before)
+        gConnection = m_before;
+    DatabaseTest::TearDown();
+}
+
+void WriteFile(const QString& path, const QByteArray& text)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(text);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/load_step.h"
+#include "app/main_window.h"
+#include "platform/settings_store.h"
+#include "support/screen.h"
+#include "support/scripted_answers.h"
+#include "support/temporary_database.h"
+
+/// A main window over the test's own file, loaded as the program loads it, in a size of its own.
+class MainWindowTest : public DatabaseTest {
+protected:
+    /// Loads the window and shows it in this size.
+    MainWindow& Window(QSize size = {1024, 700});
+    /// The database of the load; `gConnection` from then on.
+    Connection& Loaded() { return m_connection; }
+
+    void TearDown() override;
+
+private:
+    Connection m_connection;
+    std::unique_ptr<MainWindow> m_window;
+    Connection* m_before = nullptr;
+};
+
+/// Writes a file of this text into the test's folder.
+void WriteFile(const QString& path, const QByteArray& text);

@@ -1,0 +1,307 @@
+#include "app/app_test.h"
+#include "app/edit_keys.h"
+#include "app/endpoints.h"
+#include "app/menu_table.h"
+#include "app/toolbar.h"
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QTest>
+
+namespace {
+
+class MenuTest : public MainWindowTest { };
+
+/// The menu bar as a user reads it: "name caption", two blanks before entries, a minus behind what is greyed.
+QStringList MenusOf(const MainWindow& window)
+{
+    QStringList lines;
+    const auto line = [](const QString& name, const QAction* action) {
+        return name + QLatin1Char(' ') + action->text() + (action->isEnabled() ? QString() : QStringLiteral(" -"));
+    };
+    for (const QAction* head : window.menuBar()->actions()) {
+        lines.append(line(head->menu()->objectName(), head));
+        for (const QAction* entry : head->menu()->actions())
+            if (!entry->isSeparator())
+                lines.append(QStringLiteral("  ") + line(entry->objectName(), entry));
+    }
+    return lines;
+}
+
+const QStringList ExpectedMenus{
+    "mnuFile &File",
+    "  mnuFileImportInventory Import In&ventory... -",
+    "  mnuFileExportResCSV Export &Invoices... -",
+    "  mnuFileExpInventory Export Inv&entory... -",
+    "  mnuFileExportCustomers Export &Customers... -",
+    "  mnuFileExportTodayRes Export &Today's Invoices... -",
+    "  mnuFileBackup &Backup Database... -",
+    "  mnuFilePageSetup Page &Setup...",
+    "  mnuFilePrint &Print...",
+    "  mnuFileExit E&xit",
+    "mnuEdit &Edit",
+    "  mnuEditUndo &Undo",
+    "  mnuEditCut Cu&t",
+    "  mnuEditCopy &Copy",
+    "  mnuEditPaste &Paste",
+    "  mnuEditClear Cle&ar",
+    "  mnuEditSelectAll Select &All",
+    "mnuWeb &Web Orders -",
+    "  mnuWebConfig &Configure Web Orders... -",
+    "  mnuWebCreatePage &Create Web Orders Page... -",
+    "mnuReservations Inv&oices",
+    "  mnuListInvoices Invoice &History",
+    "  mnuReservationAdd &New Invoice",
+    "  mnuReservationFind &Find Invoice...",
+    "  mnuInvoiceSetInvoiceNo &Set Next Invoice No...",
+    "mnuInventory &Inventory",
+    "  mnuViewInventory &View Inventory",
+    "  mnuInventoryViewItemGroup View Item &Groups",
+    "  mnuInvAddItem &Add Item...",
+    "  mnuInventoryReceive &Receive Stock...",
+    "mnuCustomers &Customers",
+    "  mnuCustomersView &View Customers",
+    "  mnuCustomerAdd &Add Customer... -",
+    "  mnuCustomerFind &Find Customer... -",
+    "  mnuCustMailingList Email Mailing List &Wizard... -",
+    "mnuReportS &Reports",
+    "  mnuReportQuick &Quick Statistics",
+    "  mnuReportReorder &Reorder Report",
+    "  mnuReportFilterReorder &Filtered Reorder Report...",
+    "  mnuReportStockLevel &Stock Level Report",
+    "  mnuCustomReports &Custom Reports...",
+    "mnuVendors &Vendors",
+    "  mnuVendorsView &View Vendors",
+    "  mnuVendorAdd &Add Vendor... -",
+    "mnuConfigure Confi&gure",
+    "  mnuConfigureWizard &Configuration Wizard... -",
+    "  mnuConfigureTerminology &Regional Settings... -",
+    "  mnuInvTaxRates &Tax Rates... -",
+    "  mnuInvLocations Item &Locations and Warehouses... -",
+    "  mnuInvCats Item C&ategories... -",
+    "  mnuConfigInvoiceStyle &Invoice Style...",
+    "  mnuConfigMultipleItemPricing Multiple Item &Pricing...",
+    "mnuHelp &Help",
+    "  mnuHelpContents &Contents...",
+    "  mnuHelpTipOfTheDay Tip of the &Day...",
+    "  mnuHelpIndex &Index...",
+    "  mnuHelpSearch &Search...",
+    "  mnuHelpOnlineSupport &Online Support",
+    "  mnuHelpSendFeedback Send &Feedback",
+    "  mnuAbout &About...",
+};
+
+} // namespace
+
+TEST_F(MenuTest, TheMenusStandAsTheyAreDelivered)
+{
+    const QStringList menus = MenusOf(Window());
+    for (int i = 0; i < std::max(menus.size(), ExpectedMenus.size()); ++i)
+        EXPECT_EQ(menus.value(i), ExpectedMenus.value(i));
+}
+
+TEST_F(MenuTest, NoMenuStartsOrEndsWithASeparatorOrShowsTwoInARow)
+{
+    for (const QAction* head : Window().menuBar()->actions()) {
+        bool separatorBefore = true;
+        for (const QAction* entry : head->menu()->actions()) {
+            EXPECT_FALSE(separatorBefore && entry->isSeparator()) << head->text().toStdString();
+            separatorBefore = entry->isSeparator();
+        }
+        EXPECT_FALSE(separatorBefore) << head->text().toStdString();
+    }
+}
+
+namespace {
+
+struct PanelEntry {
+    const char* entry;
+    const char* panel;
+};
+void PrintTo(const PanelEntry& entry, std::ostream* out)
+{
+    *out << entry.entry;
+}
+
+class PanelEntryTest : public MainWindowTest, public ::testing::WithParamInterface<PanelEntry> { };
+
+} // namespace
+
+TEST_P(PanelEntryTest, ShowsItsPanelAlone)
+{
+    MainWindow& window = Window();
+    window.Run(QLatin1String(GetParam().entry));
+    QStringList visible;
+    for (const QWidget* panel : window.picBack->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (panel->isVisible())
+            visible.append(panel->objectName());
+    EXPECT_EQ(visible, QStringList{GetParam().panel});
+    EXPECT_EQ(Find<QWidget>(&window, GetParam().panel)->size(), window.picBack->size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, PanelEntryTest,
+    ::testing::Values(PanelEntry{"mnuReservationAdd", "picNewInvoice"}, PanelEntry{"mnuListInvoices", "picArrivals"},
+        PanelEntry{"mnuViewInventory", "picInventory"}, PanelEntry{"mnuCustomersView", "picCustomers"},
+        PanelEntry{"mnuReportQuick", "picReports"}, PanelEntry{"mnuVendorsView", "picVendors"},
+        PanelEntry{"mnuInventoryViewItemGroup", "picItemGroups"}));
+
+TEST_F(MenuTest, ANumberThatNoPanelHasChangesNothing)
+{
+    MainWindow& window = Window();
+    window.ShowMainPanel(InventoryListPanel);
+    for (const int number : {-1, 7, 1000})
+        window.ShowMainPanel(number);
+    EXPECT_TRUE(window.picInventory->isVisible());
+}
+
+TEST_F(MenuTest, ViewingAListReadsItAnew)
+{
+    MainWindow& window = Window();
+    Customer("Ann", "Lee").Add();
+    VendorRow("Bolts & Co");
+    Item("Screws M4").Add();
+    window.Run("mnuCustomersView");
+    window.Run("mnuVendorsView");
+    window.Run("mnuViewInventory");
+    EXPECT_EQ(window.picCustomers->gcust->TextMatrix(1, 0), "Ann Lee");
+    EXPECT_EQ(window.picVendors->gVendors->TextMatrix(1, 0), "Bolts & Co");
+    EXPECT_EQ(window.picInventory->gInventory->TextMatrix(1, 1), "Screws M4");
+}
+
+TEST_F(MenuTest, HelpEntriesAndLinksAskForTheirTopicsAndPages)
+{
+    MainWindow& window = Window();
+    ScriptedAnswers answers;
+    answers.ExpectHelp(HelpCommand::Context, 1);
+    answers.ExpectHelp(HelpCommand::Tab, -2);
+    answers.ExpectHelp(HelpCommand::Tab, -1);
+    answers.ExpectLink(SupportSite());
+    answers.ExpectLink(FeedbackMail());
+    answers.ExpectLink(CustomReportsPage());
+    for (const char* entry : {"mnuHelpContents", "mnuHelpIndex", "mnuHelpSearch", "mnuHelpOnlineSupport",
+             "mnuHelpSendFeedback", "mnuCustomReports"})
+        window.Run(entry);
+    EXPECT_TRUE(FeedbackMail().startsWith("mailto:"));
+    EXPECT_TRUE(CustomReportsPage().endsWith("/InventoryCustomisation.php?s=app"));
+}
+
+TEST_F(MenuTest, CancelledPrintingAndPageSetupSayNothing)
+{
+    MainWindow& window = Window();
+    ScriptedAnswers answers;
+    answers.ExpectPrint(false);
+    answers.ExpectPageSetup(false);
+    window.Run("mnuFilePrint");
+    window.Run("mnuFilePageSetup");
+}
+
+TEST_F(MenuTest, EditEntriesActOnTheTextBoxWithTheFocus)
+{
+    MainWindow& window = Window();
+    window.Run("mnuReservationAdd");
+    TextBox* box = window.picNewInvoice->txtFirstname;
+    const auto choose = [&](const char* entry) {
+        window.Run(entry);
+        QCoreApplication::processEvents();
+    };
+    Type(box, "Ann");
+    choose("mnuEditSelectAll");
+    EXPECT_EQ(box->selectedText(), "Ann");
+    choose("mnuEditCopy");
+    choose("mnuEditCut");
+    EXPECT_EQ(box->text(), "");
+    choose("mnuEditPaste");
+    choose("mnuEditPaste");
+    EXPECT_EQ(box->text(), "AnnAnn");
+    choose("mnuEditUndo");
+    EXPECT_EQ(box->text(), "Ann");
+    box->setCursorPosition(0);
+    choose("mnuEditClear");
+    EXPECT_EQ(box->text(), "nn");
+}
+
+TEST_F(MenuTest, EditEntriesDoNothingInAList)
+{
+    Customer("Ann", "Lee").Add();
+    MainWindow& window = Window();
+    window.Run("mnuCustomersView");
+    FlexGrid* gcust = window.picCustomers->gcust;
+    gcust->setFocus();
+    const QList<QStringList> before = GridRows(gcust);
+    for (const char* entry : {"mnuEditUndo", "mnuEditCut", "mnuEditPaste", "mnuEditClear"}) {
+        window.Run(entry);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(GridRows(gcust), before);
+    EXPECT_EQ(gcust->Row(), 1);
+    EXPECT_EQ(Count("customer"), 1);
+}
+
+namespace {
+
+struct ToolbarKey {
+    const char* key;
+    const char* entry;
+};
+void PrintTo(const ToolbarKey& key, std::ostream* out)
+{
+    *out << key.key;
+}
+
+class ToolbarKeyTest : public ::testing::TestWithParam<ToolbarKey> { };
+
+} // namespace
+
+TEST_P(ToolbarKeyTest, RunsItsMenuEntry)
+{
+    EXPECT_EQ(EntryOfToolbarKey(GetParam().key), GetParam().entry);
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, ToolbarKeyTest,
+    ::testing::Values(ToolbarKey{"New Invoice", "mnuReservationAdd"}, ToolbarKey{"Invoices", "mnuListInvoices"},
+        ToolbarKey{"Inventory", "mnuViewInventory"}, ToolbarKey{"Customers", "mnuCustomersView"},
+        ToolbarKey{"Reports", "mnuReportQuick"}, ToolbarKey{"Find", "mnuCustomerFind"},
+        ToolbarKey{"Web Bookings", "mnuWebConfig"}, ToolbarKey{"Web Orders", ""}));
+
+TEST_F(MenuTest, TheToolbarHasItsButtonsInPlaceWithPicturesOfTheirOwn)
+{
+    QStringList positions;
+    QSet<QByteArray> pictures;
+    for (const QAction* action : Window().Toolbar->actions()) {
+        positions.append(action->isSeparator() ? QStringLiteral("|") : action->text());
+        if (action->isSeparator())
+            continue;
+        const QImage picture = action->icon().pixmap(32).toImage();
+        ASSERT_FALSE(picture.isNull()) << action->text().toStdString();
+        pictures.insert(QByteArray(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes()));
+    }
+    EXPECT_EQ(positions,
+        QStringList(
+            {"New Invoice", "|", "Invoices", "Inventory", "Customers", "Reports", "|", "Find", "|", "Web Orders"}));
+    EXPECT_EQ(pictures.size(), 7);
+}
+
+TEST_F(MenuTest, ToolbarClicksSwitchPanelsAndWebOrdersDoesNothing)
+{
+    MainWindow& window = Window();
+    const auto click = [&](const char* key) {
+        Click(window.Toolbar->widgetForAction(window.Toolbar->findChild<QAction*>(key)));
+    };
+    click("Inventory");
+    EXPECT_TRUE(window.picInventory->isVisible());
+    click("Web Orders");
+    EXPECT_TRUE(window.picInventory->isVisible());
+    click("Invoices");
+    EXPECT_TRUE(window.picArrivals->isVisible());
+}
+
+TEST_F(MenuTest, TheFindDropDownOffersCustomerAndInvoice)
+{
+    MainWindow& window = Window();
+    const QAction* find = window.Toolbar->findChild<QAction*>("Find");
+    ASSERT_TRUE(find->menu());
+    QStringList entries;
+    for (const QAction* entry : find->menu()->actions())
+        entries.append(entry->objectName() + " " + entry->text());
+    EXPECT_EQ(entries, QStringList({"Customer Customer...", "Invoice Invoice..."}));
+}

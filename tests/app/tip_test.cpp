@@ -1,0 +1,100 @@
+#include "app/app_test.h"
+#include "app/tip.h"
+#include "app/tips.h"
+#include "platform/files.h"
+
+namespace {
+
+struct Step {
+    int current;
+    int count;
+    int next;
+};
+
+class NextTipTest : public ::testing::TestWithParam<Step> { };
+
+} // namespace
+
+TEST_P(NextTipTest, GoesOnAndStartsAgainBehindTheLast)
+{
+    EXPECT_EQ(NextTip(GetParam().current, GetParam().count), GetParam().next);
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, NextTipTest,
+    ::testing::Values(Step{1, 3, 2}, Step{2, 3, 3}, Step{3, 3, 1}, Step{4, 3, 1}, Step{1, 1, 1}, Step{1, 0, 1},
+        Step{0, 3, 1}, Step{-7, 3, 1}, Step{2147483647, 3, 1}));
+
+namespace {
+
+class TipTest : public DatabaseTest {
+protected:
+    void Tips(const QByteArray& text) { WriteFile(NativePath(ProgramFolder(), TipFileName), text); }
+
+    /// What the dialog shows when it opens.
+    QString Opened()
+    {
+        frmTip tip(nullptr);
+        Shown(&tip);
+        return tip.lblTipText->text();
+    }
+};
+
+} // namespace
+
+TEST_F(TipTest, EachOpeningMovesOneTipOnStartingWithTheSecond)
+{
+    Tips("one\ntwo\r\n<b>three</b>\n");
+    EXPECT_EQ(Opened(), "two");
+    EXPECT_EQ(Opened(), "<b>three</b>");
+    EXPECT_EQ(Opened(), "one");
+    EXPECT_EQ(GetOption("Current Tip", ""), "1");
+}
+
+TEST_F(TipTest, NextTipStepsThroughBlankLinesToo)
+{
+    Tips("one\n\n  three \n");
+    frmTip tip(nullptr);
+    Shown(&tip);
+    EXPECT_EQ(tip.lblTipText->text(), "");
+    Click(tip.cmdNextTip);
+    EXPECT_EQ(tip.lblTipText->text(), "  three ");
+    Click(tip.cmdNextTip);
+    EXPECT_EQ(tip.lblTipText->text(), "one");
+    EXPECT_EQ(GetOption("Current Tip", ""), "1");
+}
+
+TEST_F(TipTest, AMissingFileIsToldAndNextTipShowsNothingNew)
+{
+    const QString text =
+        "That the TipOfTheDay.txt file was not found? \n\nCreate a text file named TipOfTheDay.txt using "
+        "NotePad with 1 tip per line. Then place it in the same directory as the application. ";
+    frmTip tip(nullptr);
+    Shown(&tip);
+    EXPECT_EQ(tip.lblTipText->text(), text);
+    EXPECT_EQ(GetOption("Current Tip", "unset"), "unset");
+    Click(tip.cmdNextTip);
+    EXPECT_EQ(tip.lblTipText->text(), text);
+    EXPECT_EQ(GetOption("Current Tip", ""), "1");
+}
+
+TEST_F(TipTest, AnEmptyFileShowsNoTip)
+{
+    Tips("");
+    EXPECT_EQ(Opened(), "");
+    EXPECT_EQ(GetOption("Current Tip", ""), "1");
+}
+
+TEST_F(TipTest, UntickingTakesEffectAtOnce)
+{
+    Tips("one\n");
+    EXPECT_TRUE(frmTip::ShowAtStartup());
+    frmTip tip(nullptr);
+    Shown(&tip);
+    EXPECT_TRUE(tip.chkLoadTipsAtStartup->isChecked());
+    Click(tip.chkLoadTipsAtStartup);
+    EXPECT_EQ(GetOption("Show Tips at Startup", ""), "0");
+    EXPECT_FALSE(frmTip::ShowAtStartup());
+    EXPECT_FALSE(frmTip(nullptr).chkLoadTipsAtStartup->isChecked());
+    Click(tip.chkLoadTipsAtStartup);
+    EXPECT_EQ(GetOption("Show Tips at Startup", ""), "1");
+}
