@@ -1,0 +1,66 @@
+#include "measure.h"
+#include "running_program.h"
+#include "subjects.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include <cstdio>
+#include <cstring>
+
+/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports] FOLDER
+/// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
+/// subject, or all. Adds lines to that file. Exit status 1: something was above its limit.
+
+namespace {
+
+struct Subject {
+    const char* task;
+    void (*measure)(RunningProgram&);
+};
+constexpr Subject Subjects[] = {
+    {"--statements", MeasureStatementOverhead},
+    {"--lists", MeasureLists},
+    {"--scans", MeasureScans},
+    {"--reports", MeasureReports},
+};
+
+bool IsAsked(const char* task, const char* subject)
+{
+    return *task == '\0' || std::strcmp(task, subject) == 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    if (argc != 2 && argc != 3) {
+        std::fputs(
+            "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports] FOLDER\n", stderr);
+        return 2;
+    }
+    const char* task = argc == 3 ? argv[1] : "";
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
+    const QString folder = QString::fromLocal8Bit(argv[argc - 1]);
+
+    if (std::strcmp(task, StartOnceTask) == 0)
+        return StartOnce(folder, double(sinceStart.nsecsElapsed()) / 1e6);
+    if (std::strcmp(task, StartFloorOnceTask) == 0)
+        return StartFloorOnce(folder);
+    if (std::strcmp(task, PeakMemoryTask) == 0)
+        return PeakMemory(folder);
+
+    if (IsAsked(task, "--start"))
+        MeasureStart(folder);
+    if (IsAsked(task, "--memory"))
+        MeasureMemory(folder);
+    RunningProgram program(folder);
+    for (const Subject& subject : Subjects)
+        if (IsAsked(task, subject.task))
+            subject.measure(program);
+    return AllWithinLimits() ? 0 : 1;
+}

@@ -1,0 +1,169 @@
+#include "subjects.h"
+
+#include "floor.h"
+#include "measure.h"
+#include "running_program.h"
+
+#include "invoicing/current_invoice.h"
+#include "make_database/ean13.h"
+
+#include <QTest>
+
+namespace {
+
+constexpr double Allowed = 1.3;
+constexpr double AllowedForManyLinesMs = 2;
+constexpr int Scans = 300;
+constexpr int ScansOfAShortInvoice = 5;
+
+/// The statements of one scan on an invoice without a line of that item, in their order.
+class ScanFloor {
+public:
+    explicit ScanFloor(sqlite3* handle)
+        : m_begin(handle, EngineSql{"BEGIN IMMEDIATE"})
+        , m_findItem(handle, "SELECT id FROM item WHERE barcode = 'x'")
+        , m_price(handle, "SELECT price FROM itempricelist WHERE itemid = 1 AND pricelistid = 1")
+        , m_stock(handle, "SELECT noinstock FROM item WHERE id = 1")
+        , m_lineOfItem(handle, "SELECT id, quantity FROM invoiceline WHERE invoiceid = 1 AND itemid = 1")
+        , m_item(handle,
+              "SELECT item.id, [number], item.name, taxrate.percentage, taxrate.name AS tname, description "
+              "FROM item, taxrate WHERE item.taxrateid = taxrate.id AND item.id = 1")
+        , m_addLine(handle,
+              EngineSql{"INSERT INTO InvoiceLine (ItemID, InvoiceID, Quantity, Amount, Description, Number, Name, "
+                        "TaxRateName, TaxRatePercentage) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"})
+        , m_takeFromStock(handle, "UPDATE item SET noinstock = noinstock - 1 WHERE id = 1")
+        , m_lines(handle,
+              "SELECT id, quantity, number, name, amount, taxratename, taxratepercentage FROM invoiceline "
+              "WHERE invoiceid = 1;")
+        , m_commit(handle, EngineSql{"COMMIT"})
+    {
+    }
+
+    void Scan(const std::string& barCode, qint64 invoice)
+    {
+        m_findItem.Run(barCode);
+        const qint64 item = m_findItem.Number();
+        m_begin.Run();
+        m_price.Run(item, 1);
+        m_stock.Run(item);
+        m_lineOfItem.Run(invoice, item);
+        m_item.Run(item);
+        m_addLine.Run(item, invoice, 1, 12.5, m_noText, m_number, m_name, m_taxRate, 8.25);
+        m_takeFromStock.Run(1, item);
+        m_lines.Run(invoice);
+        m_commit.Run();
+    }
+
+private:
+    FloorStatement m_begin, m_findItem, m_price, m_stock, m_lineOfItem, m_item, m_addLine, m_takeFromStock, m_lines,
+        m_commit;
+    const std::string m_noText, m_number = "12345", m_name = "Pewter Candlestick 12345", m_taxRate = "Standard";
+};
+
+/// Adds an invoice with lines of the items from number 1 on, as past scans have left it.
+qint64 AddInvoice(sqlite3* handle, int lines)
+{
+    FloorStatement(handle, EngineSql{"BEGIN"}).Run();
+    FloorStatement(handle,
+        EngineSql{
+            "INSERT INTO invoice (CustomerID, InvoiceNo, SubmittedDate, PaymentMethod, Paid, WarrantyInvoice, "
+            "StockReturned, Notes, Total2ndTax) VALUES (1, '100001', '2024-05-31 00:00:00', 'N/A', 0, 0, 0, '', '')"})
+        .Run();
+    FloorStatement newest(handle, EngineSql{"SELECT max(id) FROM invoice"});
+    newest.Run();
+    FloorStatement(handle,
+        EngineSql{
+            "INSERT INTO invoiceline (InvoiceID, ItemID, Quantity, Amount, Number, Name, Description, TaxRateName, "
+            "TaxRatePercentage) SELECT ?, id, 1, 12.5, Number, Name, '', 'Standard', 8.25 FROM item WHERE id <= ?"})
+        .Run(newest.Number(), lines);
+    FloorStatement(handle, EngineSql{"COMMIT"}).Run();
+    return newest.Number();
+}
+
+/// Two invoices that grow alike, one under the program's hands and one under the floor's.
+class ScanRace {
+public:
+    ScanRace(RunningProgram& program, int linesAtStart, int scansOfAnInvoice)
+        : m_program(program)
+        , m_floor(program.Handle())
+        , m_linesAtStart(linesAtStart)
+        , m_scansOfAnInvoice(scansOfAnInvoice)
+    {
+    }
+
+    Pair Run()
+    {
+        Pair pair;
+        for (int scan = 0; scan < Scans; ++scan) {
+            if (scan % m_scansOfAnInvoice == 0)
+                OpenInvoices();
+            pair.floor.Add(MillisecondsOf([&] { m_floor.Scan(NextCode().toStdString(), m_floorInvoice); }));
+            InvoicePage& page = *m_program.Window().picNewInvoice;
+            page.txtBarcode->setText(NextCode());
+            page.txtBarcode->setFocus();
+            LetPaint();
+            pair.program.Add(MillisecondsOf([&] { QTest::keyClick(page.txtBarcode, Qt::Key_Return); }));
+            m_painting.Add(MillisecondsOf(LetPaint));
+        }
+        return pair;
+    }
+
+    /// What the window system gets to do after a scan; the floor has no counterpart of it.
+    const Times& Painting() const { return m_painting; }
+
+private:
+    void OpenInvoices()
+    {
+        m_floorInvoice = AddInvoice(m_program.Handle(), m_linesAtStart);
+        gCurrentInvoiceId = qint32(AddInvoice(m_program.Handle(), m_linesAtStart));
+        m_program.Window().OpenInvoicePage();
+        LetPaint();
+    }
+
+    /// Items spread over the whole file, none twice.
+    QString NextCode()
+    {
+        constexpr qint64 Stride = 7919;
+        constexpr qint64 FirstFreeItem = 2000;
+        constexpr qint64 Items = 98'000;
+        return ShopEan13(FirstFreeItem + ++m_codes * Stride % Items);
+    }
+
+    RunningProgram& m_program;
+    ScanFloor m_floor;
+    int m_linesAtStart, m_scansOfAnInvoice;
+    qint64 m_floorInvoice = 0;
+    qint64 m_codes = 0;
+    Times m_painting;
+};
+
+qint64 LinesOf(RunningProgram& program, qint64 invoice)
+{
+    FloorStatement count(program.Handle(), EngineSql{"SELECT count(*) FROM invoiceline WHERE invoiceid = ?"});
+    count.Run(invoice);
+    return count.Number();
+}
+
+void ReportScans(const std::string& subject, ScanRace&& race, double allowedMs)
+{
+    constexpr double FrameMs = 16;
+    const Pair pair = race.Run();
+    const auto report = [&](const char* which, double program, double floor) {
+        Report((subject + which).c_str(), program, floor, floor * Allowed + allowedMs, "ms");
+    };
+    report(", median", pair.program.Median(), pair.floor.Median());
+    report(", 99th percentile", pair.program.Percentile99(), pair.floor.Percentile99());
+    Report((subject + ", painting after it, median").c_str(), race.Painting().Median(), 0, FrameMs, "ms");
+}
+
+} // namespace
+
+void MeasureScans(RunningProgram& program)
+{
+    ReportScans("scan of a bar code", ScanRace(program, 0, ScansOfAShortInvoice), 0);
+    // A scan that went nowhere would be a fast one.
+    Report("lines on the last short invoice", double(LinesOf(program, gCurrentInvoiceId)), ScansOfAShortInvoice,
+        ScansOfAShortInvoice, "lines");
+    ReportScans("scan, 1,000 lines", ScanRace(program, 1000, Scans), AllowedForManyLinesMs);
+    gCurrentInvoiceId = -1;
+}

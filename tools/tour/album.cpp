@@ -1,0 +1,87 @@
+#include "album.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+constexpr int CaptionHeight = 26;
+
+/// How near to the eye a window is: menus cover dialogs, dialogs cover the window that works, that one the others.
+int Nearness(const QWidget* window)
+{
+    if (window->windowType() == Qt::Popup)
+        return 3;
+    if (window->isModal())
+        return 2;
+    return window->isActiveWindow() ? 1 : 0;
+}
+
+bool IsOwnedBy(const QWidget* window, const QWidget* owner)
+{
+    for (const QWidget* up = window->parentWidget(); up; up = up->parentWidget())
+        if (up->window() == owner)
+            return true;
+    return false;
+}
+
+/// From the farthest to the nearest.
+QList<QWidget*> VisibleWindows()
+{
+    QList<QWidget*> windows;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            windows << window;
+    std::sort(windows.begin(), windows.end(), [](const QWidget* one, const QWidget* other) {
+        if (Nearness(one) != Nearness(other))
+            return Nearness(one) < Nearness(other);
+        return IsOwnedBy(other, one);
+    });
+    return windows;
+}
+
+void PaintWindow(QPainter& painter, QWidget& window)
+{
+    const QRect place(window.mapToGlobal(QPoint()), window.size());
+    painter.drawPixmap(place.topLeft(), window.grab());
+    const bool hasFrame = window.windowType() == Qt::Dialog && !(window.windowFlags() & Qt::FramelessWindowHint);
+    if (hasFrame) {
+        const QRect caption(place.left(), place.top() - CaptionHeight, place.width(), CaptionHeight);
+        painter.fillRect(caption, QColor(58, 74, 96));
+        painter.setPen(Qt::white);
+        painter.drawText(caption.adjusted(8, 0, -8, 0), Qt::AlignVCenter, window.windowTitle());
+    }
+    painter.setPen(QColor(58, 74, 96));
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+}
+
+} // namespace
+
+Album::Album(const QString& folder)
+    : m_folder(folder)
+{
+    if (!QDir().mkpath(folder))
+        throw std::runtime_error("cannot write to " + folder.toStdString());
+}
+
+void Album::Take(const char* name)
+{
+    QApplication::processEvents();
+    const QScreen* screen = QApplication::primaryScreen();
+    QPixmap picture(screen->size() * screen->devicePixelRatio());
+    picture.setDevicePixelRatio(screen->devicePixelRatio());
+    picture.fill(QColor(120, 130, 140));
+    QPainter painter(&picture);
+    for (QWidget* window : VisibleWindows())
+        PaintWindow(painter, *window);
+    painter.end();
+    const QString file = QStringLiteral("%1-%2.png").arg(++m_number, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
+    if (!picture.save(QDir(m_folder).filePath(file)))
+        throw std::runtime_error("cannot write " + file.toStdString());
+}

@@ -1,0 +1,107 @@
+#include "road.h"
+
+#include "app/image_lists.h"
+#include "app/start.h"
+#include "make_database/database_maker.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/settings_store.h"
+#include "support/screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+/// usage: tour PROGRAM_FOLDER PICTURE_FOLDER
+/// Walks the road of one invoice through the real windows and leaves a picture of each station. It works on a demo shop
+/// and a settings store of its own, which it throws away.
+
+namespace {
+
+const QDateTime Morning(QDate(2026, 3, 14), QTime(10, 30));
+
+/// A screen of the smallest size that the program is made for; without a display there is none else.
+void DescribeScreen(const QString& file)
+{
+    QFile description(file);
+    if (!description.open(QFile::WriteOnly))
+        return;
+    description.write(R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": 1024, "height": 740,
+                          "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    description.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.toUtf8());
+}
+
+/// What a screen without a window system cannot do goes without saying.
+void Tell(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
+void PrepareShop(const QString& folder)
+{
+    Arguments demo;
+    demo.file = folder + QStringLiteral("/db.mdb");
+    demo.contents = Contents::DemoShop;
+    demo.today = Morning.date();
+    MakeDatabaseWith(demo);
+    SetSettingsFolder(folder + QStringLiteral("/settings"));
+    SaveConfig(QStringLiteral("DBPath"), folder + QLatin1Char('/'));
+}
+
+void Walk(const QString& pictureFolder)
+{
+    Album album(pictureFolder);
+    Program program;
+    StartForTheFirstTime(program, album);
+    LookAround(program, album);
+    const QString barCode = AddAnItem(program, album);
+    WriteAnInvoice(program, album, barCode);
+    FindTheInvoice(program, album);
+    program.Window()->close();
+}
+
+bool WentWell()
+{
+    return !testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    if (argc != 3) {
+        std::fputs("usage: tour PROGRAM_FOLDER PICTURE_FOLDER\n", stderr);
+        return 2;
+    }
+    testing::InitGoogleTest();
+    qInstallMessageHandler(Tell);
+    const QTemporaryDir folder;
+    DescribeScreen(folder.filePath(QStringLiteral("screen.json")));
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
+    QGuiApplication::setWindowIcon(ProgramIcon(QStringLiteral("tavrin")));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    try {
+        SetClock([] { return Morning; });
+        SetProgramFolder(QString::fromLocal8Bit(argv[1]));
+        PrepareShop(folder.path());
+        StartWatchingForms();
+        Walk(QString::fromLocal8Bit(argv[2]));
+        CheckAwaitedForms();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "tour: %s\n", error.what());
+        return 1;
+    }
+    if (!WentWell()) {
+        std::fputs("tour: the walk did not go as it should\n", stderr);
+        return 1;
+    }
+    return 0;
+}
