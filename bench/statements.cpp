@@ -15,7 +15,7 @@ Sql TypicalStatement(int id)
         "NoInStock = {stock}, ReorderLevel = {level} WHERE ID = {id};")
         .Text("number", QStringLiteral("10471"))
         .Text("name", QStringLiteral("Ship's Lantern, Brass"))
-        .Text("description", QStringLiteral("Burns lamp oil for 12 hours."))
+        .Text("description", QStringLiteral("It burns lamp oil for 12 hours."))
         .Text("barcode", QStringLiteral("2000009990003"))
         .Number("stock", 24)
         .Number("level", 6)
@@ -35,7 +35,7 @@ void MeasureStatementOverhead(RunningProgram& program)
     FloorStatement floor(program.Handle(), TypicalStatement(NoSuchRow).Filled());
     const std::string number = "10471";
     const std::string name = "Ship's Lantern, Brass";
-    const std::string description = "Burns lamp oil for 12 hours.";
+    const std::string description = "It burns lamp oil for 12 hours.";
     const std::string barcode = "2000009990003";
     const Pair pair = MeasureInTurn(
         Rounds,

@@ -120,12 +120,15 @@ Answer ScriptedAnswers::Message(const QString& text, Icon icon, Buttons buttons,
     const std::optional<Expected> expected = Take(Question, text);
     if (!expected)
         return buttons == Buttons::Ok ? Answer::Ok : buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-    if (expected->icon)
+    if (expected->icon) {
         EXPECT_EQ(int(icon), int(*expected->icon)) << "icon of \"" << qPrintable(text) << '"';
-    if (expected->buttons)
+    }
+    if (expected->buttons) {
         EXPECT_EQ(int(buttons), int(*expected->buttons)) << "buttons of \"" << qPrintable(text) << '"';
-    if (expected->title)
+    }
+    if (expected->title) {
         EXPECT_EQ(title.toStdString(), expected->title->toStdString()) << "title of \"" << qPrintable(text) << '"';
+    }
     return expected->answer;
 }
 
