@@ -6,13 +6,14 @@
 NameForm::NameForm(const char* name, const NameFormTexts& texts, QWidget* parent)
     : Form(name, texts.title, parent)
     , m_nameMissing(texts.nameMissing)
+    , m_buttons(row({stretch(), cmdOK, cmdCancel}))
 {
     cmdOK->setText(tr("OK"));
     cmdCancel->setText(tr("&Cancel"));
     setLayout(column({
         instructions(texts.instructions),
         fields({{tr("Name:"), txtName}}),
-        row({stretch(), cmdOK, cmdCancel}),
+        m_buttons,
     }));
     cmdOK->setDefault(true);
     SetCancelButton(cmdCancel);
@@ -27,6 +28,14 @@ void NameForm::ShowStoredName(const Sql& sql, Icon notFoundIcon)
         MsgBox(tr("Record not found."), notFoundIcon);
     else
         txtName->setText(NullToText(stored[0]));
+}
+
+void NameForm::ShowBesideButtons(QWidget* widget)
+{
+    m_buttons->insertWidget(0, widget);
+    // Left to the layout, it would show with the next turn of the event loop.
+    widget->show();
+    layout()->activate();
 }
 
 void NameForm::Save()

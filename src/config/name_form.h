@@ -5,6 +5,7 @@
 #include "platform/message_box.h"
 #include "platform/text_box.h"
 
+#include <QBoxLayout>
 #include <QPushButton>
 
 struct NameFormTexts {
@@ -26,6 +27,9 @@ protected:
 
     /// Shows the first column of the statement's row, or says "Record not found." and leaves the form empty.
     void ShowStoredName(const Sql& sql, Icon notFoundIcon);
+    /// Shows `widget` to the left of the buttons at once, also when the event loop stands still from here on. The form
+    /// keeps its size: the window system would have to answer first.
+    void ShowBesideButtons(QWidget* widget);
     /// Writes the row.
     virtual void Store(const QString& name) = 0;
 
@@ -33,4 +37,5 @@ private:
     void Save();
 
     QString m_nameMissing;
+    QBoxLayout* m_buttons;
 };

@@ -34,11 +34,10 @@ void frmAddPriceList::AddList(const QString& name)
     Hourglass hourglass;
     auto* bar = new QProgressBar;
     bar->setAccessibleName(tr("Adding prices"));
-    layout()->addWidget(bar);
-    AddPriceListForEveryItem(name, [this, bar](int done, int total) {
+    ShowBesideButtons(bar);
+    AddPriceListForEveryItem(name, [bar](int done, int total) {
         bar->setRange(0, total);
         bar->setValue(done);
-        layout()->activate();
-        repaint();
+        bar->repaint();
     });
 }

@@ -148,7 +148,7 @@ QList<frmItemDetails::PriceBox> frmItemDetails::MakePriceBoxes()
 
 void frmItemDetails::FitToScreen()
 {
-    const QSize frame(40, 80);
+    const QSize frame(40, 48);
     resize(sizeHint().boundedTo(screen()->availableGeometry().size() - frame));
 }
 

@@ -18,6 +18,20 @@ QString PriceOf(qint32 itemId, const QString& priceListId)
     return FormatCurrency(price.Eof() ? Currency() : price["price"].ToCurrency());
 }
 
+// The limit is for what the user enters. A stored text beyond it is shown whole, as the next save would store it cut:
+// "$123,456.78" as 123456.7.
+void ShowWhole(TextBox* box, const QString& text)
+{
+    box->setMaxLength(qMax(box->maxLength(), int(text.size())));
+    box->setText(text);
+}
+
+void ShowWhole(MultiLineTextBox* box, const QString& text)
+{
+    box->SetMaxLength(qMax(box->MaxLength(), int(text.size())));
+    box->SetText(text);
+}
+
 } // namespace
 
 void frmItemDetails::FillLists()
@@ -92,13 +106,13 @@ void frmItemDetails::ShowItem(const Recordset& item)
     SelectComboByData(cboVendor, item["VendorID"].ToLong());
     SelectComboByData(cboTaxRate, item["TaxRateID"].ToLong());
 
-    m_noInStock->setText(item["NoInStock"].ToText());
-    m_reorderLevel->setText(item["ReorderLevel"].ToText());
-    m_minStockLevel->setText(item["MinStockLevel"].ToText());
-    m_description->SetText(NullToText(item["description"]));
+    ShowWhole(m_noInStock, item["NoInStock"].ToText());
+    ShowWhole(m_reorderLevel, item["ReorderLevel"].ToText());
+    ShowWhole(m_minStockLevel, item["MinStockLevel"].ToText());
+    ShowWhole(m_description, NullToText(item["description"]));
     m_name->setText(NullToText(item["name"]));
     const Value returns = item["WarrantyReturns"];
-    m_warrantyReturns->setText(returns.IsNull() ? QStringLiteral("0") : returns.ToText());
+    ShowWhole(m_warrantyReturns, returns.IsNull() ? QStringLiteral("0") : returns.ToText());
 
     ShowStorage(NullToText(item["LocationID"]));
 }
@@ -115,5 +129,5 @@ void frmItemDetails::ShowStorage(const QString& locationId)
 void frmItemDetails::ShowPrices()
 {
     for (const PriceBox& price : m_prices)
-        price.box->setText(PriceOf(gEditItemId, price.box->property("Tag").toString()));
+        ShowWhole(price.box, PriceOf(gEditItemId, price.box->property("Tag").toString()));
 }

@@ -4,6 +4,7 @@
 #include "db/connection.h"
 #include "inventory/add_price_list.h"
 #include "inventory/price_fan_out.h"
+#include "platform/hourglass.h"
 #include "platform/layout.h"
 #include "platform/message_box.h"
 
@@ -85,8 +86,7 @@ void frmMultiplePricing::RemoveList()
     const qint64 priceListId = lstItems->SelectedId();
     if (priceListId == DefaultPriceList) {
         MsgBox(tr("This is the default Price List and so cannot be deleted. However it can be renamed, to rename press "
-                  "the "
-                  "Edit button."),
+                  "the Edit button."),
             Icon::Critical);
         return;
     }
@@ -94,6 +94,7 @@ void frmMultiplePricing::RemoveList()
             Icon::Question, Buttons::YesNoCancel)
         != Answer::Yes)
         return;
+    Hourglass hourglass;
     DeletePriceList(priceListId);
     Setup();
 }

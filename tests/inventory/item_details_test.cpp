@@ -49,31 +49,23 @@ TEST_F(ItemDetails, ANewItemStartsWithTheNextNumberAndNothingChosen)
     EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 42);
 }
 
-TEST_F(ItemDetails, ACategoryPreselectsItsFirstSubCategory)
+TEST_F(ItemDetails, ACategoryPreselectsItsFirstSubCategoryAndAWarehouseNoLocation)
 {
     const int tools = CategoryRow("Tools");
     CategoryRow("Empty");
     const int saws = SubCategoryRow(tools, "Saws");
     const int drills = SubCategoryRow(tools, "Drills");
+    const int bin = LocationRow(WarehouseRow("Shed"), "Bin 1");
     Open(NewRow);
 
     Pick(form->cboCategory, "Tools");
     EXPECT_EQ(Entries(form->cboSubCategory, {1, drills, saws}), QStringList({"All Sub-Categories", "Drills", "Saws"}));
     EXPECT_EQ(form->cboSubCategory->Text(), "Drills");
-
-    Pick(form->cboCategory, "Empty");
-    EXPECT_EQ(Entries(form->cboSubCategory, {1}), QStringList({"All Sub-Categories"}));
-    EXPECT_EQ(form->cboSubCategory->ListIndex(), 0);
-
-    Pick(form->cboCategory, "N/A");
-    EXPECT_EQ(Entries(form->cboSubCategory), QStringList({"All Sub-Categories"}));
-}
-
-TEST_F(ItemDetails, AWarehouseFallsBackToNoLocation)
-{
-    const int shed = WarehouseRow("Shed");
-    const int bin = LocationRow(shed, "Bin 1");
-    Open(NewRow);
+    for (const char* category : {"Empty", "N/A"}) {
+        Pick(form->cboCategory, category);
+        EXPECT_EQ(Entries(form->cboSubCategory, {1}), QStringList({"All Sub-Categories"}));
+        EXPECT_EQ(form->cboSubCategory->ListIndex(), 0);
+    }
 
     Pick(form->cboWarehouse, "Shed");
     EXPECT_EQ(Entries(form->cboStorage, {1, bin}), QStringList({"N/A", "Bin 1"}));
@@ -123,24 +115,19 @@ TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOne)
     EXPECT_EQ(Lists(), QStringList({"", "", "N/A", "N/A", "Default Warehouse", "N/A"})) << "the sub-category is gone";
 }
 
-struct Unreadable {
-    const char* change;
-    int error;
-};
-class UnreadableItem : public ItemFormTest, public testing::WithParamInterface<Unreadable> { };
-
-TEST_P(UnreadableItem, EndsTheProgram)
+TEST_F(ItemDetails, ANullLevelAndALocationThatIsGoneEndTheProgram)
 {
-    const int item = Item("Saw").Add();
-    Run(QString("UPDATE item SET %1").arg(GetParam().change));
-    ExpectedEnd end;
-    Guarded([&] { Open(item); });
-    EXPECT_EQ(end.Number(), GetParam().error);
+    const auto errorOf = [this](const char* column, const char* value) {
+        const int item = Item("Saw").Add();
+        Run(QString("UPDATE item SET %1 = %2 WHERE id = %3").arg(column, value).arg(item));
+        ExpectedEnd end;
+        Guarded([&] { Open(item); });
+        return end.Number();
+    };
+    for (const char* level : {"NoInStock", "ReorderLevel", "MinStockLevel"})
+        EXPECT_EQ(errorOf(level, "NULL"), 94) << level;
+    EXPECT_EQ(errorOf("LocationID", "999"), 3021);
 }
-
-INSTANTIATE_TEST_SUITE_P(Values, UnreadableItem,
-    testing::Values(Unreadable{"NoInStock = NULL", 94}, Unreadable{"ReorderLevel = NULL", 94},
-        Unreadable{"MinStockLevel = NULL", 94}, Unreadable{"LocationID = 999", 3021}));
 
 TEST_F(ItemDetails, EnterAfterABarCodeMovesOnAndSavesNothing)
 {
@@ -166,7 +153,6 @@ TEST_F(ItemDetails, FortyPriceListsAndFortyFieldsScrollOnTheScreen)
     const auto* area = form->findChild<QScrollArea*>();
     EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
-    EXPECT_TRUE(form->cmdOk->isVisible());
 
     // Walking by keyboard brings each control into view, custom fields after the last list.
     form->cboStorage->setFocus();

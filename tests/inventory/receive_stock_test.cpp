@@ -9,13 +9,16 @@ namespace {
 
 class ReceiveStock : public FormTest<frmReceiveStock> {
 protected:
-    /// What a scanner or a hand on the keyboard does: keys to whatever has the focus, then Enter.
+    /// What a scanner does: keys to whatever has the focus, then Enter.
     void Enter(const QString& keys)
     {
-        QWidget* focus = QApplication::focusWidget();
-        ASSERT_TRUE(focus);
-        QTest::keyClicks(focus, keys);
-        QTest::keyClick(focus, Qt::Key_Return);
+        QTest::keyClicks(QApplication::focusWidget(), keys);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    }
+    void Scan(const QString& barcode)
+    {
+        form->txtBarcode->FocusAll();
+        Enter(barcode);
     }
     void Receive(const QString& quantity)
     {
@@ -30,10 +33,7 @@ TEST_F(ReceiveStock, ListsEveryItemOnceAlsoThoseWithoutATaxRate)
     Item("drill").Number("1").Add();
     Open();
     CheckForm(*form);
-    EXPECT_EQ(GridTitles(form->gInventory), QStringList({"Number", "Name", "In Stock"}));
     EXPECT_EQ(GridRows(form->gInventory), Table({{"1", "drill", "0"}, {"2", "Saw", "1.5"}}));
-    EXPECT_EQ(form->txtAddQuantity->text(), "0");
-    EXPECT_EQ(form->gInventory->Row(), 1);
 }
 
 TEST_F(ReceiveStock, AScannerDrivesTheFormAlone)
@@ -83,48 +83,37 @@ TEST_F(ReceiveStock, QuantitiesThatAreNoNumberAreRefused)
     EXPECT_EQ(Stock(saw), 4.5);
 }
 
-struct Failing {
-    const char* barcode;
-    const char* quantity;
-};
-class FailingEntry : public ReceiveStock, public testing::WithParamInterface<Failing> { };
-
-TEST_P(FailingEntry, EndsTheProgramWithNothingWritten)
+TEST_F(ReceiveStock, EntriesThatTheStatementCannotTakeEndTheProgramWithNothingWritten)
 {
     const int saw = Item("Saw").Barcode("111").Stock(5).Add();
-    Open();
-    ExpectedEnd end;
-    if (GetParam().barcode) {
-        Type(form->txtBarcode, GetParam().barcode);
-        Click(form->cmdAddBarCodeItem);
-    } else {
-        Type(form->txtAddQuantity, GetParam().quantity);
-        Click(form->cmdUpdateStockLevel);
-    }
-    EXPECT_TRUE(end.Ended());
-    EXPECT_EQ(Stock(saw), 5);
+    const auto expectEnd = [&](const char* box, const char* text) {
+        Open();
+        ExpectedEnd end;
+        Type(Find<TextBox>(form.get(), box), text);
+        Press(Find<TextBox>(form.get(), box), Qt::Key_Return);
+        EXPECT_TRUE(end.Ended()) << text;
+        EXPECT_EQ(Stock(saw), 5) << text;
+    };
+    expectEnd("txtBarcode", "O'Brien");
+    expectEnd("txtBarcode", "' OR '1'='1'; DELETE FROM item");
+    for (const char* quantity : {"1,000", "$5", "5-"})
+        expectEnd("txtAddQuantity", quantity);
 }
-
-INSTANTIATE_TEST_SUITE_P(Entries, FailingEntry,
-    testing::Values(Failing{"O'Brien", nullptr}, Failing{"' OR '1'='1'; DELETE FROM item", nullptr},
-        Failing{nullptr, "1,000"}, Failing{nullptr, "$5"}, Failing{nullptr, "5-"}));
 
 TEST_F(ReceiveStock, OddBarCodesAreLookedUpAsTheyAre)
 {
-    Item("Empty code").Barcode("").Add();
+    const int empty = Item("Empty code").Barcode("").Add();
     const int percent = Item("Percent").Barcode("50%").Add();
     Open();
     for (const QString& missing : {QString("%"), QString("5_%"), QString(300, '7')}) {
         answers.ExpectMessage("Item not found.");
-        Type(form->txtBarcode, missing);
-        Press(form->txtBarcode, Qt::Key_Return);
+        Scan(missing);
     }
-    Type(form->txtBarcode, "50%");
-    Press(form->txtBarcode, Qt::Key_Return);
+    Scan("50%");
     EXPECT_EQ(form->gInventory->CurrentRowData(), percent);
     Type(form->txtBarcode, "");
-    Press(form->txtBarcode, Qt::Key_Return);
-    EXPECT_EQ(form->gInventory->TextMatrix(form->gInventory->Row(), 1), "Empty code");
+    Enter("");
+    EXPECT_EQ(form->gInventory->CurrentRowData(), empty);
 }
 
 TEST_F(ReceiveStock, AStockOfNullStaysNullAndAnEmptyListBooksNothing)
