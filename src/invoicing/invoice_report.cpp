@@ -29,7 +29,7 @@ void RegisterRepInvoice()
         "{prmInvID}",
         "SELECT *, quantity * (taxratepercentage/100*amount+amount) AS taxsubtotal, quantity * "
         "(taxratepercentage/100*amount) AS taxsubtotal2 FROM invoiceline",
-        " WHERE InvoiceID = {parentKey}",
+        " WHERE InvoiceID = {parentKey} ORDER BY id",
         "Invoice.ID",
         {{"Aggregate1", "taxsubtotal"}, {"Aggregate2", "taxsubtotal2"}},
     });

@@ -7,6 +7,8 @@ namespace {
 constexpr int Margin = 1134;
 constexpr int Width = 9638;
 constexpr int LineStep = 230;
+/// That of the date until the user chooses another, so that the references look alike.
+constexpr double TextSize = 8.25;
 
 constexpr int AddressTop = 1900;
 constexpr int RightColumn = 5600;
@@ -51,7 +53,8 @@ void AddReferences(ReportSection& header)
     constexpr int FieldWidth = Width - RightFields;
     const int top = AddressTop;
     header.AddLabel("Label5", QObject::tr("Invoice Number:"), RightColumn, top, LabelWidth);
-    header.AddField("txtInvoiceNo", "InvoiceNo", RightFields, top, FieldWidth).Wraps(2, 2);
+    // One line each: a wrapped number would push the dates away from their labels.
+    header.AddField("txtInvoiceNo", "InvoiceNo", RightFields, top, FieldWidth).overflow = ReportOverflow::Shrink;
     header.AddLabel("Label10", QObject::tr("Your order of"), RightColumn, top + LineStep, LabelWidth);
     header.AddField("txtInvoiceSubmittedDate", "Invoice.SubmittedDate", RightFields, top + LineStep, FieldWidth)
         .Formatted("d/MM/yyyy");
@@ -100,13 +103,22 @@ void AddTotals(ReportSection& footer)
     footer.AddLabel("Label1", QObject::tr("Order Total (including tax)"), LabelLeft, Top + LineStep, LabelWidth)
         .RightAligned();
     footer.AddField("Text2", "Aggregate1", AmountLeft, Top + LineStep, AmountWidth).RightAligned();
-    footer.AddLabel("TaxName2", QObject::tr("2nd Tax Total"), LabelLeft, Top + 2 * LineStep, LabelWidth).RightAligned();
+    footer.AddLabel("TaxName2", QObject::tr("2nd Tax Total"), LabelLeft, Top + 2 * LineStep, LabelWidth)
+        .RightAligned()
+        .Wraps(2, 2);
     footer.AddField("txtTotal2ndTax", "Total2ndTax", AmountLeft, Top + 2 * LineStep, AmountWidth).RightAligned();
     footer.AddLine("Line3", AmountLeft, Top + 3 * LineStep + 40, AmountWidth);
     ReportControl& total =
         footer.AddLabel("GrandTotal", "", AmountLeft, Top + 3 * LineStep + 90, AmountWidth).RightAligned().Bold();
     total.font.points = 11;
     total.height = 270;
+}
+
+void SizeTexts(ReportSection& section)
+{
+    for (ReportControl& control : section.controls)
+        if (control.name != "GrandTotal")
+            control.font.points = TextSize;
 }
 } // namespace
 
@@ -140,5 +152,7 @@ Report InvoiceDesign()
     pageFooter.height = 400;
     pageFooter.AddPageNumber("lblPageNumber", 0, 150, Width).alignment = Qt::AlignHCenter;
     report.Section(ReportSectionKind::ReportFooter).name = "ReportFooter";
+    for (ReportSection* section : {&title, &header, &detail, &footer, &pageFooter})
+        SizeTexts(*section);
     return report;
 }

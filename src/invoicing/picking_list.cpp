@@ -27,7 +27,7 @@ void RegisterRepPickingList()
         "SELECT InvoiceLine.Quantity, Item.Name, Location.Name AS LocationName, InvoiceLine.InvoiceID, Warehouse.name "
         "AS WarehouseName FROM InvoiceLine, Item, Location, Warehouse WHERE InvoiceLine.ItemID = Item.ID AND "
         "Item.LocationID = Location.ID AND Location.WarehouseID = Warehouse.ID",
-        " AND InvoiceLine.InvoiceID = {parentKey}",
+        " AND InvoiceLine.InvoiceID = {parentKey} ORDER BY InvoiceLine.ID",
         "ID",
         {},
     });

@@ -8,6 +8,7 @@
 #include "platform/report_output.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScrollBar>
@@ -45,7 +46,8 @@ QString SuggestedFile(QString title)
     for (QChar& character : title)
         if (QStringLiteral("\\/:*?\"<>|").contains(character) || character < ' ')
             character = '_';
-    return title + ".pdf";
+    constexpr int LongestTitle = 80; // a file's name has an end
+    return title.left(LongestTitle).trimmed() + ".pdf";
 }
 } // namespace
 
@@ -67,6 +69,8 @@ PreviewWindow::PreviewWindow(Report report)
     On(picView, &PreviewView::ZoomWheel, [this](int steps) { StepZoom(steps); });
     On(picView, &PreviewView::Resized, [this] { ApplyZoom(); });
     On(txtPage, &QSpinBox::valueChanged, [this](int page) { GoTo(page - 1); });
+    // So that the keys turn pages again once one was chosen.
+    On(txtPage->findChild<QLineEdit*>(), &QLineEdit::returnPressed, [this] { picView->setFocus(); });
     On(cboZoom, &ComboBox::Click, [this] { PickZoom(); });
     On(&m_counting, &QTimer::timeout, [this] { CountMore(); });
 

@@ -72,6 +72,7 @@ bool StandsOver(const Piece& above, const Piece& below)
 void MoveByHeights(std::vector<Piece>& pieces)
 {
     std::vector<Piece*> downwards;
+    downwards.reserve(pieces.size());
     for (Piece& piece : pieces)
         downwards.push_back(&piece);
     std::ranges::stable_sort(downwards, {}, [](const Piece* piece) { return piece->control->top; });
@@ -131,6 +132,9 @@ bool HasContent(const Piece& piece)
 
 QString ReportValueText(const ReportValue& value, const QString& mask)
 {
+    // An amount looks the same whether it was stored or calculated, in currencies without cents too.
+    if (const auto* number = std::get_if<double>(&value); number && mask == "Currency")
+        return FormatCurrency(*number);
     if (const auto* number = std::get_if<double>(&value))
         return mask.isEmpty() ? CStr(*number) : FormatNumber(*number, mask);
     if (const auto* amount = std::get_if<Currency>(&value))

@@ -10,6 +10,8 @@
 namespace {
 constexpr double TwipsAPoint = 20;
 constexpr double SmallestPoints = 1;
+/// What is shrunk below this could not be read; the longest amounts are above it.
+constexpr double SmallestShrunk = 4;
 constexpr double LargestPoints = 72;
 /// No line of a page holds more; what is longer is cut before it is measured.
 constexpr int LongestParagraph = 4000;
@@ -45,14 +47,40 @@ QStringList Paragraphs(const QString& text, int most)
     return paragraphs;
 }
 
-// Control characters have no place on paper and would print as boxes.
-QString OneLine(QString text)
+// Control characters have no place on paper, and what no font has would print as a black bar.
+QString OneLine(const QString& text, const ReportTypeface& face)
 {
-    text.truncate(LongestParagraph);
-    for (QChar& character : text)
-        if (character.category() == QChar::Other_Control)
-            character = ' ';
-    return text;
+    QString line;
+    bool isMissing = false;
+    for (const char32_t character : text.left(LongestParagraph).toUcs4()) {
+        if (isMissing && QChar::isMark(character))
+            continue;
+        isMissing = !face.Has(character);
+        if (isMissing)
+            line += '?';
+        else if (QChar::category(character) == QChar::Other_Control)
+            line += ' ';
+        else
+            line += QString::fromUcs4(&character, 1);
+    }
+    return line;
+}
+
+// Where a script cannot be written, boxes stand in for its letters: glyph 1 of a font that comes from no file.
+bool IsMissing(const QGlyphRun& run)
+{
+    const QList<quint32> glyphs = run.glyphIndexes();
+    return glyphs.contains(0) || (glyphs.contains(1) && run.rawFont().fontTable("head").isEmpty());
+}
+
+// A font may have a letter and yet lack the rules to write its script; only the shaped text tells.
+bool CanShape(char32_t character, const QFont& font)
+{
+    QTextLayout layout(QString::fromUcs4(&character, 1), font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    return std::ranges::none_of(layout.glyphRuns(), IsMissing);
 }
 
 void WrapParagraph(const QString& paragraph, qreal width, int most, const ReportTypeface& face, QStringList& lines)
@@ -88,7 +116,7 @@ ReportTextBlock Wrapped(const QString& text, const ReportControl& control, qreal
         const int left = control.totalLines - static_cast<int>(block.lines.size());
         if (left <= 0)
             break;
-        WrapParagraph(OneLine(paragraph), width, std::min(left, control.paragraphLines), face, block.lines);
+        WrapParagraph(OneLine(paragraph, face), width, std::min(left, control.paragraphLines), face, block.lines);
     }
     return block;
 }
@@ -101,7 +129,7 @@ ReportTextBlock Shrunk(const QString& text, const ReportControl& control, qreal 
         return {{text}, face};
     // Half points keep the number of fonts small.
     const double points = std::floor(2 * std::min(control.font.points, LargestPoints) * width / advance) / 2;
-    face = &fonts.At({std::max(points, SmallestPoints), control.font.bold});
+    face = &fonts.At({std::max(points, SmallestShrunk), control.font.bold});
     return {{face->metrics.elidedText(text, Qt::ElideRight, width)}, face};
 }
 } // namespace
@@ -113,12 +141,13 @@ ReportTypeface::ReportTypeface(const QString& family, const ReportFont& font)
     , m_rawFont(QRawFont::fromFont(this->font))
 {
     m_advances.fill(-1);
-    for (char16_t code = ' '; code < m_advances.size() - 1; ++code) {
-        const QList<quint32> glyphs = m_rawFont.glyphIndexesForString(QString(QChar(code)));
+    for (size_t code = ' '; code < m_advances.size() - 1; ++code) {
+        const QChar character{char16_t(code)};
+        const QList<quint32> glyphs = m_rawFont.glyphIndexesForString(QString(character));
         if (glyphs.size() != 1 || glyphs[0] == 0)
             continue;
         m_glyphs[code] = glyphs[0];
-        m_advances[code] = static_cast<float>(metrics.horizontalAdvance(QChar(code)));
+        m_advances[code] = static_cast<float>(metrics.horizontalAdvance(character));
     }
 }
 
@@ -134,6 +163,20 @@ std::optional<qreal> ReportTypeface::PlainAdvance(QStringView text, qreal most) 
             return {};
     }
     return sum;
+}
+
+bool ReportTypeface::Has(char32_t character) const
+{
+    if (character < m_advances.size())
+        return true;
+    const auto known = m_has.constFind(character);
+    if (known != m_has.constEnd())
+        return *known;
+    // Blanks, accents and joiners are part of what stands beside them.
+    const QChar::Category category = QChar::category(character);
+    const bool isPart = QChar::isSpace(character) || QChar::isMark(character) || category == QChar::Other_Format
+        || category == QChar::Other_Control;
+    return *m_has.insert(character, isPart || CanShape(character, font));
 }
 
 bool ReportTypeface::SurelyFits(QStringView text, qreal width) const
@@ -212,9 +255,9 @@ ReportTextBlock FitText(const QString& text, const ReportControl& control, qreal
     case ReportOverflow::Wrap:
         return Wrapped(text, control, width, face);
     case ReportOverflow::Shrink:
-        return Shrunk(OneLine(text), control, width, fonts);
+        return Shrunk(OneLine(text, face), control, width, fonts);
     case ReportOverflow::Shorten:
         break;
     }
-    return {{face.metrics.elidedText(OneLine(text), Qt::ElideRight, width)}, &face};
+    return {{face.metrics.elidedText(OneLine(text, face), Qt::ElideRight, width)}, &face};
 }

@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QList>
 #include <QPainter>
 #include <QRawFont>
@@ -22,6 +23,8 @@ struct ReportTypeface {
     /// True when a plain Latin text is known to fit without shaping it; false may also mean "not known".
     bool SurelyFits(QStringView text, qreal width) const;
     qreal Advance(const QString& text) const;
+    /// True when this font or one of those behind it can show the character.
+    bool Has(char32_t character) const;
     qreal LineHeight() const { return 1.08 * (metrics.ascent() + metrics.descent()); }
 
     ReportFont key;
@@ -38,6 +41,7 @@ private:
     std::array<float, 128> m_advances;
     std::array<quint32, 128> m_glyphs;
     QRawFont m_rawFont;
+    mutable QHash<char32_t, bool> m_has;
 };
 
 /// Draws texts. Plain Latin texts on one baseline go to the painter together, as glyphs: shaping each text again and

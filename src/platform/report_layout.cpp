@@ -20,12 +20,23 @@ void PaintPicture(QPainter& painter, const ReportItem& item)
     painter.drawImage(QRectF(item.place.topLeft(), size), item.control->picture);
 }
 
+// Thinner than a pixel a rule would fade or vanish; a pen without width is a pixel wide however small the page is
+// shown.
+void PaintRule(QPainter& painter, const QRectF& place)
+{
+    const bool isThin = RuleWidth * painter.deviceTransform().m22() < 1;
+    painter.setPen(QPen(Qt::black, isThin ? 0 : RuleWidth, Qt::SolidLine, Qt::FlatCap));
+    const qreal y = place.top() + RuleWidth / 2;
+    painter.drawLine(QPointF(place.left(), y), QPointF(place.right(), y));
+    painter.setPen(QPen(Qt::black));
+}
+
 void PaintItem(QPainter& painter, ReportTextPainter& texts, const ReportItem& item)
 {
     if (item.control->kind == ReportControlKind::Image) {
         PaintPicture(painter, item);
     } else if (item.control->kind == ReportControlKind::Line) {
-        painter.fillRect(QRectF(item.place.topLeft(), QSizeF(item.place.width(), RuleWidth)), Qt::black);
+        PaintRule(painter, item.place);
     } else {
         for (const ReportLine& line : item.lines)
             texts.Draw(*item.typeface, line.baseline, line.text);

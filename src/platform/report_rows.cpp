@@ -5,7 +5,7 @@
 #include <cstring>
 
 namespace {
-constexpr size_t BlockSize = 64 * 1024;
+constexpr size_t BlockSize = 65'536;
 constexpr qint64 MillisecondsADay = 24LL * 60 * 60 * 1000;
 
 enum Kind : char { Null, Number, Money, Moment, ShortText, LongText };

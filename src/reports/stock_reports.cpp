@@ -12,10 +12,12 @@
 namespace {
 // What margins of an inch leave of an A4 sheet.
 constexpr int Width = 9026;
-constexpr int NameColumn = 1500;
-constexpr int StockColumn = 4650;
-constexpr int MinStockColumn = 5750;
-constexpr int VendorColumn = 7350;
+constexpr int NameColumn = 1250;
+constexpr int StockColumn = 4150;
+constexpr int MinStockColumn = 5250;
+constexpr int VendorColumn = 6900;
+constexpr int NumberWidth = NameColumn - 100;
+constexpr int NameWidth = StockColumn - NameColumn - 50;
 
 void Register(const char* name, const char* statement)
 {
@@ -27,8 +29,8 @@ void AddTitles(ReportSection& header)
 {
     header.name = "PageHeader";
     header.height = 400;
-    header.AddLabel("Label2", QObject::tr("Number"), 0, 0, 1400).Bold();
-    header.AddLabel("Label3", QObject::tr("Name"), NameColumn, 0, 3100).Bold();
+    header.AddLabel("Label2", QObject::tr("Number"), 0, 0, NumberWidth).Bold();
+    header.AddLabel("Label3", QObject::tr("Name"), NameColumn, 0, NameWidth).Bold();
     header.AddLabel("Label4", QObject::tr("No In Stock"), StockColumn, 0, 1050).RightAligned().Bold();
     header.AddLabel("Label5", QObject::tr("Min Stock Level"), MinStockColumn, 0, 1480).RightAligned().Bold();
     header.AddLabel("Label6", QObject::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
@@ -39,8 +41,8 @@ void AddDetail(ReportSection& detail, const QString& numberField)
 {
     detail.name = "Detail";
     detail.height = 250;
-    detail.AddField("Text1", numberField, 0, 0, 1400).Wraps(2, 2);
-    detail.AddField("txtName", "Name", NameColumn, 0, 3100).Wraps(3, 3);
+    detail.AddField("Text1", numberField, 0, 0, NumberWidth).Wraps(2, 2);
+    detail.AddField("txtName", "Name", NameColumn, 0, NameWidth).Wraps(3, 3);
     detail.AddField("txtNoInStock", "NoInStock", StockColumn, 0, 1050).RightAligned();
     detail.AddField("txtMinStockLevel", "MinStockLevel", MinStockColumn, 0, 1480).RightAligned();
     detail.AddField("txtBusinessName", "BusinessName", VendorColumn, 0, Width - VendorColumn).Wraps(2, 2);

@@ -148,6 +148,9 @@ TEST_F(InvoiceDocuments, LongTextsAndManyLinesStayInTheirPlaces)
 
     ReportLayout layout(PrepareInvoice(invoice, false), {});
     EXPECT_GT(layout.PageCount(), 10);
+    const QString first = PageText(layout.Page(0));
+    EXPECT_TRUE(first.contains("txtInvoiceNo: 999") && !first.contains("9 / 9"))
+        << "the number on one line, beside its label";
     for (int page = 0; layout.HasPage(page); ++page) {
         const ReportPage sheet = layout.Page(page);
         for (size_t i = 0; i < sheet.items.size(); ++i)
@@ -170,6 +173,30 @@ TEST_F(InvoiceDocuments, AmountsFollowTheUsersLocale)
     EXPECT_TRUE(text.contains(QString("txttaxsubtotal: 1.357,95") + QChar(0xA0) + "€")) << text.toStdString();
     EXPECT_TRUE(text.contains("txtTaxRatePercentage: 10,0%"));
     EXPECT_TRUE(text.contains("lblDate: 14.03.2026")) << text.toStdString();
+}
+
+TEST_F(InvoiceDocuments, ACurrencyWithoutCentsHasNoneInAnyColumn)
+{
+    SetRegional(QLocale(QLocale::Japanese, QLocale::Japan));
+    const int invoice = Invoice(Customer("Aki", "Ito").Add()).No("00001").Add();
+    Line(invoice, Item("Tea").TaxRate(m_gst).Add(), 2, "1234.5");
+    const QString text = TextOf(PrepareInvoice(invoice, false));
+    for (const char* amount :
+        {"txtAmount: ￥1,235\n", "txttaxsubtotal: ￥2,716\n", "Text1: ￥247\n", "Text2: ￥2,716\n"})
+        EXPECT_TRUE(text.contains(amount)) << amount << text.toStdString();
+}
+
+TEST_F(InvoiceDocuments, LinesStandInTheOrderInWhichTheyWereEntered)
+{
+    const int invoice = Invoice(Customer("Ann", "B").Add()).No("00001").Add();
+    const int first = Item("First item").Add();
+    const int second = Item("Second item").Add();
+    Line(invoice, second, 1, "1");
+    Line(invoice, first, 1, "1");
+    const QString document = TextOf(PrepareInvoice(invoice, false));
+    EXPECT_LT(document.indexOf("Second item"), document.indexOf("First item"));
+    const QString picking = TextOf(PreparePickingList(invoice));
+    EXPECT_LT(picking.indexOf("Second item"), picking.indexOf("First item"));
 }
 
 TEST_F(InvoiceDocuments, ThePickingListTellsWhereTheGoodsLie)

@@ -154,6 +154,40 @@ TEST(ReportLayout, AmountsArePrintedSmallerAndNeverCut)
     EXPECT_LT(ItemOf(page, "Amount")->typeface->key.points, 9);
 }
 
+TEST(ReportLayout, RulesAreSeenHoweverSmallThePageIsShown)
+{
+    Report report = NameList({});
+    report.Section(ReportSectionKind::PageHeader).controls.clear();
+    for (int i = 0; i < 10; ++i)
+        report.Section(ReportSectionKind::PageHeader).AddLine("Rule", 0, 33 * i, 4000);
+    report.Control("Title").visible = false;
+    ReportLayout layout(report, A4);
+    QImage picture(A4.width / 60, A4.height / 60, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.scale(1 / 60.0, 1 / 60.0);
+    layout.Paint(painter, layout.Page(0));
+    painter.end();
+    int dark = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        dark += qGray(picture.pixel(40, y)) < 128;
+    EXPECT_GE(dark, 5) << "ten rules, each half a pixel from the next";
+}
+
+TEST(ReportLayout, TextsThatCannotBeShownAreMarkedAndNeverShrinkOutOfSight)
+{
+    Report report = NameList({QString("Tea \U000F0000\u0301 caf\u0065\u0301")});
+    report.Control("Name").overflow = ReportOverflow::Shrink;
+    report.Control("Title").caption = QString(2000, 'W');
+    report.Control("Title").overflow = ReportOverflow::Shrink;
+    ReportLayout layout(report, A4);
+    const ReportPage page = layout.Page(0);
+    const QString name = LinesOf(page, "Name").value(0);
+    EXPECT_TRUE(name.contains("? caf\u0065\u0301")) << "no font has a character of the private planes";
+    EXPECT_GE(ItemOf(page, "Title")->typeface->key.points, 4);
+    CheckPage(page, A4Space);
+}
+
 TEST(ReportLayout, AmountsEndInOneColumn)
 {
     ReportLayout layout(NameList(Numbered(12)), A4);

@@ -59,6 +59,7 @@ TEST_F(Preview, KeysLeadThroughThePages)
     QTest::keyClicks(Find<QSpinBox>(m_window, "txtPage"), "3\r");
     EXPECT_EQ(m_window->CurrentPage(), 2);
     EXPECT_TRUE(Find<PreviewPage>(m_window, "picPage")->accessibleDescription().contains("Name 109"));
+    EXPECT_TRUE(View()->hasFocus()) << "the page keys turn pages again";
 }
 
 TEST_F(Preview, PageDownScrollsToTheEndOfThePageAndThenTurnsIt)
