@@ -6,7 +6,7 @@
 QString ResolveDatabaseFolder()
 {
     const QString key = QStringLiteral("DBPath");
-    const QString programFolder = ProgramFolder() + QLatin1Char('\\');
+    QString programFolder = ProgramFolder() + QLatin1Char('\\');
     QString folder = GetConfig(key, programFolder);
     if (folder.isEmpty())
         return programFolder;

@@ -109,7 +109,7 @@ void MainWindow::SetupToolbar()
     for (const ToolbarButton& button : ToolbarButtons()) {
         if (button.position == 10)
             continue;
-        QAction* action = Toolbar->findChild<QAction*>(QLatin1String(button.key));
+        auto* action = Toolbar->findChild<QAction*>(QLatin1String(button.key));
         action->setIcon(xp ? ImageOfImageListXP(button.imageInImageListXP) : ImageOfImToolbar(button.imageInImToolbar));
     }
     if (xp)
@@ -143,14 +143,17 @@ void MainWindow::ListInvoices()
 
 void MainWindow::OpenInvoicePage()
 {
-    ShowMainPanel(InvoicePagePanel);
-    picNewInvoice->ShowInvoicePage();
+    OpenInvoice(gCurrentInvoiceId);
 }
 
 void MainWindow::OpenInvoice(qint32 invoiceId)
 {
+    // The page may be in view already, with the focus in a box that was typed into.
+    if (picNewInvoice->isVisible())
+        picNewInvoice->UpdateInvoiceEdit();
     gCurrentInvoiceId = invoiceId;
-    OpenInvoicePage();
+    ShowMainPanel(InvoicePagePanel);
+    picNewInvoice->ShowInvoicePage();
 }
 
 void MainWindow::FindInvoice()

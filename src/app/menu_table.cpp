@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "reports/stock_reports.h"
 
+#include <QCoreApplication>
 #include <QMenuBar>
 
 namespace {

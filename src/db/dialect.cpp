@@ -117,7 +117,7 @@ private:
             throw Error();
         m_lastStart = m_tokens.Place();
         const Expression value = expressions.Read();
-        return "[" + column.name.toStdString() + "] = " + Assigned(value, KindOf(column.kind));
+        return std::string("[") + column.name.toStdString() + "] = " + Assigned(value, KindOf(column.kind));
     }
 
     /// A literal is brought to the column's kind when it is bound, anything else by the engine as it is written.
@@ -357,13 +357,13 @@ private:
         std::string outer;
         std::string inner;
         for (size_t i = 0; i < m_columns.size(); ++i) {
-            const std::string name = "c" + std::to_string(i);
+            const std::string name = std::string("c") + std::to_string(i);
             outer += (outer.empty() ? "" : ", ") + name;
             inner += m_columns[i].sql + " AS " + name + ", ";
         }
         std::string order = " ORDER BY place";
         for (size_t i = 0; i < m_groups.size(); ++i) {
-            const std::string name = "g" + std::to_string(i);
+            const std::string name = std::string("g") + std::to_string(i);
             inner += m_groups[i] + " AS " + name + ", ";
             order += ", " + name;
         }

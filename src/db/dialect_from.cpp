@@ -61,7 +61,7 @@ void FromClause::ReadTable(const std::string& lead)
     if (m_tokens.AtName())
         alias = m_tokens.Take().text;
     m_scope.Add(table.text, alias);
-    std::string sql = "[" + std::string(table.text) + "]";
+    std::string sql = std::string("[").append(table.text) + "]";
     if (!alias.empty())
         sql += " AS [" + std::string(alias) + "]";
     m_parts.push_back({lead, sql, 0});

@@ -48,7 +48,7 @@ void LocaleOrder::RankPlainCharacters()
     std::vector<QString> characters;
     for (char c = FirstPrinting; c <= LastPrinting; ++c) {
         if (!IsIgnored(QLatin1Char(c)))
-            characters.push_back(QString(QLatin1Char(c)));
+            characters.emplace_back(QLatin1Char(c));
     }
     std::stable_sort(characters.begin(), characters.end(),
         [this](const QString& a, const QString& b) { return m_collator.compare(a, b) < 0; });
@@ -90,14 +90,14 @@ bool LocaleOrder::RanksAgreeWithCollator() const
 int LocaleOrder::CompareByRank(std::string_view left, std::string_view right) const
 {
     const auto skip = [this](std::string_view text, size_t at) {
-        while (at < text.size() && m_ranks[size_t(text[at])] == 0)
+        while (at < text.size() && m_ranks[uchar(text[at])] == 0)
             ++at;
         return at;
     };
     size_t l = skip(left, 0);
     size_t r = skip(right, 0);
     while (l < left.size() && r < right.size()) {
-        const int difference = m_ranks[size_t(left[l])] - m_ranks[size_t(right[r])];
+        const int difference = m_ranks[uchar(left[l])] - m_ranks[uchar(right[r])];
         if (difference != 0)
             return difference;
         l = skip(left, l + 1);

@@ -81,7 +81,7 @@ TableDefinition BookingTable()
             + Columns(Memo, {"notes"})};
 }
 
-TableDefinition NamedTable(const char* name, QList<ColumnDefinition> further)
+TableDefinition NamedTable(const char* name, const QList<ColumnDefinition>& further)
 {
     return {name, Columns(AutoNumber, {"id"}) + Columns(Text, {"name"}) + further};
 }

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 namespace {
 constexpr int CenturyTurn = 30;
@@ -23,7 +24,8 @@ DateField::DateField(QWidget* parent)
 bool DateField::focusNextPrevChild(bool next)
 {
     FinishTyping();
-    return QWidget::focusNextPrevChild(next);
+    // The date edit of Qt would step to its next part.
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void DateField::focusOutEvent(QFocusEvent* event)
@@ -58,7 +60,7 @@ void DateField::TypeDigit(QKeyEvent* event)
         FinishTyping();
         m_before = date();
         m_part = part;
-        setSelectedSection(sectionAt(part));
+        SelectPart(sectionAt(part));
     }
     m_wentOn = false;
     const Section section = sectionAt(part);
@@ -67,14 +69,16 @@ void DateField::TypeDigit(QKeyEvent* event)
         digits.clear();
     digits += event->text();
     // A year shows half typed, which a day or month never has to.
-    if (section == YearSection)
+    if (section == YearSection) {
+        const QScopedValueRollback showing(m_isShowing, true);
         QDateEdit::keyPressEvent(event);
+    }
     if (section != YearSection || IsComplete(section, digits))
         ShowTyped(m_typed[YearSection].size() == 4 ? m_typed[YearSection].toInt() : m_before.year());
     if (IsComplete(section, digits))
         GoToNextPart();
     else if (section != YearSection)
-        setSelectedSection(section);
+        SelectPart(section);
 }
 
 void DateField::TypeSeparator()
@@ -91,20 +95,28 @@ void DateField::ShowTyped(int year)
     const int typedDay = m_typed[DaySection].toInt();
     const int month = typedMonth >= 1 && typedMonth <= 12 ? typedMonth : m_before.month();
     const int day = typedDay >= 1 && typedDay <= 31 ? typedDay : m_before.day();
+    const QScopedValueRollback showing(m_isShowing, true);
     setDate(QDate(year, month, qMin(day, QDate(year, month, 1).daysInMonth())));
+}
+
+void DateField::SelectPart(Section section)
+{
+    // A date that got shorter may have moved the part to where the cursor stands, and Qt follows only a moving cursor.
+    lineEdit()->setCursorPosition(int(text().size()));
+    setSelectedSection(section);
 }
 
 void DateField::GoToNextPart()
 {
     if (m_part + 1 >= sectionCount())
         return;
-    setSelectedSection(sectionAt(++m_part));
+    SelectPart(sectionAt(++m_part));
     m_wentOn = true;
 }
 
 void DateField::FinishTyping()
 {
-    if (m_part < 0)
+    if (m_part < 0 || m_isShowing)
         return;
     const QString year = m_typed[YearSection];
     int complete = m_before.year();

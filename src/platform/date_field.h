@@ -11,7 +11,8 @@ class DateField : public QDateEdit {
 public:
     explicit DateField(QWidget* parent);
 
-    /// Takes what was typed so far as it stands, with the century of a two-digit year filled in.
+    /// Takes what was typed so far as it stands, with the century of a two-digit year filled in. Does nothing for one
+    /// who asks because the typing just changed the date: the typing goes on.
     void FinishTyping();
 
 protected:
@@ -24,10 +25,12 @@ private:
     void TypeSeparator();
     /// Shows the date that stood here with the parts typed so far in place of its own.
     void ShowTyped(int year);
+    void SelectPart(Section section);
     void GoToNextPart();
 
     QHash<Section, QString> m_typed;
     QDate m_before;
     int m_part = -1;
     bool m_wentOn = false;
+    bool m_isShowing = false;
 };

@@ -103,11 +103,9 @@ private:
         const RegionalFormats& formats = Formats();
         if (IsBlank(character))
             m_pieces.append({Piece::Kind::Blank});
-        else if (character == QLatin1Char(':'))
-            m_pieces.append({Piece::Kind::TimeSeparator});
         else if (QStringLiteral("/-,").contains(character) || formats.dateSeparator == character)
             m_pieces.append({Piece::Kind::DateSeparator});
-        else if (character == QLatin1Char('.') || formats.timeSeparator == character)
+        else if (QStringLiteral(":.").contains(character) || formats.timeSeparator == character)
             m_pieces.append({Piece::Kind::TimeSeparator});
         else
             return false;

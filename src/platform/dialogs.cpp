@@ -1,6 +1,7 @@
 #include "platform/dialogs.h"
 
 #include "platform/message_box.h"
+#include "platform/regional.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -11,6 +12,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QUrl>
 
 #include <cmath>
@@ -43,6 +45,15 @@ QString PickedFile(QFileDialog& dialog)
 bool NoPrinterInstalled()
 {
     return QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+/// The paper of the user's country: Letter in most of the Americas, A4 elsewhere.
+QPageSize::PageSizeId CountryPaper()
+{
+    static const QSet<QLocale::Country> letter{QLocale::UnitedStates, QLocale::Canada, QLocale::Mexico,
+        QLocale::PuertoRico, QLocale::Guatemala, QLocale::ElSalvador, QLocale::Nicaragua, QLocale::CostaRica,
+        QLocale::Panama, QLocale::Belize, QLocale::Colombia, QLocale::Venezuela, QLocale::Chile, QLocale::Philippines};
+    return letter.contains(Regional().territory()) ? QPageSize::Letter : QPageSize::A4;
 }
 
 bool AskPageSetup(QPrinter& printer, QWidget* owner)
@@ -84,6 +95,8 @@ QPrinter& CurrentPrinter()
     static QPrinter* printer = nullptr;
     if (!printer) {
         printer = new QPrinter(QPrinter::HighResolution);
+        if (NoPrinterInstalled())
+            printer->setPageSize(QPageSize(CountryPaper()));
         // A printer must not outlive the application object.
         qAddPostRoutine([] {
             delete printer;

@@ -53,7 +53,7 @@ QString MakeUniqueFileName(const QString& folder, const QString& extension)
     // Going on from a random name instead of drawing again ends also when the folder has all the names.
     for (quint32 step = 0; step < NameCount; ++step) {
         const QString name = QString::number((start + step) % NameCount, 16).toUpper();
-        const QString path = NativePath(folder, name + extension);
+        QString path = NativePath(folder, name + extension);
         if (!FileExists(path))
             return path;
     }

@@ -50,6 +50,23 @@ protected:
         option->state &= ~QStyle::State_HasFocus;
     }
 };
+
+/// Shows the start of a title that is wider than its column. Qt cuts a centred title off at both ends.
+class TitleHeader : public QHeaderView {
+public:
+    explicit TitleHeader(QWidget* parent)
+        : QHeaderView(Qt::Horizontal, parent)
+    {
+    }
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int col) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, col);
+        const int room = sectionSize(col) - 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
+        option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, room);
+    }
+};
 } // namespace
 
 FlexGrid::FlexGrid(QWidget* parent)
@@ -86,7 +103,8 @@ FlexGrid::FlexGrid(QWidget* parent)
 void FlexGrid::SetUpHeader()
 {
     verticalHeader()->hide();
-    QHeaderView* header = horizontalHeader();
+    auto* header = new TitleHeader(this);
+    setHorizontalHeader(header);
     // Qt's own answers to a press on a title select the column.
     QObject::disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
     QObject::disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
@@ -95,7 +113,6 @@ void FlexGrid::SetUpHeader()
     header->setHighlightSections(false);
     header->setSortIndicatorShown(false);
     header->setStretchLastSection(false);
-    header->setTextElideMode(Qt::ElideRight);
     header->setMinimumSectionSize(0);
     header->setDefaultSectionSize(TwipsToPixels(DefaultTwips));
 }

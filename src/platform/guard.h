@@ -49,7 +49,7 @@ bool Ignoring(Body&& body)
 template <typename Sender, typename Signal, typename Handler>
 void On(Sender* sender, Signal signal, Handler handler)
 {
-    QObject::connect(sender, signal, sender, [handler](auto&&... arguments) mutable {
+    QObject::connect(sender, signal, sender, [handler](auto&&... arguments) mutable -> void {
         Guarded([&] {
             if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>)
                 handler(arguments...);

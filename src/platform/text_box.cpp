@@ -1,5 +1,6 @@
 #include "platform/text_box.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextDocument>
@@ -16,6 +17,16 @@ void TextBox::FocusAll()
 {
     setFocus();
     selectAll();
+}
+
+void TextBox::focusOutEvent(QFocusEvent* event)
+{
+    const int start = selectionStart();
+    const int length = selectionLength();
+    QLineEdit::focusOutEvent(event);
+    // Qt keeps the selection while a menu is open, but not when it was opened by its access key.
+    if (event->reason() == Qt::MenuBarFocusReason && length > 0)
+        setSelection(start, length);
 }
 
 MultiLineTextBox::MultiLineTextBox(QWidget* parent)
@@ -47,7 +58,8 @@ void MultiLineTextBox::SetMaxLength(int length)
 void MultiLineTextBox::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool inserts = isEnter || (!event->text().isEmpty() && event->text().front().isPrint());
+    const QChar first = event->text().isEmpty() ? QChar() : event->text().front();
+    const bool inserts = isEnter || first.isPrint() || first.isSurrogate();
     const int needed = isEnter ? int(WithLineEnds(QStringLiteral("\n")).size()) : int(event->text().size());
     if (inserts && Room() < needed)
         return event->accept();

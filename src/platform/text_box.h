@@ -12,6 +12,9 @@ public:
 
     /// Focuses the box with all its text selected.
     void FocusAll();
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
 };
 
 /// A text box of several lines. Tab moves on to the next control.
@@ -24,6 +27,7 @@ public:
     void SetText(const QString& text);
     /// 0 for no limit. A longer text set by code is cut.
     void SetMaxLength(int length);
+    int MaxLength() const { return m_maxLength; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -218,6 +218,27 @@ TEST_F(LoadTest, ClosingStoresTheWidthsOfAllSixGridsAndNothingElse)
     EXPECT_EQ(Single("SELECT count(*) || group_concat(FirstName) FROM customer"), customers);
 }
 
+TEST_F(LoadTest, OpeningAnInvoiceOnThePageInViewSavesWhatWasBeingTypedThere)
+{
+    const int bob = Customer("Bob", "Ray").Add();
+    const int old = Invoice(bob).No("00007").Add();
+    MainWindow& window = Window();
+    window.Run("mnuReservationAdd");
+    const int openInvoice = gCurrentInvoiceId;
+    for (const QString& typed : {QStringLiteral("Ann"), QStringLiteral("Anna")}) {
+        Type(window.picNewInvoice->txtFirstname, typed);
+        window.Run("mnuReservationAdd");
+        EXPECT_EQ(window.picNewInvoice->txtFirstname->text(), typed);
+    }
+    Type(window.picNewInvoice->txtFirstname, "Annabel");
+    emit window.picArrivals->OpenInvoice(old);
+    EXPECT_EQ(window.picNewInvoice->txtFirstname->text(), "Bob");
+    EXPECT_EQ(Single(QStringLiteral("SELECT FirstName FROM customer, invoice WHERE customer.id = CustomerID "
+                                    "AND invoice.id = %1")
+                         .arg(openInvoice)),
+        "Annabel");
+}
+
 TEST_F(LoadTest, RestoredWidthsHoldOutOfSightAndOddOnesAreIgnored)
 {
     SaveConfig("gcustColWidth0", "3210");

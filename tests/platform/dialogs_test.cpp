@@ -79,12 +79,12 @@ TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)
 TEST(Dialogs, TheScriptAnswersEveryDoor)
 {
     ScriptedAnswers answers;
-    answers.ExpectOpenFile("/tmp/in.csv");
+    answers.ExpectOpenFile("/home/ann/in.csv");
     answers.ExpectSaveFile("");
     answers.ExpectLink("https://example.invalid/");
     answers.ExpectHelp(HelpCommand::Context, 7);
     answers.Expect("Go on?", Icon::Question, Buttons::YesNo, Answer::No);
-    EXPECT_EQ(OpenFileName("Open", "CSV (*.csv)"), "/tmp/in.csv");
+    EXPECT_EQ(OpenFileName("Open", "CSV (*.csv)"), "/home/ann/in.csv");
     EXPECT_EQ(SaveFileName("Save", "CSV (*.csv)", "out.csv"), "");
     OpenLink("https://example.invalid/");
     OpenHelp(HelpCommand::Context, 7);

@@ -298,6 +298,16 @@ TEST_F(Grid, TitlesAndColumnsAlignEachByThemselves)
     EXPECT_EQ(alignment(2), int(Qt::AlignRight | Qt::AlignVCenter)) << "numbers stand right where nothing is set";
 }
 
+TEST_F(Grid, ATitleTooWideForItsColumnShowsItsStart)
+{
+    const auto picture = [this](const QString& title) {
+        grid.SetTitle(0, title, CellAlign::CenterTop);
+        return grid.horizontalHeader()->grab().toImage();
+    };
+    Shown(&grid);
+    EXPECT_NE(picture("A wholesale customers of the north"), picture("W wholesale customers of the north"));
+}
+
 TEST_F(Grid, AHundredThousandRowsAreOneResetAndAMomentsWork)
 {
     grid.SetCols(5);

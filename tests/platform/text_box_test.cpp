@@ -6,6 +6,8 @@
 
 #include <QClipboard>
 #include <QElapsedTimer>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QTest>
 
@@ -29,6 +31,20 @@ TEST(TextBoxes, KeepEveryCharacterThatIsSetOrPasted)
     Paste(&box, Odd);
     EXPECT_EQ(box.text(), Odd);
     EXPECT_FALSE(box.hasSelectedText());
+}
+
+TEST(TextBoxes, KeepTheirSelectionWhileAMenuIsUsedByKeys)
+{
+    QMainWindow window;
+    auto* box = new TextBox(&window);
+    window.setCentralWidget(box);
+    QObject::connect(window.menuBar()->addMenu("&Edit")->addAction("Cu&t"), &QAction::triggered, box, &TextBox::cut);
+    Shown(&window);
+    box->setText("hello");
+    box->FocusAll();
+    QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_T);
+    EXPECT_EQ(box->text(), "");
 }
 
 TEST(TextBoxes, TakeAMegabyteAtOnce)

@@ -4,9 +4,9 @@
 #include <QWidget>
 
 /// Holds a form or panel that is shown against what every screen owes its user: each control laid out, inside the form,
-/// not cut off and not under another; each with a visible text or an accessible name; labels with a mnemonic or a
-/// following field have their buddy; the tab order is the order of declaration; no mnemonic twice. Controls in
-/// `leftOut` are hidden on purpose.
+/// not cut off and not under another; each that takes the focus with a caption or an accessible name; labels with a
+/// mnemonic with their buddy; no mnemonic twice; the tab order that of declaration. Controls in `leftOut` are hidden on
+/// purpose.
 void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut);
 
 /// Shows the form and checks it.
