@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <cstring>
 
-/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports] FOLDER
+/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out] FOLDER
 /// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
 /// subject, or all. Adds lines to that file. Exit status 1: something was above its limit.
 
@@ -23,6 +23,7 @@ constexpr Subject Subjects[] = {
     {"--lists", MeasureLists},
     {"--scans", MeasureScans},
     {"--reports", MeasureReports},
+    {"--fan-out", MeasureFanOut},
 };
 
 bool IsAsked(const char* task, const char* subject)
@@ -38,7 +39,9 @@ int main(int argc, char* argv[])
     sinceStart.start();
     if (argc != 2 && argc != 3) {
         std::fputs(
-            "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports] FOLDER\n", stderr);
+            "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out] "
+            "FOLDER\n",
+            stderr);
         return 2;
     }
     const char* task = argc == 3 ? argv[1] : "";

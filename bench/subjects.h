@@ -10,6 +10,7 @@ void MeasureStatementOverhead(RunningProgram& program);
 void MeasureLists(RunningProgram& program);
 void MeasureScans(RunningProgram& program);
 void MeasureReports(RunningProgram& program);
+void MeasureFanOut(RunningProgram& program);
 /// In processes of their own, since a start happens once in a process.
 void MeasureStart(const QString& folder);
 void MeasureMemory(const QString& folder);

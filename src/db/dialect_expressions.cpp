@@ -296,7 +296,8 @@ Expression ExpressionReader::ReadLiteral()
     const Token token = m_tokens.Take();
     const LiteralMark mark = m_tokens.MarkOf(token);
     m_marks[size_t(token.literal)] = mark;
-    const std::string sql = std::string("?") + std::to_string(token.literal + 1);
+    std::string sql = "?";
+    sql += std::to_string(token.literal + 1);
     switch (mark) {
     case LiteralMark::Whole:
         return {sql, Kind::Long, {}, token.literal};

@@ -1,4 +1,5 @@
 #include "road.h"
+#include "stockroom.h"
 
 #include "app/image_lists.h"
 #include "app/start.h"
@@ -61,6 +62,7 @@ void Walk(const QString& pictureFolder)
     StartForTheFirstTime(program, album);
     LookAround(program, album);
     const QString barCode = AddAnItem(program, album);
+    KeepTheStock(program, album, barCode);
     WriteAnInvoice(program, album, barCode);
     FindTheInvoice(program, album);
     program.Window()->close();
