@@ -13,8 +13,9 @@ namespace {
 
 constexpr double Allowed = 1.3;
 constexpr double AllowedForManyLinesMs = 2;
-constexpr int Scans = 300;
+constexpr int Scans = 1000; // so that ten of them stand beyond the 99th percentile
 constexpr int ScansOfAShortInvoice = 5;
+constexpr int ScansOfALongInvoice = 100;
 
 /// The statements of one scan on an invoice without a line of that item, in their order.
 class ScanFloor {
@@ -164,6 +165,6 @@ void MeasureScans(RunningProgram& program)
     // A scan that went nowhere would be a fast one.
     Report("lines on the last short invoice", double(LinesOf(program, gCurrentInvoiceId)), ScansOfAShortInvoice,
         ScansOfAShortInvoice, "lines");
-    ReportScans("scan, 1,000 lines", ScanRace(program, 1000, Scans), AllowedForManyLinesMs);
+    ReportScans("scan, 1,000 lines", ScanRace(program, 1000, ScansOfALongInvoice), AllowedForManyLinesMs);
     gCurrentInvoiceId = -1;
 }

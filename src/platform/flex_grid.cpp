@@ -59,13 +59,32 @@ public:
     {
     }
 
+    /// Asked with every refill, and measuring the titles each time would be a third of a short one. Titles have one
+    /// line, so that only font and style decide.
+    QSize sizeHint() const override
+    {
+        if (!m_sizeHint.isValid() && count() > 0)
+            m_sizeHint = QHeaderView::sizeHint();
+        return m_sizeHint.isValid() ? m_sizeHint : QHeaderView::sizeHint();
+    }
+
 protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+            m_sizeHint = QSize();
+        QHeaderView::changeEvent(event);
+    }
+
     void initStyleOptionForIndex(QStyleOptionHeader* option, int col) const override
     {
         QHeaderView::initStyleOptionForIndex(option, col);
         const int room = sectionSize(col) - 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
         option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, room);
     }
+
+private:
+    mutable QSize m_sizeHint;
 };
 } // namespace
 
