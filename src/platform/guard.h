@@ -46,17 +46,17 @@ bool Ignoring(Body&& body)
 
 /// Connects a signal to a guarded handler, which may take fewer arguments than the signal gives. The connection lives
 /// as long as the sender.
-template <typename Sender, typename Signal, typename Handler>
-void On(Sender* sender, Signal signal, Handler handler)
+template <typename Sender, typename Owner, typename... Arguments, typename Handler>
+void On(Sender* sender, void (Owner::*signal)(Arguments...), Handler handler)
 {
-    QObject::connect(sender, signal, sender, [handler](auto&&... arguments) mutable -> void {
+    QObject::connect(sender, signal, sender, [handler](Arguments... arguments) mutable {
         Guarded([&] {
-            if constexpr (std::is_invocable_v<Handler&, decltype(arguments)...>)
+            if constexpr (std::is_invocable_v<Handler&, Arguments...>)
                 handler(arguments...);
-            else if constexpr (sizeof...(arguments) > 0 && !std::is_invocable_v<Handler&>)
-                [&](auto&& first, auto&&...) { handler(first); }(arguments...);
-            else
+            else if constexpr (std::is_invocable_v<Handler&>)
                 handler();
+            else
+                [&](auto&& first, auto&&...) { handler(first); }(arguments...);
         });
     });
 }
