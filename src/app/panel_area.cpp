@@ -44,11 +44,6 @@ void PanelArea::ShowPanel(int number)
     m_stack->setCurrentIndex(number);
 }
 
-int PanelArea::CurrentPanel() const
-{
-    return m_stack->currentIndex();
-}
-
 void PanelArea::PlaceHiddenPanels()
 {
     for (int number = 0; number < m_stack->count(); ++number) {

@@ -14,8 +14,6 @@ public:
     void AddPanel(QWidget* panel);
     int PanelCount() const;
     void ShowPanel(int number);
-    /// The panel in sight; -1 before the first.
-    int CurrentPanel() const;
 
     /// Gives the panels out of sight, and all in them, their places.
     void PlaceHiddenPanels();

@@ -49,12 +49,3 @@ Batch::~Batch() noexcept(false)
             throw;
     }
 }
-
-void Batch::CommitChunk()
-{
-    ConnectionPrivate& d = m_connection.Private();
-    if (d.openBatches != 1)
-        return;
-    Commit(d);
-    d.RunPlain("BEGIN IMMEDIATE");
-}

@@ -14,9 +14,6 @@ public:
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Commits what there is and goes on; for long runs. No effect in a nested batch.
-    void CommitChunk();
-
 private:
     Connection& m_connection;
     int m_exceptions;

@@ -14,7 +14,6 @@ public:
 
     constexpr qint64 TenThousandths() const { return m_count; }
     double ToDouble() const;
-    constexpr bool IsZero() const { return m_count == 0; }
 
     Currency operator+(Currency other) const;
     Currency operator-(Currency other) const;

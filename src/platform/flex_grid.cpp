@@ -258,14 +258,6 @@ void FlexGrid::SetRowData(int row, qint64 data)
     m_model->SetRowData(row - 1, data);
 }
 
-int FlexGrid::FindRowData(qint64 data) const
-{
-    for (int row = 1; row < Rows(); ++row)
-        if (m_model->RowData(row - 1) == data)
-            return row;
-    return 0;
-}
-
 int FlexGrid::ColWidth(int col) const
 {
     CheckCol(col);

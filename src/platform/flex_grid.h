@@ -57,8 +57,6 @@ public:
     void SetRowData(int row, qint64 data);
     /// The row data of the current row.
     qint64 CurrentRowData() const { return RowData(Row()); }
-    /// The first row whose row data is `data`; 0 when there is none.
-    int FindRowData(qint64 data) const;
 
     int ColWidth(int col) const;
     /// -1 is the default width, 0 hides the column until it is set again. A column that the user dragged shut reads 0.

@@ -18,24 +18,9 @@ QString RuntimeError::BoxText() const
     return QStringLiteral("Run-time error '%1':\n\n%2").arg(number, m_description);
 }
 
-RuntimeError InvalidProcedureCall()
-{
-    return {5, QStringLiteral("Invalid procedure call or argument")};
-}
-
 RuntimeError Overflow()
 {
     return {6, QStringLiteral("Overflow")};
-}
-
-RuntimeError SubscriptOutOfRange()
-{
-    return {9, QStringLiteral("Subscript out of range")};
-}
-
-RuntimeError DivisionByZero()
-{
-    return {11, QStringLiteral("Division by zero")};
 }
 
 RuntimeError TypeMismatch()

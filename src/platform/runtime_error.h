@@ -24,10 +24,7 @@ private:
     QByteArray m_what;
 };
 
-RuntimeError InvalidProcedureCall(); ///< 5
 RuntimeError Overflow(); ///< 6
-RuntimeError SubscriptOutOfRange(); ///< 9
-RuntimeError DivisionByZero(); ///< 11
 RuntimeError TypeMismatch(); ///< 13
 RuntimeError InvalidUseOfNull(); ///< 94
 RuntimeError InvalidPropertyValue(); ///< 380

@@ -67,8 +67,6 @@ TEST_F(Grid, AFillReplacesAllRowsAndLeavesTheTitles)
     EXPECT_EQ(grid.RowData(1), 7);
     EXPECT_EQ(grid.RowData(2), -1);
     EXPECT_EQ(grid.model()->index(0, 0).data(Qt::UserRole).toLongLong(), 7);
-    EXPECT_EQ(grid.FindRowData(-1), 2);
-    EXPECT_EQ(grid.FindRowData(99), 0);
     EXPECT_EQ(grid.Row(), 0);
 }
 

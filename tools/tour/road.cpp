@@ -3,6 +3,7 @@
 #include "steps.h"
 
 #include "app/start.h"
+#include "platform/preview_window.h"
 #include "support/screen.h"
 
 #include <QApplication>
@@ -142,13 +143,6 @@ void DeleteLine(InvoicePage& page, Album& album)
     Click(page.cmdDeleteOrderItem);
 }
 
-void ClosePreviews(const QWidget* mainWindow)
-{
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window != mainWindow && window->isVisible())
-            window->close();
-}
-
 void Complete(InvoicePage& page, Album& album)
 {
     Pick(page.cboPaymentMethod, QStringLiteral("Credit Card"));
@@ -158,7 +152,7 @@ void Complete(InvoicePage& page, Album& album)
     AnswerBox(album, "print-question", QMessageBox::Yes);
     Click(page.cmdCompleteInvoice);
     album.Take("invoice-document");
-    ClosePreviews(page.window());
+    ClosePreviews();
     album.Take("history-with-the-invoice");
 }
 
