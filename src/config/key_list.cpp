@@ -1,6 +1,7 @@
 #include "config/key_list.h"
 
-#include "platform/runtime_error.h"
+#include <QKeyEvent>
+#include <QMouseEvent>
 
 KeyList::KeyList(QWidget* parent)
     : QListWidget(parent)
@@ -8,26 +9,37 @@ KeyList::KeyList(QWidget* parent)
     setUniformItemSizes(true);
 }
 
-void KeyList::AddEntry(const QString& text, qint64 id)
+void KeyList::ShowEntries(const KeyTable& table, const Sql& entries)
 {
-    auto* entry = new QListWidgetItem(text, this);
-    entry->setData(Qt::UserRole, id);
-}
-
-void KeyList::SelectFirst()
-{
+    clear();
+    for (Recordset rs = gConnection->Execute(entries); !rs.Eof(); rs.MoveNext()) {
+        auto* entry = new QListWidgetItem(EntryText(table, rs), this);
+        entry->setData(Qt::UserRole, rs["id"].ToLong());
+    }
     if (count() > 0)
         setCurrentRow(0);
 }
 
-bool KeyList::HasSelection() const
+std::optional<qint64> KeyList::SelectedId() const
 {
-    return !selectedItems().isEmpty();
+    const QList<QListWidgetItem*> selected = selectedItems();
+    if (selected.isEmpty())
+        return std::nullopt;
+    return selected.constFirst()->data(Qt::UserRole).toLongLong();
 }
 
-qint64 KeyList::SelectedId() const
+void KeyList::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (!HasSelection())
-        throw InvalidPropertyArrayIndex();
-    return selectedItems().constFirst()->data(Qt::UserRole).toLongLong();
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit Opened();
+}
+
+void KeyList::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QListWidget::keyPressEvent(event);
+    event->accept();
+    if (!event->isAutoRepeat())
+        emit Opened();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/key_table.h"
+
 #include <QListWidget>
 
 /// A list box over a key table: each entry has a text and the id of its row.
@@ -8,11 +10,16 @@ class KeyList : public QListWidget {
 public:
     explicit KeyList(QWidget* parent = nullptr);
 
-    void AddEntry(const QString& text, qint64 id);
-    /// Selects nothing when the list is empty.
-    void SelectFirst();
+    /// Shows the rows of the statement, `table.entries` with its markers filled, and selects the first.
+    void ShowEntries(const KeyTable& table, const Sql& entries);
 
-    bool HasSelection() const;
-    /// Throws InvalidPropertyArrayIndex when nothing is selected.
-    qint64 SelectedId() const;
+    std::optional<qint64> SelectedId() const;
+
+signals:
+    /// A double click anywhere in the list, or Enter.
+    void Opened();
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };

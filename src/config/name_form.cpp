@@ -1,18 +1,19 @@
 #include "config/name_form.h"
 
-#include "db/connection.h"
 #include "platform/layout.h"
 
-NameForm::NameForm(const char* name, const NameFormTexts& texts, QWidget* parent)
-    : Form(name, texts.title, parent)
-    , m_nameMissing(texts.nameMissing)
+NameForm::NameForm(const KeyTable& table, qint32& currentId, QWidget* parent)
+    : Form(table.form, table.formTitle, parent)
+    , m_table(table)
+    , m_currentId(currentId)
+    , m_fields(fields({{tr("Name:"), txtName}}))
     , m_buttons(row({stretch(), cmdOK, cmdCancel}))
 {
     cmdOK->setText(tr("OK"));
     cmdCancel->setText(tr("&Cancel"));
     setLayout(column({
-        instructions(texts.instructions),
-        fields({{tr("Name:"), txtName}}),
+        instructions(table.formInstructions),
+        m_fields,
         m_buttons,
     }));
     cmdOK->setDefault(true);
@@ -21,13 +22,26 @@ NameForm::NameForm(const char* name, const NameFormTexts& texts, QWidget* parent
     On(cmdOK, &QPushButton::clicked, [this] { Save(); });
 }
 
-void NameForm::ShowStoredName(const Sql& sql, Icon notFoundIcon)
+void NameForm::ShowStoredRow()
 {
-    const Recordset stored = gConnection->Execute(sql);
+    if (m_currentId == NewRow)
+        return;
+    const Recordset stored = gConnection->Execute(Sql(m_table.storedRow).Number("id", m_currentId));
     if (stored.Eof())
-        MsgBox(tr("Record not found."), notFoundIcon);
+        MsgBox(tr("Record not found."), m_table.notFoundIcon);
     else
-        txtName->setText(NullToText(stored[0]));
+        ShowRow(stored);
+}
+
+void NameForm::ShowRow(const Recordset& row)
+{
+    txtName->setText(NullToText(row["name"]));
+}
+
+void NameForm::AddField(const QString& label, QWidget* field)
+{
+    AddFieldLine(m_fields, {label, field});
+    PutInTabOrderBefore(cmdOK, field);
 }
 
 void NameForm::ShowBesideButtons(QWidget* widget)
@@ -41,10 +55,30 @@ void NameForm::ShowBesideButtons(QWidget* widget)
 void NameForm::Save()
 {
     if (txtName->text().isEmpty()) {
-        MsgBox(m_nameMissing, Icon::Critical);
+        MsgBox(m_table.nameMissing, Icon::Critical);
         txtName->setFocus();
         return;
     }
-    Store(txtName->text());
+    if (m_currentId == NewRow)
+        Add(txtName->text());
+    else
+        Update(txtName->text());
     accept();
+}
+
+void NameForm::Add(const QString& name)
+{
+    AddRow row(*gConnection, m_table.name);
+    row.AddNew();
+    row.Set("Name", name);
+    SetFields(row);
+    row.Update();
+    m_currentId = qint32(row.Id());
+}
+
+void NameForm::SetFields(AddRow& /*row*/) { }
+
+void NameForm::Update(const QString& name)
+{
+    gConnection->Execute(Sql(m_table.update).Text("name", name).Number("id", m_currentId));
 }

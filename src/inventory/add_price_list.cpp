@@ -1,35 +1,57 @@
 #include "inventory/add_price_list.h"
 
-#include "config/new_row.h"
 #include "inventory/price_fan_out.h"
 #include "platform/hourglass.h"
-#include "platform/layout.h"
 
 #include <QProgressBar>
 
+namespace {
+
+// The default price list is this row, whatever its name.
+constexpr qint64 DefaultPriceList = 1;
+
+QString MarkedName(const Recordset& list)
+{
+    const QString name = NullToText(list["name"]);
+    return list["id"].ToLong() == DefaultPriceList ? QObject::tr("%1 (Default)").arg(name) : name;
+}
+
+} // namespace
+
 int gEditPriceListId = NewRow;
 
+const KeyTable& PriceLists()
+{
+    static const KeyTable table{
+        .name = "[PriceList]",
+        .entries = "SELECT id, name FROM [PriceList] ORDER BY name",
+        .entryText = MarkedName,
+        .nothingToEdit =
+            QObject::tr("No Price List has been selected to edit. Please select a Price List and try again."),
+        .nothingToRemove = QObject::tr("Please select a Price List to remove."),
+        .keptId = DefaultPriceList,
+        .keptRefusal = QObject::tr("This is the default Price List and so cannot be deleted. However it can be "
+                                   "renamed, to rename press the Edit button."),
+        .removeQuestion = QObject::tr("All pricing for this Price List will be lost. Are you sure you want to delete "
+                                      "this Price List?"),
+        .form = "frmAddPriceList",
+        .formTitle = QObject::tr("Price List Details"),
+        .formInstructions = QObject::tr("Instructions - enter the Price List name and then click OK."),
+        .nameMissing = QObject::tr("Please enter a Price List name to continue."),
+        .storedRow = "SELECT name FROM PriceList WHERE id = {id}",
+        .notFoundIcon = Icon::Critical,
+        .update = "UPDATE PriceList SET name = '{name}' WHERE id = {id}",
+    };
+    return table;
+}
+
 frmAddPriceList::frmAddPriceList(QWidget* parent)
-    : NameForm("frmAddPriceList",
-        {tr("Price List Details"), tr("Instructions - enter the Price List name and then click OK."),
-            tr("Please enter a Price List name to continue.")},
-        parent)
+    : NameForm(PriceLists(), gEditPriceListId, parent)
 {
-    if (gEditPriceListId != NewRow)
-        ShowStoredName(Sql("SELECT name FROM PriceList WHERE id = {gEditPriceListId}")
-                           .Number("gEditPriceListId", gEditPriceListId),
-            Icon::Critical);
+    ShowStoredRow();
 }
 
-void frmAddPriceList::Store(const QString& name)
-{
-    if (gEditPriceListId == NewRow)
-        AddList(name);
-    else
-        RenamePriceList(gEditPriceListId, name);
-}
-
-void frmAddPriceList::AddList(const QString& name)
+void frmAddPriceList::Add(const QString& name)
 {
     Hourglass hourglass;
     auto* bar = new QProgressBar;

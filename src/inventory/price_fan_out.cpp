@@ -47,13 +47,6 @@ void AddPriceListForEveryItem(const QString& name, const FanOutProgress& progres
     }
 }
 
-void RenamePriceList(int priceListId, const QString& name)
-{
-    gConnection->Execute(Sql("UPDATE PriceList SET name = '{name}' WHERE id = {gEditPriceListId}")
-                             .Text("name", name)
-                             .Number("gEditPriceListId", priceListId));
-}
-
 void DeletePriceList(qint64 priceListId)
 {
     Batch batch(*gConnection);

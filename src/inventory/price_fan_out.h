@@ -10,8 +10,5 @@ using FanOutProgress = std::function<void(int done, int total)>;
 /// Adds a price list and, for every item, a price of 0 in it.
 void AddPriceListForEveryItem(const QString& name, const FanOutProgress& progress);
 
-/// Throws RuntimeError when the name does not fit; a list that is gone is no error.
-void RenamePriceList(int priceListId, const QString& name);
-
 /// Deletes the list and all its prices. Customers who have it keep its id.
 void DeletePriceList(qint64 priceListId);

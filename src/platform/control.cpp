@@ -18,6 +18,12 @@ QList<QWidget*> ControlOwner::TabStops(QWidget* control) const
     return stops;
 }
 
+void ControlOwner::PutInTabOrderBefore(QWidget* next, QWidget* control)
+{
+    m_controls.removeOne(control);
+    m_controls.insert(m_controls.indexOf(next), control);
+}
+
 void ControlOwner::ApplyTabOrder(QWidget* screen)
 {
     QWidget* before = screen;

@@ -19,6 +19,8 @@ protected:
         return control;
     }
 
+    /// Lets `control`, declared later, come right before `next` in the tab order.
+    void PutInTabOrderBefore(QWidget* next, QWidget* control);
     /// Chains the controls in the order of their declaration, the first one behind `screen`. Call it when the layout
     /// stands.
     void ApplyTabOrder(QWidget* screen);

@@ -121,6 +121,11 @@ QGridLayout* fields(std::initializer_list<FieldLine> lines)
     return fieldColumns({lines});
 }
 
+void AddFieldLine(QGridLayout* fields, const FieldLine& line)
+{
+    AddLine(fields, fields->rowCount(), 0, line);
+}
+
 QGridLayout* fieldColumns(std::initializer_list<std::initializer_list<FieldLine>> blocks)
 {
     // Each block takes two columns; an empty one between blocks keeps a label off the block before it.

@@ -37,6 +37,8 @@ struct FieldLine {
 
 /// Labels left, controls right, one line each.
 QGridLayout* fields(std::initializer_list<FieldLine> lines);
+/// One more line below those of `fields`.
+void AddFieldLine(QGridLayout* fields, const FieldLine& line);
 /// Several blocks of fields side by side in one grid, so that their lines share a height.
 QGridLayout* fieldColumns(std::initializer_list<std::initializer_list<FieldLine>> blocks);
 

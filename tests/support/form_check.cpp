@@ -66,7 +66,7 @@ void CheckName(const QWidget* control)
         << NameOf(control) << " has neither a caption nor an accessible name";
 }
 
-void CheckMnemonics(const QWidget* screen)
+void CheckMnemonics(const QWidget* screen, const QString& shared)
 {
     std::set<QString> taken;
     for (const QWidget* widget : screen->findChildren<QWidget*>()) {
@@ -78,7 +78,7 @@ void CheckMnemonics(const QWidget* screen)
         if (key.isEmpty() || (label && label->wordWrap()))
             continue;
         EXPECT_TRUE(!label || label->buddy()) << qPrintable(Caption(widget)) << " names no control";
-        EXPECT_TRUE(taken.insert(key.toString()).second)
+        EXPECT_TRUE(taken.insert(key.toString()).second || shared.contains(key.toString().back()))
             << qPrintable(key.toString()) << " is taken twice, also by " << qPrintable(Caption(widget));
     }
 }
@@ -128,7 +128,8 @@ void CheckTabOrder(QWidget* screen, const QList<QWidget*>& controls)
 }
 } // namespace
 
-void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut)
+void CheckScreen(
+    QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut, const QString& sharedMnemonics)
 {
     if (!screen->window()->isVisible())
         Shown(screen->window());
@@ -141,7 +142,7 @@ void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QString
         CheckName(control);
     }
     CheckOverlaps(screen, seen);
-    CheckMnemonics(screen);
+    CheckMnemonics(screen, sharedMnemonics);
     CheckTabOrder(screen, seen);
 }
 

@@ -6,14 +6,15 @@
 /// Holds a form or panel that is shown against what every screen owes its user: each control laid out, inside the form,
 /// not cut off and not under another; each that takes the focus with a caption or an accessible name; labels with a
 /// mnemonic with their buddy; no mnemonic twice; the tab order that of declaration. Controls in `leftOut` are hidden on
-/// purpose.
-void CheckScreen(QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut);
+/// purpose, and the letters in `sharedMnemonics` taken twice.
+void CheckScreen(
+    QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut, const QString& sharedMnemonics = {});
 
 /// Shows the form and checks it.
 template <typename FormClass>
-void CheckForm(FormClass& form, const QStringList& leftOut = {})
+void CheckForm(FormClass& form, const QStringList& leftOut = {}, const QString& sharedMnemonics = {})
 {
-    CheckScreen(&form, form.Controls(), leftOut);
+    CheckScreen(&form, form.Controls(), leftOut, sharedMnemonics);
 }
 
 /// The names and captions of the controls in order of declaration: "cmdOK &OK".

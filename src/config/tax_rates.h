@@ -1,0 +1,47 @@
+#pragma once
+
+#include "config/key_list_form.h"
+#include "config/name_form.h"
+#include "platform/text_box.h"
+
+#include <QCheckBox>
+
+/// The tax rate that frmAddTaxRate edits, NewRow for a new one.
+extern qint32 CurrentTaxRateID;
+
+/// Edits the name and the percentage of a tax rate. A percentage that is no number is stored as 0.
+class frmAddTaxRate : public NameForm {
+public:
+    explicit frmAddTaxRate(QWidget* parent);
+
+    CONTROL(TextBox, txtPercentage);
+
+protected:
+    void ShowRow(const Recordset& row) override;
+    void SetFields(AddRow& row) override;
+    void Update(const QString& name) override;
+
+private:
+    QString Percentage();
+};
+
+/// Keeps the tax rates and the secondary tax. However it is closed, it stores the secondary tax and reads the triple
+/// anew; whoever shows it lets the invoice page follow.
+class frmTaxRate : public KeyListForm {
+public:
+    explicit frmTaxRate(QWidget* parent);
+
+    CONTROL(QCheckBox, chkEnableTax2);
+    CONTROL(TextBox, txtSalesTaxName2);
+    CONTROL(TextBox, txtSalesTax2);
+
+    void reject() override;
+
+protected:
+    void ShowDetails(qint64 id) override;
+
+private:
+    void ShowSecondaryTax();
+    void EnableBoxes();
+    void StoreSecondaryTax();
+};

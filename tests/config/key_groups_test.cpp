@@ -1,0 +1,146 @@
+#include "config/categories.h"
+#include "config/locations.h"
+#include "support/form_test.h"
+
+/// What is particular to warehouses with their locations and to categories with their sub-categories.
+
+namespace {
+
+QStringList Listed(const KeyGroupForm& form)
+{
+    QStringList texts;
+    for (int i = 0; i < form.lstItems->count(); ++i)
+        texts.append(form.lstItems->item(i)->text());
+    return texts;
+}
+
+template <typename DetailsForm>
+void AwaitName(const QString& name)
+{
+    WhenFormShows<DetailsForm>([name](DetailsForm& details) {
+        Type(details.txtName, name);
+        Click(details.cmdOK);
+    });
+}
+
+class LocationsTest : public FormTest<frmLocations> { };
+class CategoriesTest : public FormTest<frmCategories> { };
+
+} // namespace
+
+TEST_F(LocationsTest, TheDefaultWarehouseIsRenamedAndNeverRemoved)
+{
+    Open();
+    CheckForm(*form, {}, "AER");
+    EXPECT_EQ(form->cboGroups->objectName(), "cboWarehouses");
+    AwaitName<frmAddWarehouse>("Zentrallager");
+    Click(form->cmdCatEdit);
+    EXPECT_EQ(Rows("SELECT id, name FROM warehouse"), Table({{"1", "Zentrallager"}}));
+
+    answers.ExpectMessage(
+        "The default warehouse cannot be deleted. To change this warehouse click Edit.", Icon::Critical);
+    Click(form->cmdCatRemove);
+    // Being the default is told before being in use.
+    LocationRow(1, "Shelf");
+    answers.ExpectMessage(
+        "The default warehouse cannot be deleted. To change this warehouse click Edit.", Icon::Critical);
+    Click(form->cmdCatRemove);
+    EXPECT_EQ(Count("warehouse"), 1);
+}
+
+TEST_F(LocationsTest, EachWarehouseShowsItsOwnLocationsAndKeepsThem)
+{
+    const int south = WarehouseRow(QString::fromUtf8("Süd"));
+    const int loud = WarehouseRow(QString::fromUtf8("SÜD"));
+    LocationRow(south, "Bin 2");
+    LocationRow(south, "Bin 1");
+    LocationRow(loud, "Ramp");
+    Open();
+    EXPECT_TRUE(Listed(*form).isEmpty());
+
+    SelectComboByData(form->cboGroups, south);
+    EXPECT_EQ(Listed(*form), QStringList({"Bin 1", "Bin 2"}));
+    EXPECT_EQ(form->lstItems->currentRow(), 0);
+    AwaitName<frmAddLocation>("Bin 3");
+    Click(form->cmdAdd);
+    EXPECT_EQ(form->cboGroups->SelectedData(), south);
+    EXPECT_EQ(Listed(*form), QStringList({"Bin 1", "Bin 2", "Bin 3"}));
+
+    AwaitName<frmAddLocation>("Bin 9");
+    Click(form->cmdEdit);
+    EXPECT_EQ(form->cboGroups->SelectedData(), south);
+    EXPECT_EQ(Rows(QStringLiteral("SELECT name FROM location WHERE WarehouseID = %1 ORDER BY name").arg(south)),
+        Table({{"Bin 2"}, {"Bin 3"}, {"Bin 9"}}));
+
+    answers.Expect("Are you sure you want to delete this Location?", Answer::Yes);
+    Click(form->cmdRemove);
+    EXPECT_EQ(form->cboGroups->SelectedData(), south);
+    EXPECT_EQ(Listed(*form), QStringList({"Bin 3", "Bin 9"}));
+
+    // Names that differ in case alone are two warehouses; the edited one stays chosen.
+    SelectComboByData(form->cboGroups, loud);
+    AwaitName<frmAddWarehouse>(QString::fromUtf8("süd"));
+    Click(form->cmdCatEdit);
+    EXPECT_EQ(form->cboGroups->SelectedData(), loud);
+    EXPECT_EQ(Listed(*form), QStringList{"Ramp"});
+}
+
+TEST_F(LocationsTest, ANewWarehouseIsChosenAndALeftOneToo)
+{
+    WarehouseRow("Annex");
+    Open();
+    AwaitName<frmAddWarehouse>("Yard");
+    Click(form->cmdCatAdd);
+    EXPECT_EQ(form->cboGroups->Text(), "Yard");
+    EXPECT_EQ(CurrentWarehouseID, form->cboGroups->SelectedData());
+
+    WhenFormShows<frmAddWarehouse>([](frmAddWarehouse& details) { Click(details.cmdCancel); });
+    Click(form->cmdCatAdd);
+    EXPECT_EQ(form->cboGroups->Text(), "Annex");
+}
+
+TEST_F(LocationsTest, ALocationNeedsAWarehouseToGoInto)
+{
+    Run("DELETE FROM warehouse");
+    Open();
+    answers.ExpectMessage(
+        "No Warehouse has been selected to add the Location to. Please select a Warehouse to continue.",
+        Icon::Critical);
+    Click(form->cmdAdd);
+    EXPECT_EQ(Count("location"), 1);
+}
+
+TEST_F(CategoriesTest, ANewCategoryHasASubCategoryNoneThatHindersItsRemoval)
+{
+    Open();
+    CheckForm(*form, {}, "AER");
+    EXPECT_EQ(form->cboGroups->objectName(), "cboCategories");
+    EXPECT_EQ(form->cboGroups->ListCount(), 0);
+    answers.ExpectMessage(
+        "No Category has been selected to add the Sub-Category to. Please select a Category to continue.",
+        Icon::Critical);
+    Click(form->cmdAdd);
+
+    AwaitName<frmAddCategory>("Tools");
+    Click(form->cmdCatAdd);
+    EXPECT_EQ(form->cboGroups->Text(), "Tools");
+    EXPECT_EQ(Listed(*form), QStringList{"None"});
+
+    AwaitName<frmAddSubCategory>("Saws");
+    Click(form->cmdAdd);
+    EXPECT_EQ(Rows("SELECT name, CategoryID FROM subcategory WHERE id <> 1"),
+        Table({{"None", QString::number(CurrentCategoryID)}, {"Saws", QString::number(CurrentCategoryID)}}));
+
+    answers.ExpectMessage("This Category is in use by one or more Sub-Categories and so cannot be deleted. To delete "
+                          "this Sub-Category first remove the Sub-Categories and then try again.",
+        Icon::Critical);
+    Click(form->cmdCatRemove);
+    for (int i = 0; i < 2; ++i) {
+        answers.Expect("Are you sure you want to delete this Sub-Category?", Answer::Yes);
+        Click(form->cmdRemove);
+    }
+    answers.Expect("Are you sure you want to delete this Category?", Answer::Yes);
+    Click(form->cmdCatRemove);
+    EXPECT_EQ(form->cboGroups->ListCount(), 0);
+    EXPECT_EQ(Rows("SELECT id FROM category UNION ALL SELECT id FROM subcategory"), Table({{"1"}, {"1"}}));
+}
