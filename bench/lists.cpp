@@ -4,6 +4,8 @@
 #include "measure.h"
 #include "running_program.h"
 
+#include "parties/find_customer.h"
+
 namespace {
 
 constexpr int Rounds = 15;
@@ -14,44 +16,80 @@ void ReportList(const char* subject, const Pair& pair)
     Report(subject, pair.program.Median(), pair.floor.Median(), pair.floor.Median() * Allowed, "ms");
 }
 
+/// A list of the main window, reloaded and painted, beside the two statements that its loader runs.
+void MeasureRefill(RunningProgram& program, const char* subject, const char* countStatement, const char* statement,
+    const std::function<void()>& refill)
+{
+    FloorStatement count(program.Handle(), countStatement);
+    FloorStatement rows(program.Handle(), statement);
+    ReportList(subject,
+        MeasureInTurn(
+            Rounds,
+            [&] {
+                refill();
+                LetPaint();
+            },
+            [&] {
+                count.Run();
+                rows.Run();
+            }));
+}
+
+constexpr const char* CustomersByName =
+    "SELECT id, firstname, lastname, businessname, address1, address2, postcode, phone FROM customer "
+    "ORDER BY lastname, firstname";
+constexpr const char* CustomersByAddress =
+    "SELECT id, firstname, lastname, businessname, address1, address2, postcode, phone FROM customer "
+    "ORDER BY address1";
+constexpr const char* CustomersFound =
+    "SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer "
+    "WHERE lastname LIKE '%an%' OR city LIKE '%o%' ORDER BY lastname, firstname";
+
+void MeasureCustomers(RunningProgram& program)
+{
+    MainWindow& window = program.Window();
+    window.ViewCustomers();
+    CustomersPanel* customers = window.picCustomers;
+    const auto refill = [customers] { customers->RefreshCustomerList(1, 0); };
+    constexpr const char* Count = "SELECT count(*) FROM customer";
+    MeasureRefill(program, "customer list, refill", Count, CustomersByName, refill);
+    customers->gcust->SetTag(QStringLiteral("address1"));
+    MeasureRefill(program, "customer list, sorted by address", Count, CustomersByAddress, refill);
+    customers->gcust->SetTag(QString());
+
+    frmFindCustomer finder(&window);
+    finder.txtLastname->setText(QStringLiteral("an"));
+    finder.txtCity->setText(QStringLiteral("o"));
+    finder.show();
+    finder.cmdOk->click();
+    FloorStatement found(program.Handle(), CustomersFound);
+    ReportList("customers found by two criteria",
+        MeasureInTurn(
+            Rounds,
+            [&] {
+                finder.RefreshCustomerScreen(1, 0);
+                LetPaint();
+            },
+            [&] { found.Run(); }));
+}
+
 } // namespace
 
 void MeasureLists(RunningProgram& program)
 {
     MainWindow& window = program.Window();
-    FloorStatement countItems(program.Handle(), QStringLiteral("SELECT count(*) FROM item"));
-    FloorStatement items(program.Handle(),
-        QStringLiteral("SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, price, PriceListID "
-                       "FROM (TaxRate INNER JOIN Item ON TaxRate.ID = Item.TaxRateID) "
-                       "LEFT JOIN ItemPriceList ON Item.ID = ItemPriceList.ItemID ORDER BY item.name"));
     window.ViewInventory();
-    ReportList("inventory list, refill",
-        MeasureInTurn(
-            Rounds,
-            [&] {
-                window.picInventory->RefreshInventoryList(1, 0);
-                LetPaint();
-            },
-            [&] {
-                countItems.Run();
-                items.Run();
-            }));
+    MeasureRefill(program, "inventory list, refill", "SELECT count(*) FROM item",
+        "SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, price, PriceListID "
+        "FROM (TaxRate INNER JOIN Item ON TaxRate.ID = Item.TaxRateID) "
+        "LEFT JOIN ItemPriceList ON Item.ID = ItemPriceList.ItemID ORDER BY item.name",
+        [&] { window.picInventory->RefreshInventoryList(1, 0); });
 
-    FloorStatement countInvoices(program.Handle(), QStringLiteral("SELECT count(*) FROM invoice"));
-    FloorStatement invoices(program.Handle(),
-        QStringLiteral(
-            "SELECT invoice.id, invoiceno, invoice.submitteddate, firstname, lastname, businessname, shippeddate "
-            "FROM customer, invoice WHERE invoice.customerid = customer.id ORDER BY businessname"));
     window.ListInvoices();
-    ReportList("invoice history, refill",
-        MeasureInTurn(
-            Rounds,
-            [&] {
-                window.picArrivals->RefreshInvoiceList(1, 0);
-                LetPaint();
-            },
-            [&] {
-                countInvoices.Run();
-                invoices.Run();
-            }));
+    MeasureRefill(program, "invoice history, refill", "SELECT count(*) FROM invoice",
+        "SELECT invoice.id, invoiceno, invoice.submitteddate, firstname, lastname, businessname, shippeddate "
+        "FROM customer, invoice WHERE invoice.customerid = customer.id ORDER BY businessname",
+        [&] { window.picArrivals->RefreshInvoiceList(1, 0); });
+
+    MeasureCustomers(program);
 }

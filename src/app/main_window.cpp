@@ -4,6 +4,7 @@
 #include "app/main_grids.h"
 #include "app/menu_table.h"
 #include "app/toolbar.h"
+#include "config/tax_rates.h"
 #include "inventory/multiple_pricing.h"
 #include "invoicing/current_invoice.h"
 #include "invoicing/find_invoice.h"
@@ -198,6 +199,12 @@ void MainWindow::ConfigurePriceLists()
 {
     frmMultiplePricing(this).ShowModal();
     picInventory->RefillInvoicePriceLists();
+}
+
+void MainWindow::ConfigureTaxRates()
+{
+    frmTaxRate(this).ShowModal();
+    picNewInvoice->ShowSecondaryTax();
 }
 
 void MainWindow::FirstRun()

@@ -52,6 +52,7 @@ public:
     void ViewCustomers();
     void ViewVendors();
     void ConfigurePriceLists();
+    void ConfigureTaxRates();
     /// The prompts of the first start: the tutorial, the configuration wizard.
     void FirstRun();
 

@@ -5,9 +5,12 @@
 #include "app/endpoints.h"
 #include "app/main_window.h"
 #include "app/tip.h"
+#include "config/categories.h"
+#include "config/locations.h"
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
 #include "invoicing/set_next_invoice_no.h"
+#include "parties/find_customer.h"
 #include "platform/dialogs.h"
 #include "reports/stock_reports.h"
 
@@ -113,8 +116,8 @@ const QList<MenuRow>& MenuTable()
 
         Menu("mnuCustomers", "&Customers"),
         Entry("mnuCustomersView", "&View Customers", [](Window& window) { window.ViewCustomers(); }),
-        Entry("mnuCustomerAdd", "&Add Customer...", nullptr),
-        Entry("mnuCustomerFind", "&Find Customer...", nullptr),
+        Entry("mnuCustomerAdd", "&Add Customer...", [](Window& window) { window.picCustomers->AddCustomer(); }),
+        Entry("mnuCustomerFind", "&Find Customer...", ShowForm<frmFindCustomer>),
         Separator(),
         Entry("mnuCustMailingList", "Email Mailing List &Wizard...", nullptr),
 
@@ -130,15 +133,15 @@ const QList<MenuRow>& MenuTable()
 
         Menu("mnuVendors", "&Vendors"),
         Entry("mnuVendorsView", "&View Vendors", [](Window& window) { window.ViewVendors(); }),
-        Entry("mnuVendorAdd", "&Add Vendor...", nullptr),
+        Entry("mnuVendorAdd", "&Add Vendor...", [](Window& window) { window.picVendors->AddVendor(); }),
 
         Menu("mnuConfigure", "Confi&gure"),
         Entry("mnuConfigureWizard", "&Configuration Wizard...", nullptr),
         SwitchedOff("mnuConfigureTerminology", "&Regional Settings...", nullptr),
         Separator(),
-        Entry("mnuInvTaxRates", "&Tax Rates...", nullptr),
-        Entry("mnuInvLocations", "Item &Locations and Warehouses...", nullptr),
-        Entry("mnuInvCats", "Item C&ategories...", nullptr),
+        Entry("mnuInvTaxRates", "&Tax Rates...", [](Window& window) { window.ConfigureTaxRates(); }),
+        Entry("mnuInvLocations", "Item &Locations and Warehouses...", ShowForm<frmLocations>),
+        Entry("mnuInvCats", "Item C&ategories...", ShowForm<frmCategories>),
         Separator(),
         Entry("mnuConfigInvoiceStyle", "&Invoice Style...", ShowForm<frmConfigInvoice>),
         Entry("mnuConfigMultipleItemPricing", "Multiple Item &Pricing...",

@@ -36,9 +36,7 @@ void AddFindDropDown(MainWindow& window, QToolBar* toolbar, QAction* find)
 {
     find->setMenu(FindMenu(window));
     auto* button = qobject_cast<QToolButton*>(toolbar->widgetForAction(find));
-    // Until there is a customer finder for the click to open, it opens the drop-down.
-    button->setPopupMode(
-        window.MenuEntry("mnuCustomerFind")->isEnabled() ? QToolButton::MenuButtonPopup : QToolButton::InstantPopup);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "invoicing/customer_search.h"
 
 #include "config/lists.h"
+#include "parties/customer_texts.h"
 #include "platform/hourglass.h"
 #include "platform/layout.h"
 #include "platform/message_box.h"
@@ -25,13 +26,6 @@ Sql SearchStatement(const QString& firstName, const QString& lastName)
     return Sql("SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer "
                "WHERE {names} ORDER BY lastname, firstname")
         .Raw("names", either.isEmpty() ? QStringLiteral(" id = id ") : either);
-}
-
-QString AddressText(const Recordset& customer)
-{
-    const QString first = NullToText(customer["address1"]);
-    const QString second = NullToText(customer["address2"]);
-    return second.isEmpty() ? first : first + QStringLiteral(", ") + second;
 }
 
 } // namespace
@@ -82,11 +76,12 @@ void frmResCustSearch::ListMatches()
     cmdSelect->setEnabled(false);
     LoadList(gcust, SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0,
         [](const Recordset& customer, GridFill& fill) {
-            fill.Add(NullToText(customer["firstname"]) + QLatin1Char(' ') + NullToText(customer["lastname"]));
-            fill.Add(AddressText(customer));
-            fill.Add(customer.Text(5));
-            fill.Add(customer.Text(6));
-            return customer.Long(0);
+            enum { Id, FirstName, LastName, Address1, Address2, PostCode, Phone };
+            fill.Add(FirstAndLastName(customer.Text(FirstName), customer.Text(LastName)));
+            fill.Add(CustomerAddress(customer.Text(Address1), customer.Text(Address2)));
+            fill.Add(customer.Text(PostCode));
+            fill.Add(customer.Text(Phone));
+            return customer.Long(Id);
         });
     cmdSelect->setEnabled(gcust->Rows() > 1);
 }

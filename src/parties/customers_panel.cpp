@@ -1,11 +1,12 @@
 #include "parties/customers_panel.h"
 
 #include "config/lists.h"
+#include "parties/customer_commands.h"
+#include "parties/customer_record.h"
+#include "parties/customer_texts.h"
 #include "platform/layout.h"
 
 namespace {
-
-constexpr std::string_view AddressSeparator = ", ";
 
 /// One a column; the name's is the default order.
 const QStringList& SortExpressions()
@@ -14,37 +15,20 @@ const QStringList& SortExpressions()
     return expressions;
 }
 
-enum CustomerField { Id, FirstName, LastName, BusinessName, Address1, Address2, PostCode, Phone };
-
 std::optional<qint64> AddCustomerCells(const Recordset& row, GridFill& fill)
 {
+    enum { Id, FirstName, LastName, BusinessName, Address1, Address2, PostCode, Phone };
     // A first name is never Null in a row that the program wrote.
     if (row.IsNull(FirstName))
         throw InvalidUseOfNull();
     fill.Add(CustomerName(row.Text(FirstName), row.Text(LastName), row.Text(BusinessName)));
-    std::string address(row.Text(Address1));
-    if (!row.Text(Address2).empty())
-        address.append(AddressSeparator).append(row.Text(Address2));
-    fill.Add(address);
+    fill.Add(CustomerAddress(row.Text(Address1), row.Text(Address2)));
     fill.Add(row.Text(PostCode));
     fill.Add(row.Text(Phone));
     return row.Long(Id);
 }
 
 } // namespace
-
-std::string CustomerName(std::string_view firstName, std::string_view lastName, std::string_view businessName)
-{
-    std::string name(firstName);
-    if (!firstName.empty())
-        name += ' ';
-    name += lastName;
-    if (businessName.empty())
-        return name;
-    if (!lastName.empty())
-        name += ' ';
-    return name.append("(").append(businessName).append(")");
-}
 
 CustomersPanel::CustomersPanel(QWidget* parent)
     : Panel("picCustomers", parent)
@@ -72,18 +56,15 @@ CustomersPanel::CustomersPanel(QWidget* parent)
         buttonBar,
     }));
 
-    // The customer record is not built yet.
-    for (QPushButton* button : {cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer}) {
-        button->setEnabled(false);
-        button->setToolTip(tr("The customer record is not available yet."));
-    }
-
     On(gcust, &FlexGrid::Click,
         [this] { SortOnTitleClick(gcust, SortExpressions(), [this] { RefreshCustomerList(gcust->Row(), 0); }); });
     On(gcust, &FlexGrid::DblClick, [this] {
         if (gcust->MouseRow() != 0)
-            cmdEditCustomer->click();
+            EditSelected();
     });
+    On(cmdEditCustomer, &QPushButton::clicked, [this] { EditSelected(); });
+    On(cmdCreateCustomer, &QPushButton::clicked, [this] { AddCustomer(); });
+    On(cmdDeleteCustomer, &QPushButton::clicked, [this] { DeleteSelected(); });
 }
 
 void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)
@@ -94,4 +75,23 @@ void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)
                                "customer "),
             gcust, QStringLiteral("ORDER BY lastname, firstname")),
         row, selectId, AddCustomerCells);
+}
+
+void CustomersPanel::AddCustomer()
+{
+    ::AddCustomer(window());
+    RefreshCustomerList(1, 0);
+}
+
+void CustomersPanel::EditSelected()
+{
+    // Where no customer is selected the last one edited is.
+    EditCustomer(gcust->CurrentRowData(), window());
+    RefreshCustomerList(1, gEditCustomerId);
+}
+
+void CustomersPanel::DeleteSelected()
+{
+    if (DeleteCustomer(gcust->CurrentRowData()))
+        RefreshCustomerList(gcust->Row(), 0);
 }

@@ -5,9 +5,6 @@
 
 #include <QPushButton>
 
-#include <string>
-#include <string_view>
-
 /// The customer list of the main window.
 class CustomersPanel : public Panel {
     Q_OBJECT
@@ -18,11 +15,15 @@ public:
     /// fails or a customer's first name is Null.
     void RefreshCustomerList(int row, qint64 selectId);
 
+    /// Shows the customer record for a new customer and reloads the list.
+    void AddCustomer();
+
     CONTROL(FlexGrid, gcust);
     CONTROL(QPushButton, cmdEditCustomer);
     CONTROL(QPushButton, cmdCreateCustomer);
     CONTROL(QPushButton, cmdDeleteCustomer);
-};
 
-/// "First Last (Business)" in UTF-8, with blanks and brackets only around what is there.
-std::string CustomerName(std::string_view firstName, std::string_view lastName, std::string_view businessName);
+private:
+    void EditSelected();
+    void DeleteSelected();
+};

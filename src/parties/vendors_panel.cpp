@@ -1,7 +1,10 @@
 #include "parties/vendors_panel.h"
 
 #include "config/lists.h"
+#include "config/new_row.h"
+#include "parties/vendor_record.h"
 #include "platform/layout.h"
+#include "platform/message_box.h"
 
 namespace {
 
@@ -19,6 +22,12 @@ std::optional<qint64> AddVendorCells(const Recordset& row, GridFill& fill)
     fill.Add(row.Text(ContactName));
     fill.Add(row.Text(Phone));
     return row.Long(Id);
+}
+
+bool HasItems(qint64 vendorId)
+{
+    const Sql items = Sql("SELECT count(*) FROM item WHERE item.vendorid = {id} ").Number("id", vendorId);
+    return gConnection->Execute(items)[0].ToLong() > 0;
 }
 
 } // namespace
@@ -48,18 +57,15 @@ VendorsPanel::VendorsPanel(QWidget* parent)
         buttonBar,
     }));
 
-    // The vendor record is not built yet.
-    for (QPushButton* button : {cmdVendorEdit, cmdVendorNew, cmdVendorDelete}) {
-        button->setEnabled(false);
-        button->setToolTip(tr("The vendor record is not available yet."));
-    }
-
     On(gVendors, &FlexGrid::Click,
         [this] { SortOnTitleClick(gVendors, SortExpressions(), [this] { RefreshVendorList(gVendors->Row(), 0); }); });
     On(gVendors, &FlexGrid::DblClick, [this] {
         if (gVendors->MouseRow() != 0)
-            cmdVendorEdit->click();
+            EditSelected();
     });
+    On(cmdVendorEdit, &QPushButton::clicked, [this] { EditSelected(); });
+    On(cmdVendorNew, &QPushButton::clicked, [this] { AddVendor(); });
+    On(cmdVendorDelete, &QPushButton::clicked, [this] { DeleteSelected(); });
 }
 
 void VendorsPanel::RefreshVendorList(int row, qint64 selectId)
@@ -70,4 +76,43 @@ void VendorsPanel::RefreshVendorList(int row, qint64 selectId)
         Ordered(QStringLiteral("SELECT id, businessname, contactname, phone FROM vendor WHERE id <> 1 "), gVendors,
             QStringLiteral("ORDER BY businessname")),
         row, selectId, AddVendorCells);
+}
+
+void VendorsPanel::AddVendor()
+{
+    ShowVendorRecord(NewRow);
+}
+
+void VendorsPanel::EditSelected()
+{
+    // Only -1 is no vendor: on an empty list the record opens for vendor 0.
+    const qint64 vendorId = gVendors->CurrentRowData();
+    if (vendorId == NewRow)
+        MsgBox(tr("No vendor has been selected. Select a vendor from the list and try again."), Icon::Information);
+    else
+        ShowVendorRecord(qint32(vendorId));
+}
+
+void VendorsPanel::ShowVendorRecord(qint32 vendorId)
+{
+    gEditVendorId = vendorId;
+    frmVendor(window()).ShowModal();
+    RefreshVendorList(1, 0);
+}
+
+void VendorsPanel::DeleteSelected()
+{
+    const qint64 vendorId = gVendors->CurrentRowData();
+    if (vendorId == 0 || vendorId == NewRow)
+        return;
+    if (HasItems(vendorId)) {
+        MsgBox(tr("This vendor has existing items and cannot be deleted. To delete this vendor first delete all items "
+                  "they supply."),
+            Icon::Critical, tr("Cannot delete vendor."));
+        return;
+    }
+    if (MsgBox(tr("Delete vendor?"), Icon::Question, Buttons::YesNo) == Answer::No)
+        return;
+    gConnection->Execute(Sql("DELETE FROM vendor WHERE id = {id}").Number("id", vendorId));
+    RefreshVendorList(gVendors->Row(), 0);
 }

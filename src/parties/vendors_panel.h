@@ -15,8 +15,16 @@ public:
     /// fails.
     void RefreshVendorList(int row, qint64 selectId);
 
+    /// Shows the vendor record for a new vendor and reloads the list.
+    void AddVendor();
+
     CONTROL(FlexGrid, gVendors);
     CONTROL(QPushButton, cmdVendorEdit);
     CONTROL(QPushButton, cmdVendorNew);
     CONTROL(QPushButton, cmdVendorDelete);
+
+private:
+    void EditSelected();
+    void ShowVendorRecord(qint32 vendorId);
+    void DeleteSelected();
 };

@@ -3,6 +3,9 @@
 #include "app/endpoints.h"
 #include "app/menu_table.h"
 #include "app/toolbar.h"
+#include "config/tax_rates.h"
+#include "parties/customer_record.h"
+#include "parties/vendor_record.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -61,8 +64,8 @@ const QStringList ExpectedMenus{
     "  mnuInventoryReceive &Receive Stock...",
     "mnuCustomers &Customers",
     "  mnuCustomersView &View Customers",
-    "  mnuCustomerAdd &Add Customer... -",
-    "  mnuCustomerFind &Find Customer... -",
+    "  mnuCustomerAdd &Add Customer...",
+    "  mnuCustomerFind &Find Customer...",
     "  mnuCustMailingList Email Mailing List &Wizard... -",
     "mnuReportS &Reports",
     "  mnuReportQuick &Quick Statistics",
@@ -72,13 +75,13 @@ const QStringList ExpectedMenus{
     "  mnuCustomReports &Custom Reports...",
     "mnuVendors &Vendors",
     "  mnuVendorsView &View Vendors",
-    "  mnuVendorAdd &Add Vendor... -",
+    "  mnuVendorAdd &Add Vendor...",
     "mnuConfigure Confi&gure",
     "  mnuConfigureWizard &Configuration Wizard... -",
     "  mnuConfigureTerminology &Regional Settings... -",
-    "  mnuInvTaxRates &Tax Rates... -",
-    "  mnuInvLocations Item &Locations and Warehouses... -",
-    "  mnuInvCats Item C&ategories... -",
+    "  mnuInvTaxRates &Tax Rates...",
+    "  mnuInvLocations Item &Locations and Warehouses...",
+    "  mnuInvCats Item C&ategories...",
     "  mnuConfigInvoiceStyle &Invoice Style...",
     "  mnuConfigMultipleItemPricing Multiple Item &Pricing...",
     "mnuHelp &Help",
@@ -166,6 +169,45 @@ TEST_F(MenuTest, ViewingAListReadsItAnew)
     EXPECT_EQ(window.picCustomers->gcust->TextMatrix(1, 0), "Ann Lee");
     EXPECT_EQ(window.picVendors->gVendors->TextMatrix(1, 0), "Bolts & Co");
     EXPECT_EQ(window.picInventory->gInventory->TextMatrix(1, 1), "Screws M4");
+}
+
+TEST_F(MenuTest, AddingARecordReadsItsListAnewFromAnyView)
+{
+    MainWindow& window = Window();
+    WhenFormShows<frmCustomer>([](frmCustomer& form) {
+        Type(form.txtLastname, "Lee");
+        Click(form.cmdOk);
+    });
+    window.Run("mnuCustomerAdd");
+    EXPECT_EQ(GridRows(window.picCustomers->gcust), QList<QStringList>({{"Lee", "", "", ""}}));
+    WhenFormShows<frmVendor>([](frmVendor& form) {
+        Type(form.txtBusinessName, "Bolts");
+        Click(form.cmdOk);
+    });
+    window.Run("mnuVendorAdd");
+    EXPECT_EQ(GridRows(window.picVendors->gVendors), QList<QStringList>({{"Bolts", "", ""}}));
+    EXPECT_TRUE(window.picArrivals->isVisible());
+}
+
+TEST_F(MenuTest, ClosingTheTaxRatesLetsTheOpenInvoiceFollowAtOnce)
+{
+    Run("UPDATE settings SET SecondaryTaxEnable = 0");
+    MainWindow& window = Window();
+    window.Run("mnuReservationAdd");
+    const auto closeWithTax = [&](const char* name) {
+        WhenFormShows<frmTaxRate>([name](frmTaxRate& form) {
+            Click(form.chkEnableTax2);
+            if (form.txtSalesTaxName2->isEnabled())
+                Type(form.txtSalesTaxName2, name);
+            Click(form.cmdCancel);
+        });
+        window.Run("mnuInvTaxRates");
+    };
+    closeWithTax("PST");
+    EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), "PST:");
+    EXPECT_TRUE(window.picNewInvoice->lblLabels_26->isVisible() && window.picNewInvoice->lblSecondTax->isVisible());
+    closeWithTax("");
+    EXPECT_FALSE(window.picNewInvoice->lblLabels_26->isVisible() || window.picNewInvoice->lblSecondTax->isVisible());
 }
 
 TEST_F(MenuTest, HelpEntriesAndLinksAskForTheirTopicsAndPages)

@@ -1,7 +1,7 @@
+#include "parties/customer_texts.h"
 #include "parties/customers_panel.h"
+#include "parties_test.h"
 #include "platform/runtime_error.h"
-#include "support/screen.h"
-#include "support/temporary_database.h"
 
 namespace {
 
@@ -24,33 +24,25 @@ TEST_P(CustomerNameTest, HasBlanksAndBracketsOnlyAroundWhatIsThere)
 INSTANTIATE_TEST_SUITE_P(Names, CustomerNameTest,
     ::testing::Values(Name{"Ann", "Lee", "Lee & Sons", "Ann Lee (Lee & Sons)"}, Name{"Ann", "Lee", "", "Ann Lee"},
         Name{"", "Lee", "Lee & Sons", "Lee (Lee & Sons)"}, Name{"", "", "Lee & Sons", "(Lee & Sons)"},
-        Name{"Ann", "", "Lee & Sons", "Ann (Lee & Sons)"}, Name{"Ann", "", "", "Ann "}, Name{"", "", "", ""}));
+        Name{"Ann", "", "Lee & Sons", "Ann (Lee & Sons)"}, Name{"Ann", "", "", "Ann "}, Name{"", "Lee", "", "Lee"},
+        Name{"", "", "", ""}));
 
 namespace {
 
-class CustomersPanelTest : public DatabaseTest {
+class CustomersPanelTest : public PartiesTest {
 protected:
     CustomersPanel& Shown()
     {
-        if (!m_panel) {
-            m_panel = std::make_unique<CustomersPanel>();
-            m_panel->resize(900, 500);
-            ::Shown(m_panel.get());
-            m_panel->RefreshCustomerList(1, 0);
+        if (!panel.isVisible()) {
+            panel.resize(900, 500);
+            ::Shown(&panel);
+            panel.RefreshCustomerList(1, 0);
         }
-        return *m_panel;
+        return panel;
     }
+    QStringList Names() { return PartiesTest::Names(Shown().gcust); }
 
-    QStringList Names()
-    {
-        QStringList names;
-        for (const QStringList& row : GridRows(Shown().gcust))
-            names.append(row.first());
-        return names;
-    }
-
-private:
-    std::unique_ptr<CustomersPanel> m_panel;
+    CustomersPanel panel;
 };
 
 } // namespace
@@ -73,7 +65,6 @@ TEST_F(CustomersPanelTest, ListsEachCustomerByLastNameWithAddressAndNullsEmpty)
 TEST_F(CustomersPanelTest, AFirstNameThatIsNullStopsTheLoad)
 {
     Run("INSERT INTO customer (FirstName, LastName) VALUES (NULL, 'Lee')");
-    CustomersPanel panel;
     try {
         panel.RefreshCustomerList(1, 0);
         FAIL();
@@ -87,32 +78,70 @@ TEST_F(CustomersPanelTest, TitlesSortAndKeepTheRowNumber)
     Customer("Ann", "Lee").Address("9 Mill", "", "A1").Phone("3").Add();
     Customer("Bob", "Moss").Address("5 Mill", "", "C1").Phone("2").Add();
     Customer("Cid", "Nash").Address("7 Mill", "", "B1").Phone("1").Add();
-    FlexGrid* gcust = Shown().gcust;
-    ClickRow(gcust, 3);
-
-    ClickTitle(gcust, 1);
-    EXPECT_EQ(Names(), QStringList({"Bob Moss", "Cid Nash", "Ann Lee"}));
-    ClickTitle(gcust, 2);
-    EXPECT_EQ(Names(), QStringList({"Ann Lee", "Cid Nash", "Bob Moss"}));
-    ClickTitle(gcust, 3);
-    EXPECT_EQ(Names(), QStringList({"Cid Nash", "Bob Moss", "Ann Lee"}));
-    ClickTitle(gcust, 0);
-    EXPECT_EQ(Names(), QStringList({"Ann Lee", "Bob Moss", "Cid Nash"}));
-    EXPECT_EQ(gcust->Row(), 3);
+    ClickRow(Shown().gcust, 3);
+    const QStringList orders[] = {{"Ann Lee", "Bob Moss", "Cid Nash"}, {"Bob Moss", "Cid Nash", "Ann Lee"},
+        {"Ann Lee", "Cid Nash", "Bob Moss"}, {"Cid Nash", "Bob Moss", "Ann Lee"}};
+    for (const int col : {1, 2, 3, 0}) {
+        ClickTitle(Shown().gcust, col);
+        EXPECT_EQ(Names(), orders[col]);
+    }
+    EXPECT_EQ(Shown().gcust->Row(), 3);
 }
 
-TEST_F(CustomersPanelTest, ARefillSelectsTheRecordOrFallsBackToTheLastRow)
+TEST_F(CustomersPanelTest, ACustomerWithInvoicesStaysAndOthersGoOnYes)
 {
-    const int ann = Customer("Ann", "Lee").Add();
-    Customer("Bob", "Moss").Add();
-    CustomersPanel& panel = Shown();
-    panel.RefreshCustomerList(2, ann);
-    EXPECT_EQ(panel.gcust->CurrentRowData(), ann);
-    panel.RefreshCustomerList(9, 0);
+    Customer("Ann", "Lee").Add();
+    Invoice(Customer("Bob", "Moss").Add()).Add();
+    Customer("Cid", "Nash").Add();
+    Shown();
+    CheckScreen(&panel, panel.Controls(), {});
+    ClickRow(panel.gcust, 2);
+    answers.ExpectMessage("This customer has existing invoices and cannot be deleted. To delete this customer first "
+                          "delete all their invoices.",
+        Icon::Critical, "Cannot delete customer.");
+    Click(panel.cmdDeleteCustomer);
+    ClickRow(panel.gcust, 3);
+    answers.Expect("Delete customer?", Icon::Question, Buttons::YesNo, Answer::No);
+    Click(panel.cmdDeleteCustomer);
+    EXPECT_EQ(Count("customer"), 3);
+    answers.Expect("Delete customer?", Answer::Yes);
+    Click(panel.cmdDeleteCustomer);
+    EXPECT_EQ(Names(), QStringList({"Ann Lee", "Bob Moss"}));
     EXPECT_EQ(panel.gcust->Row(), 2);
-    EXPECT_EQ(panel.gcust->ColSel(), 3);
-    Run("DELETE FROM customer");
-    panel.RefreshCustomerList(1, 0);
-    EXPECT_EQ(panel.gcust->Row(), 0);
-    EXPECT_EQ(panel.gcust->CurrentRowData(), 0);
+}
+
+TEST_F(CustomersPanelTest, AnEditSelectsTheCustomerAlsoWhenCancelledAndAnAddTheFirstRow)
+{
+    Customer("Ann", "Lee").Add();
+    const int bob = Customer("Bob", "Moss").Add();
+    Shown();
+    WhenFormShows<frmCustomer>([&](frmCustomer& form) {
+        EXPECT_EQ(form.txtFirstname->text(), "Bob");
+        Run("UPDATE customer SET FirstName = 'Rob' WHERE LastName = 'Moss'");
+        Press(&form, Qt::Key_Escape);
+    });
+    DoubleClickRow(panel.gcust, 2);
+    EXPECT_EQ(Names(), QStringList({"Ann Lee", "Rob Moss"})) << "reloaded";
+    EXPECT_EQ(panel.gcust->CurrentRowData(), bob);
+
+    WhenFormShows<frmCustomer>([](frmCustomer& form) {
+        Type(form.txtLastname, "Nash");
+        Press(form.txtLastname, Qt::Key_Return);
+    });
+    Click(panel.cmdCreateCustomer);
+    EXPECT_EQ(Names(), QStringList({"Ann Lee", "Rob Moss", "Nash"}));
+    EXPECT_EQ(panel.gcust->Row(), 1);
+}
+
+TEST_F(CustomersPanelTest, OnAnEmptyListEditOnlyReloadsAndAnIdBeyondSixteenBitsEndsTheProgram)
+{
+    Shown();
+    Click(panel.cmdDeleteCustomer);
+    Customer("Ann", "Lee").Set("id", "32768").Add();
+    Click(panel.cmdEditCustomer);
+    EXPECT_EQ(Names(), QStringList{"Ann Lee"});
+
+    const ExpectedEnd end;
+    Click(panel.cmdEditCustomer);
+    EXPECT_EQ(end.Number(), 6);
 }

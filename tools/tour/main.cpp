@@ -1,3 +1,5 @@
+#include "key_tables.h"
+#include "people.h"
 #include "road.h"
 #include "stockroom.h"
 
@@ -63,6 +65,8 @@ void Walk(const QString& pictureFolder)
     LookAround(program, album);
     const QString barCode = AddAnItem(program, album);
     KeepTheStock(program, album, barCode);
+    ConfigureKeyTables(program, album);
+    KeepPeople(program, album);
     WriteAnInvoice(program, album, barCode);
     FindTheInvoice(program, album);
     program.Window()->close();

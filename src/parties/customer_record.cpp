@@ -1,0 +1,106 @@
+#include "parties/customer_record.h"
+
+#include "config/new_row.h"
+#include "db/connection.h"
+#include "platform/layout.h"
+#include "platform/numbers.h"
+
+namespace {
+
+constexpr int FormWidth = 620;
+constexpr QLatin1String NoDiscount("0");
+
+} // namespace
+
+qint16 gEditCustomerId = NewRow;
+
+frmCustomer::frmCustomer(QWidget* parent)
+    : Form("frmCustomer", tr("Customer Details"), parent)
+{
+    lblEmail->WriteTo(txtEmail);
+    cmdOk->setText(tr("OK"));
+    cmdCancel->setText(tr("&Cancel"));
+
+    setLayout(column({
+        fieldColumns({
+            {{tr("First Name:"), txtFirstname}, {tr("Last Name:"), txtLastname},
+                {tr("Business Name:"), txtBusinessName}, {tr("Address:"), txtAddress1}, {tr("Address:"), txtAddress2},
+                {tr("City:"), txtCity}, {tr("State:"), txtState}},
+            {{tr("Country:"), txtCountry}, {tr("Zip/Post Code:"), txtPostcode}, {tr("Phone:"), txtPhone},
+                {tr("Fax:"), txtFax}, {tr("Email:"), row({txtEmail, lblEmail})}, {tr("Discount:"), txtDiscount}},
+        }),
+        stretch(),
+        row({stretch(), cmdOk, cmdCancel}),
+    }));
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    resize(FormWidth, sizeHint().height());
+
+    if (gEditCustomerId == NewRow)
+        txtDiscount->setText(NoDiscount);
+    else
+        ShowStoredCustomer();
+
+    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+}
+
+PartyFields frmCustomer::Fields() const
+{
+    return {
+        {"FirstName", "first", txtFirstname},
+        {"LastName", "last", txtLastname},
+        {"Address1", "a1", txtAddress1},
+        {"Address2", "a2", txtAddress2},
+        {"City", "city", txtCity},
+        {"State", "state", txtState},
+        {"PostCode", "post", txtPostcode},
+        {"Country", "country", txtCountry},
+        {"Phone", "phone", txtPhone},
+        {"Email", "email", txtEmail},
+        {"BusinessName", "business", txtBusinessName},
+        {"Fax", "fax", txtFax},
+    };
+}
+
+void frmCustomer::ShowStoredCustomer()
+{
+    const Recordset customer = gConnection->Execute(
+        Sql("SELECT ID, fax, FirstName, LastName, Address1, Address2, City, State, PostCode, Country, Phone, Email, "
+            "BusinessName, Discount FROM Customer WHERE ID = {gEditCustomerId}")
+            .Number("gEditCustomerId", gEditCustomerId));
+    if (customer.Eof())
+        return;
+    ShowFields(customer, Fields());
+    const Value discount = customer["Discount"];
+    txtDiscount->setText(discount.IsNull() ? QString(NoDiscount) : discount.ToText());
+}
+
+void frmCustomer::Save()
+{
+    if (!IsNumeric(txtDiscount->text()))
+        txtDiscount->setText(NoDiscount);
+    if (gEditCustomerId == NewRow)
+        AddCustomer();
+    else
+        UpdateCustomer();
+    accept();
+}
+
+void frmCustomer::UpdateCustomer() const
+{
+    Sql update("UPDATE Customer SET FirstName = '{first}', LastName = '{last}', Address1 = '{a1}', Address2 = '{a2}', "
+               "City = '{city}', State = '{state}', PostCode = '{post}', Country = '{country}', Phone = '{phone}', "
+               "Email = '{email}', Fax = '{fax}', Discount = {discount}, BusinessName = '{business}'  "
+               "WHERE ID={gEditCustomerId};");
+    gConnection->Execute(
+        FillFields(update, Fields()).Raw("discount", txtDiscount->text()).Number("gEditCustomerId", gEditCustomerId));
+}
+
+void frmCustomer::AddCustomer() const
+{
+    AddRow customer(*gConnection, "Customer");
+    customer.AddNew();
+    SetFields(customer, Fields());
+    customer.Set("Discount", txtDiscount->text());
+    customer.Update();
+}

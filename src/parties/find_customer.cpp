@@ -1,0 +1,219 @@
+#include "parties/find_customer.h"
+
+#include "config/lists.h"
+#include "parties/customer_commands.h"
+#include "parties/customer_criteria.h"
+#include "parties/customer_texts.h"
+#include "platform/hourglass.h"
+#include "platform/layout.h"
+#include "platform/message_box.h"
+
+#include <QHeaderView>
+#include <QScreen>
+
+namespace {
+
+constexpr int FormWidth = 680;
+constexpr int BelowSeparator = 300; ///< twips from the top of the last separator to the end of the form
+constexpr int FormEdge = 100; ///< twips, so far the buttons stand from the right end
+constexpr int SeparatorPixels = 2;
+constexpr int RowsWhenGrown = 10;
+constexpr int FewestRows = 4;
+
+constexpr int AddressColumn = 1;
+constexpr int AddressTwips = 1600;
+constexpr int ScrollBarTwips = 400;
+
+void DrawSeparator(QFrame* separator)
+{
+    separator->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    separator->setFixedHeight(SeparatorPixels);
+}
+
+int HeightOfRows(const FlexGrid* grid, int rows)
+{
+    return grid->horizontalHeader()->sizeHint().height() + rows * grid->verticalHeader()->defaultSectionSize()
+        + 2 * grid->frameWidth();
+}
+
+std::optional<qint64> AddMatchCells(const Recordset& customer, GridFill& fill)
+{
+    enum { Id, FirstName, LastName, Address1, Address2, PostCode, Phone };
+    fill.Add(FirstAndLastName(customer.Text(FirstName), customer.Text(LastName)));
+    fill.Add(CustomerAddress(customer.Text(Address1), customer.Text(Address2)));
+    fill.Add(customer.Text(PostCode));
+    fill.Add(customer.Text(Phone));
+    return customer.Long(Id);
+}
+
+} // namespace
+
+frmFindCustomer::frmFindCustomer(QWidget* parent)
+    : Form("frmFindCustomer", tr("Find Customer"), parent)
+{
+    FillButtons();
+    DrawSeparator(picSep);
+    DrawSeparator(picSep2);
+    m_results->setLayout(Results());
+    auto* form = column({
+        row({Criteria(), gap(12), picBut}),
+        picSep,
+        m_results,
+    });
+    // Either separator, the second as the last of the results, stands right above the lower margin.
+    const int edge = TwipsToPixels(FormEdge);
+    form->setContentsMargins(edge, edge, edge, TwipsToPixels(BelowSeparator) - SeparatorPixels);
+    form->setStretchFactor(m_results, 1);
+    setLayout(form);
+    m_results->hide();
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    resize(FormWidth, sizeHint().height());
+    DoResize();
+
+    On(cmdOk, &QPushButton::clicked, [this] { StartSearch(); });
+    On(cmdCreateCustomer, &QPushButton::clicked, [this] {
+        AddCustomer(this);
+        RefreshCustomerScreen(1, 0);
+    });
+    On(cmdEditCustomer, &QPushButton::clicked, [this] { EditSelected(); });
+    On(gcust, &FlexGrid::DblClick, [this] {
+        if (gcust->MouseRow() != 0)
+            EditSelected();
+    });
+    On(cmdDeleteCustomer, &QPushButton::clicked, [this] { DeleteSelected(); });
+}
+
+QLayout* frmFindCustomer::Criteria()
+{
+    return fieldColumns({
+        {{tr("First Name:"), txtFirstname}, {tr("Last Name:"), txtLastname}, {tr("Business Name:"), txtBusinessName},
+            {tr("Address:"), txtAddress1}, {tr("Address:"), txtAddress2}, {tr("City:"), txtCity}},
+        {{tr("State:"), txtState}, {tr("Country:"), txtCountry}, {tr("Post Code:"), txtPostcode},
+            {tr("Phone:"), txtPhone}, {tr("Email:"), txtEmail}},
+    });
+}
+
+void frmFindCustomer::FillButtons()
+{
+    cmdOk->setText(tr("&Start Search"));
+    cmdCancel->setText(tr("&Close"));
+    cmdCreateCustomer->setText(tr("Add Customer"));
+    cmdEditCustomer->setText(tr("View/Edit Customer"));
+    cmdDeleteCustomer->setText(tr("Delete Customer"));
+    picBut->setLayout(column({cmdOk, cmdCancel, stretch(), cmdCreateCustomer, cmdEditCustomer, cmdDeleteCustomer}));
+    picBut->layout()->setContentsMargins(0, 0, 0, 0);
+    // They act on the list, which does not show yet.
+    cmdEditCustomer->setEnabled(false);
+    cmdDeleteCustomer->setEnabled(false);
+}
+
+QLayout* frmFindCustomer::Results()
+{
+    gcust->setAccessibleName(tr("Matches"));
+    Label1->setText(tr("Total customer matches:"));
+    SetLabelOf(Label1, lblTotalCustomers);
+    lblTotalCustomers->setTextFormat(Qt::PlainText);
+    lblTotalCustomers->setText(QStringLiteral("0"));
+    auto* results = column({
+        gcust,
+        row({Label1, lblTotalCustomers, stretch()}),
+        picSep2,
+    });
+    results->setContentsMargins(0, 0, 0, 0);
+    return results;
+}
+
+void frmFindCustomer::RefreshCustomerScreen(int row, qint64 selectId)
+{
+    const QString criteria = AnyCriterion({
+        {"firstname", txtFirstname->text()},
+        {"lastname", txtLastname->text()},
+        {"address1", txtAddress1->text()},
+        {"address2", txtAddress2->text()},
+        {"city", txtCity->text()},
+        {"state", txtState->text()},
+        {"country", txtCountry->text()},
+        {"postcode", txtPostcode->text()},
+        {"phone", txtPhone->text()},
+        {"email", txtEmail->text()},
+    });
+    if (criteria.isEmpty()) {
+        MsgBox(
+            tr("No criteria to search by has been entered. Please enter some details and try again."), Icon::Critical);
+        return;
+    }
+    const Hourglass hourglass;
+    LoadList(gcust,
+        Sql("SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer WHERE {criteria} "
+            "ORDER BY lastname, firstname")
+            .Raw("criteria", criteria),
+        row, selectId, AddMatchCells);
+    lblTotalCustomers->setText(QString::number(gcust->Rows() - 1));
+}
+
+void frmFindCustomer::StartSearch()
+{
+    RefreshCustomerScreen(1, 0);
+    if (IsShort())
+        Grow();
+    // A list without matches has no row 1.
+    Ignoring([this] { gcust->SelectRow(1); });
+}
+
+void frmFindCustomer::EditSelected()
+{
+    EditCustomer(gcust->CurrentRowData(), this);
+    RefreshCustomerScreen(1, 0);
+}
+
+void frmFindCustomer::DeleteSelected()
+{
+    if (DeleteCustomer(gcust->CurrentRowData()))
+        RefreshCustomerScreen(gcust->Row(), 0);
+}
+
+void frmFindCustomer::Grow()
+{
+    cmdEditCustomer->setEnabled(true);
+    cmdDeleteCustomer->setEnabled(true);
+    m_results->show();
+    gcust->setMinimumHeight(HeightOfRows(gcust, RowsWhenGrown));
+    setMaximumHeight(QWIDGETSIZE_MAX);
+    m_results->layout()->activate();
+    resize(width(), minimumSizeHint().height());
+    gcust->setMinimumHeight(HeightOfRows(gcust, FewestRows));
+
+    const QRect room = screen()->availableGeometry();
+    if (const int beyond = frameGeometry().bottom() - room.bottom(); beyond > 0)
+        move(x(), std::max(room.top(), y() - beyond));
+}
+
+void frmFindCustomer::DoResize()
+{
+    SetUpColumns(gcust,
+        {{QT_TR_NOOP("Name"), 2400, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Address"), AddressTwips, CellAlign::LeftCenter},
+            {QT_TR_NOOP("Postcode"), 1100, CellAlign::LeftCenter}, {QT_TR_NOOP("Phone"), 1600, CellAlign::LeftCenter}},
+        AddressColumn);
+    for (int col = 0; col < gcust->Cols(); ++col)
+        gcust->SetColAlignment(col, CellAlign::LeftCenter);
+    // Room for the scroll bar, or a list longer than the grid would need one across as well.
+    gcust->SetColWidth(AddressColumn, std::max(AddressTwips, gcust->ColWidth(AddressColumn) - ScrollBarTwips));
+}
+
+void frmFindCustomer::showEvent(QShowEvent* event)
+{
+    Form::showEvent(event);
+    if (IsShort())
+        setMaximumHeight(minimumSizeHint().height());
+}
+
+void frmFindCustomer::resizeEvent(QResizeEvent* event)
+{
+    Form::resizeEvent(event);
+    Ignoring([this] {
+        DoResize();
+        gcust->SelectRow(1);
+    });
+}

@@ -1,0 +1,20 @@
+#include "parties/party_fields.h"
+
+void ShowFields(const Recordset& row, const PartyFields& fields)
+{
+    for (const PartyField& field : fields)
+        field.box->setText(NullToText(row[field.column]));
+}
+
+Sql& FillFields(Sql& update, const PartyFields& fields)
+{
+    for (const PartyField& field : fields)
+        update.Text(field.marker, field.box->text());
+    return update;
+}
+
+void SetFields(AddRow& row, const PartyFields& fields)
+{
+    for (const PartyField& field : fields)
+        row.Set(field.column, field.box->text());
+}

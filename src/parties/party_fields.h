@@ -1,0 +1,24 @@
+#pragma once
+
+#include "db/add_row.h"
+#include "db/recordset.h"
+#include "db/sql.h"
+#include "platform/text_box.h"
+
+#include <QList>
+
+/// What the records of customers and vendors share: each text box edits one column.
+
+struct PartyField {
+    const char* column;
+    const char* marker; ///< in the form's UPDATE
+    TextBox* box;
+};
+using PartyFields = QList<PartyField>;
+
+/// Shows the row's columns in their boxes; Null shows as "".
+void ShowFields(const Recordset& row, const PartyFields& fields);
+/// Fills the markers of the boxes' texts.
+Sql& FillFields(Sql& update, const PartyFields& fields);
+/// Sets the fields of a new row, in the order of the list.
+void SetFields(AddRow& row, const PartyFields& fields);

@@ -1,0 +1,101 @@
+#include "parties/vendor_record.h"
+
+#include "config/new_row.h"
+#include "db/connection.h"
+#include "platform/layout.h"
+
+namespace {
+
+constexpr QSize FormSize(620, 400);
+
+} // namespace
+
+qint32 gEditVendorId = NewRow;
+
+frmVendor::frmVendor(QWidget* parent)
+    : Form("frmVendor", tr("Vendor Details"), parent)
+{
+    lblEmail->WriteTo(txtEmail);
+    cmdOk->setText(tr("OK"));
+    cmdCancel->setText(tr("&Cancel"));
+    auto* notesLabel = new QLabel(tr("Notes:"));
+    SetLabelOf(notesLabel, txtNotes);
+
+    setLayout(column({
+        fieldColumns({
+            {{tr("Contact Name:"), txtContactName}, {tr("Business Name:"), txtBusinessName},
+                {tr("Address:"), txtAddress1}, {tr("Address:"), txtAddress2}, {tr("City:"), txtCity},
+                {tr("State:"), txtState}},
+            {{tr("Country:"), txtCountry}, {tr("Zip/Post Code:"), txtPostcode}, {tr("Phone:"), txtPhone},
+                {tr("Fax:"), txtFax}, {tr("Email:"), row({txtEmail, lblEmail})}},
+        }),
+        notesLabel,
+        txtNotes,
+        row({stretch(), cmdOk, cmdCancel}),
+    }));
+    cmdOk->setDefault(true);
+    SetCancelButton(cmdCancel);
+    resize(FormSize);
+
+    if (gEditVendorId != NewRow)
+        ShowStoredVendor();
+
+    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+}
+
+PartyFields frmVendor::Fields() const
+{
+    return {
+        {"ContactName", "contact", txtContactName},
+        {"Address1", "a1", txtAddress1},
+        {"Address2", "a2", txtAddress2},
+        {"City", "city", txtCity},
+        {"State", "state", txtState},
+        {"PostCode", "post", txtPostcode},
+        {"Country", "country", txtCountry},
+        {"Phone", "phone", txtPhone},
+        {"Email", "email", txtEmail},
+        {"Fax", "fax", txtFax},
+        {"BusinessName", "business", txtBusinessName},
+    };
+}
+
+void frmVendor::ShowStoredVendor()
+{
+    const Recordset vendor = gConnection->Execute(
+        Sql("SELECT ID, ContactName, Address1, Address2, City, State, PostCode, Country, Phone, Email, BusinessName, "
+            "Fax, Notes FROM Vendor WHERE ID = {gEditVendorId}")
+            .Number("gEditVendorId", gEditVendorId));
+    if (vendor.Eof())
+        return;
+    ShowFields(vendor, Fields());
+    txtNotes->SetText(NullToText(vendor["Notes"]));
+}
+
+void frmVendor::Save()
+{
+    if (gEditVendorId == NewRow)
+        AddVendor();
+    else
+        UpdateVendor();
+    accept();
+}
+
+void frmVendor::UpdateVendor() const
+{
+    Sql update("UPDATE Vendor SET ContactName = '{contact}', Fax = '{fax}', Address1 = '{a1}', Address2 = '{a2}', "
+               "City = '{city}', State = '{state}', PostCode = '{post}', Country = '{country}', Phone = '{phone}', "
+               "Email = '{email}', BusinessName = '{business}'  WHERE ID={gEditVendorId};");
+    gConnection->Execute(FillFields(update, Fields()).Number("gEditVendorId", gEditVendorId));
+}
+
+void frmVendor::AddVendor() const
+{
+    const PartyFields fields = Fields();
+    AddRow vendor(*gConnection, "Vendor");
+    vendor.AddNew();
+    SetFields(vendor, fields.first(1));
+    vendor.Set("notes", txtNotes->Text());
+    SetFields(vendor, fields.sliced(1));
+    vendor.Update();
+}
