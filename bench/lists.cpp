@@ -71,6 +71,10 @@ void MeasureCustomers(RunningProgram& program)
                 LetPaint();
             },
             [&] { found.Run(); }));
+    finder.close();
+    // What is measured next types into the main window.
+    window.activateWindow();
+    LetPaint();
 }
 
 } // namespace
