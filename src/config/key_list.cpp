@@ -28,6 +28,12 @@ std::optional<qint64> KeyList::SelectedId() const
     return selected.constFirst()->data(Qt::UserRole).toLongLong();
 }
 
+void KeyList::mousePressEvent(QMouseEvent* event)
+{
+    if (indexAt(event->pos()).isValid())
+        QListWidget::mousePressEvent(event);
+}
+
 void KeyList::mouseDoubleClickEvent(QMouseEvent* event)
 {
     QListWidget::mouseDoubleClickEvent(event);

@@ -20,6 +20,8 @@ signals:
     void Opened();
 
 protected:
+    /// A press beside the entries leaves the selection as it is.
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -23,7 +23,7 @@ KeyListForm::KeyListForm(const char* name, const Texts& texts, const KeyTable& t
     SetCancelButton(cmdCancel);
     cmdCancel->setDefault(true);
 
-    Reload();
+    KeyListForm::Reload();
 
     On(cmdAdd, &QPushButton::clicked, [this] {
         ShowDetails(NewRow);

@@ -28,9 +28,10 @@ protected:
     /// Shows the table's form for a row, NewRow for a new one.
     virtual void ShowDetails(qint64 id) = 0;
     virtual void DeleteRow(qint64 id);
+    /// Shows what is stored; runs after each change.
+    virtual void Reload();
 
 private:
-    void Reload();
     void Edit();
     void Remove();
 

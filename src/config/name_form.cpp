@@ -14,6 +14,7 @@ NameForm::NameForm(const KeyTable& table, qint32& currentId, QWidget* parent)
     setLayout(column({
         instructions(table.formInstructions),
         m_fields,
+        stretch(),
         m_buttons,
     }));
     cmdOK->setDefault(true);

@@ -65,6 +65,12 @@ void frmTaxRate::ShowDetails(qint64 id)
     frmAddTaxRate(this).ShowModal();
 }
 
+void frmTaxRate::Reload()
+{
+    KeyListForm::Reload();
+    ShowSecondaryTax();
+}
+
 void frmTaxRate::ShowSecondaryTax()
 {
     chkEnableTax2->setChecked(SecondaryTaxEnable);

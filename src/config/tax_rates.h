@@ -26,7 +26,8 @@ private:
 };
 
 /// Keeps the tax rates and the secondary tax. However it is closed, it stores the secondary tax and reads the triple
-/// anew; whoever shows it lets the invoice page follow.
+/// anew; whoever shows it lets the invoice page follow. Adding, editing or removing a rate brings the stored secondary
+/// tax back into its boxes.
 class frmTaxRate : public KeyListForm {
 public:
     explicit frmTaxRate(QWidget* parent);
@@ -39,6 +40,7 @@ public:
 
 protected:
     void ShowDetails(qint64 id) override;
+    void Reload() override;
 
 private:
     void ShowSecondaryTax();

@@ -79,6 +79,7 @@ void InvoicePage::ShowInvoicePage()
 void InvoicePage::ShowSecondaryTax()
 {
     lblLabels_26->setText(SecondaryTaxName + QLatin1Char(':'));
+    lblLabels_26->setToolTip(QStringLiteral("<span>%1</span>").arg(SecondaryTaxName.toHtmlEscaped()));
     lblSecondTax->setAccessibleName(SecondaryTaxName);
     lblLabels_26->setVisible(SecondaryTaxEnable);
     lblSecondTax->setVisible(SecondaryTaxEnable);

@@ -120,6 +120,9 @@ QLayout* InvoicePage::PaymentAndTotals()
 
     // The secondary tax's caption is no buddy: "&" in the name of a tax is a letter.
     lblLabels_26->setTextFormat(Qt::PlainText);
+    // A long name is cut off; its tooltip shows the whole.
+    constexpr int WidestTaxName = 220;
+    lblLabels_26->setMaximumWidth(WidestTaxName);
     auto* totalCaption = new QLabel(tr("Total:"));
     lblTotal->setAccessibleName(tr("Total"));
     QFont bold = lblTotal->font();

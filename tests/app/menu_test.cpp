@@ -207,6 +207,10 @@ TEST_F(MenuTest, ClosingTheTaxRatesLetsTheOpenInvoiceFollowAtOnce)
     EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), "PST:");
     EXPECT_TRUE(window.picNewInvoice->lblLabels_26->isVisible() && window.picNewInvoice->lblSecondTax->isVisible());
     closeWithTax("");
+    closeWithTax(qPrintable(QString(150, u'W')));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.width(), 1024);
+    closeWithTax("");
     EXPECT_FALSE(window.picNewInvoice->lblLabels_26->isVisible() || window.picNewInvoice->lblSecondTax->isVisible());
 }
 

@@ -218,6 +218,10 @@ TEST_P(KeyTablesTest, EditingRenamesTheSelectedRowAlone)
     if (auto* list = dynamic_cast<QListWidget*>(Find<QWidget>(form.get(), GetParam().list))) {
         WhenDetailsShow([](NameForm& details) { Click(details.cmdCancel); });
         ::Press(list, Qt::Key_Return);
+        // Beside the entries, where the selected one stays selected.
+        WhenDetailsShow([](NameForm& details) { Click(details.cmdCancel); });
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->viewport()->rect().bottomLeft());
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->viewport()->rect().bottomLeft());
         WhenDetailsShow([](NameForm& details) {
             Type(details.txtName, "Left");
             Click(details.cmdCancel);

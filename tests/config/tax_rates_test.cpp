@@ -2,6 +2,8 @@
 #include "config/tax_rates.h"
 #include "support/form_test.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 class TaxRatesTest : public FormTest<frmTaxRate> {
@@ -73,6 +75,15 @@ INSTANTIATE_TEST_SUITE_P(Typed, TaxPercentageTest,
         Percentage{"1e2", "100.0", "100.0"}, Percentage{"abc", "0.0", "0.0"}, Percentage{"", "0.0", "0.0"},
         Percentage{"5%", "0.0", "0.0"}, Percentage{"1,5", "15.0", nullptr}, Percentage{"$5", "5.0", nullptr}));
 
+TEST_F(TaxRatesTest, DetailsDraggedTallerKeepTheirBoxesBelowTheInstructions)
+{
+    const auto details = Details(NewRow);
+    const int top = details->txtName->y();
+    details->resize(details->width(), 3 * details->height());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(details->txtName->y(), top);
+}
+
 TEST_F(TaxRatesTest, TheSecondaryTaxIsOpenOnlyWhileItIsEnabled)
 {
     SecondaryTaxEnable = false;
@@ -84,6 +95,22 @@ TEST_F(TaxRatesTest, TheSecondaryTaxIsOpenOnlyWhileItIsEnabled)
     EXPECT_EQ(form->txtSalesTax2->text(), "7.5");
     Click(form->chkEnableTax2);
     EXPECT_TRUE(form->txtSalesTaxName2->isEnabled() && form->txtSalesTax2->isEnabled());
+}
+
+TEST_F(TaxRatesTest, AChangeOfTheRatesShowsTheSecondaryTaxAsStored)
+{
+    SecondaryTaxEnable = false;
+    SecondaryTaxName = "City Tax";
+    SecondaryTaxPercentage = 7.5;
+    Open();
+    Click(form->chkEnableTax2);
+    Type(form->txtSalesTaxName2, "GST");
+    Type(form->txtSalesTax2, "9");
+    WhenFormShows<frmAddTaxRate>([](frmAddTaxRate& details) { Click(details.cmdCancel); });
+    Click(form->cmdAdd);
+    EXPECT_FALSE(form->chkEnableTax2->isChecked() || form->txtSalesTaxName2->isEnabled());
+    EXPECT_EQ(form->txtSalesTaxName2->text(), "City Tax");
+    EXPECT_EQ(form->txtSalesTax2->text(), "7.5");
 }
 
 namespace {
