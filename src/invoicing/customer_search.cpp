@@ -1,7 +1,7 @@
 #include "invoicing/customer_search.h"
 
 #include "config/lists.h"
-#include "parties/customer_texts.h"
+#include "parties/customer_matches.h"
 #include "platform/hourglass.h"
 #include "platform/layout.h"
 #include "platform/message_box.h"
@@ -74,15 +74,7 @@ void frmResCustSearch::ListMatches()
 {
     const Hourglass hourglass;
     cmdSelect->setEnabled(false);
-    LoadList(gcust, SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0,
-        [](const Recordset& customer, GridFill& fill) {
-            enum { Id, FirstName, LastName, Address1, Address2, PostCode, Phone };
-            fill.Add(FirstAndLastName(customer.Text(FirstName), customer.Text(LastName)));
-            fill.Add(CustomerAddress(customer.Text(Address1), customer.Text(Address2)));
-            fill.Add(customer.Text(PostCode));
-            fill.Add(customer.Text(Phone));
-            return customer.Long(Id);
-        });
+    LoadList(gcust, SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0, AddMatchCells);
     cmdSelect->setEnabled(gcust->Rows() > 1);
 }
 

@@ -24,6 +24,8 @@ EmailLink::EmailLink(QWidget* parent)
     setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(MailTo, tr("Email")));
     // Qt's own keys for links take a second Tab before Enter does anything.
     setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    // Qt's menu would copy the link without the address.
+    setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Write an email"));
     setToolTip(tr("Write an email to this address"));

@@ -3,7 +3,7 @@
 #include "config/lists.h"
 #include "parties/customer_commands.h"
 #include "parties/customer_criteria.h"
-#include "parties/customer_texts.h"
+#include "parties/customer_matches.h"
 #include "platform/hourglass.h"
 #include "platform/layout.h"
 #include "platform/message_box.h"
@@ -34,16 +34,6 @@ int HeightOfRows(const FlexGrid* grid, int rows)
 {
     return grid->horizontalHeader()->sizeHint().height() + rows * grid->verticalHeader()->defaultSectionSize()
         + 2 * grid->frameWidth();
-}
-
-std::optional<qint64> AddMatchCells(const Recordset& customer, GridFill& fill)
-{
-    enum { Id, FirstName, LastName, Address1, Address2, PostCode, Phone };
-    fill.Add(FirstAndLastName(customer.Text(FirstName), customer.Text(LastName)));
-    fill.Add(CustomerAddress(customer.Text(Address1), customer.Text(Address2)));
-    fill.Add(customer.Text(PostCode));
-    fill.Add(customer.Text(Phone));
-    return customer.Long(Id);
 }
 
 } // namespace

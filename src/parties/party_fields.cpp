@@ -2,8 +2,10 @@
 
 void ShowFields(const Recordset& row, const PartyFields& fields)
 {
-    for (const PartyField& field : fields)
+    for (const PartyField& field : fields) {
         field.box->setText(NullToText(row[field.column]));
+        field.box->home(false); // a long text shows its beginning
+    }
 }
 
 Sql& FillFields(Sql& update, const PartyFields& fields)

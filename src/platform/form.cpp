@@ -60,6 +60,13 @@ void Form::SetCancelButton(QPushButton* button)
     });
 }
 
+void Form::done(int result)
+{
+    QDialog::done(result);
+    // The second click of a double click on OK may be under way; it would save once more.
+    setEnabled(false);
+}
+
 void Form::showEvent(QShowEvent* event)
 {
     if (!m_prepared) {
@@ -67,6 +74,7 @@ void Form::showEvent(QShowEvent* event)
         SwitchAutoDefaultOff(this);
         ApplyTabOrder(this);
     }
+    setEnabled(true);
     QDialog::showEvent(event);
     if (QWidget* first = FirstToFocus(); first && !focusWidget())
         first->setFocus(Qt::ActiveWindowFocusReason);

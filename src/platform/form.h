@@ -22,6 +22,8 @@ public:
     /// without it, as `reject` does; so does Esc in a form without a cancel button.
     void SetCancelButton(QPushButton* button);
 
+    void done(int result) override;
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

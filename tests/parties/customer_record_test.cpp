@@ -2,12 +2,12 @@
 
 namespace {
 
-class CustomerRecordTest : public PartyFormTest<frmCustomer> {
+class CustomerRecordTest : public FormTest<frmCustomer> {
 protected:
     void Open(int customerId)
     {
         gEditCustomerId = qint16(customerId);
-        PartyFormTest::Open();
+        FormTest::Open();
     }
 };
 
@@ -37,6 +37,7 @@ TEST_F(CustomerRecordTest, ANewCustomerAndAnEditStoreEachBoxInItsColumn)
     EXPECT_EQ(Rows("SELECT " + columns + " FROM customer"), Table({stored}));
 
     Open(Single("SELECT id FROM customer").toInt());
+    EXPECT_EQ(form->txtEmail->cursorPosition(), 0) << "a long text shows its beginning";
     Type(form->txtFax, "O'F");
     Press(form->txtFax, Qt::Key_Return);
     EXPECT_FALSE(form->isVisible());

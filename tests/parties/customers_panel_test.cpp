@@ -29,7 +29,7 @@ INSTANTIATE_TEST_SUITE_P(Names, CustomerNameTest,
 
 namespace {
 
-class CustomersPanelTest : public PartiesTest {
+class CustomersPanelTest : public DatabaseTest {
 protected:
     CustomersPanel& Shown()
     {
@@ -40,9 +40,10 @@ protected:
         }
         return panel;
     }
-    QStringList Names() { return PartiesTest::Names(Shown().gcust); }
+    QStringList Names() { return FirstColumn(Shown().gcust); }
 
     CustomersPanel panel;
+    ScriptedAnswers answers;
 };
 
 } // namespace

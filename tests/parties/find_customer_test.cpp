@@ -6,7 +6,7 @@
 
 namespace {
 
-class FindCustomerTest : public PartyFormTest<frmFindCustomer> {
+class FindCustomerTest : public FormTest<frmFindCustomer> {
 protected:
     static constexpr auto NoCriteria =
         "No criteria to search by has been entered. Please enter some details and try again.";
@@ -17,7 +17,7 @@ protected:
         Type(box, text);
         Press(box, Qt::Key_Return);
         EXPECT_EQ(form->lblTotalCustomers->text().toInt(), GridRows(form->gcust).size());
-        return Names(form->gcust);
+        return FirstColumn(form->gcust);
     }
 };
 
@@ -105,14 +105,14 @@ TEST_F(FindCustomerTest, TheSearchRunsAgainAfterAnEditAnAddAndADeletion)
     };
     WhenFormShows<frmCustomer>(naming("Moss"));
     Press(form->gcust, Qt::Key_Return);
-    EXPECT_EQ(Names(form->gcust), QStringList{"Ann Lee"}) << "Bob was the one selected";
+    EXPECT_EQ(FirstColumn(form->gcust), QStringList{"Ann Lee"}) << "Bob was the one selected";
     WhenFormShows<frmCustomer>(naming("Leeds"));
     Click(form->cmdCreateCustomer);
-    EXPECT_EQ(Names(form->gcust), QStringList({"Ann Lee", " Leeds"}));
+    EXPECT_EQ(FirstColumn(form->gcust), QStringList({"Ann Lee", " Leeds"}));
 
     Type(form->txtLastname, "");
     WhenFormShows<frmCustomer>([](frmCustomer& customer) { Click(customer.cmdCancel); });
     answers.ExpectMessage(NoCriteria, Icon::Critical);
     Click(form->cmdCreateCustomer);
-    EXPECT_EQ(Names(form->gcust).size(), 2) << "the list keeps its rows";
+    EXPECT_EQ(FirstColumn(form->gcust).size(), 2) << "the list keeps its rows";
 }

@@ -3,12 +3,12 @@
 
 namespace {
 
-class VendorRecordTest : public PartyFormTest<frmVendor> {
+class VendorRecordTest : public FormTest<frmVendor> {
 protected:
     void Open(int vendorId)
     {
         gEditVendorId = vendorId;
-        PartyFormTest::Open();
+        FormTest::Open();
     }
     Table Stored() const
     {

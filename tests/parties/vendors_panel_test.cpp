@@ -4,7 +4,7 @@
 
 namespace {
 
-class VendorsPanelTest : public PartiesTest {
+class VendorsPanelTest : public DatabaseTest {
 protected:
     void Show()
     {
@@ -12,9 +12,10 @@ protected:
         Shown(&panel);
         panel.RefreshVendorList(1, 0);
     }
-    QStringList Names() const { return PartiesTest::Names(panel.gVendors); }
+    QStringList Names() const { return FirstColumn(panel.gVendors); }
 
     VendorsPanel panel;
+    ScriptedAnswers answers;
 };
 
 } // namespace

@@ -57,6 +57,28 @@ public:
     QStringList done;
 };
 
+TEST(Forms, AClickThatComesAfterTheFormHasClosedDoesNothing)
+{
+    frmSample form;
+    Shown(&form);
+    const auto clickLate = [&form] {
+        const QPointF middle = QRectF(form.cmdOK->rect()).center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(form.cmdOK,
+                new QMouseEvent(
+                    type, middle, form.cmdOK->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+        QCoreApplication::processEvents();
+    };
+    clickLate();
+    form.accept();
+    clickLate();
+    EXPECT_EQ(form.done, QStringList{"ok"});
+    Shown(&form);
+    EXPECT_TRUE(form.txtName->hasFocus());
+    clickLate();
+    EXPECT_EQ(form.done, QStringList({"ok", "ok"}));
+}
+
 TEST(Forms, TabFollowsTheOrderOfDeclaration)
 {
     frmSample form;
