@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int FormWidth = 680;
+constexpr int NarrowestForm = 560; ///< where the criteria still hold a name
 constexpr int BelowSeparator = 300; ///< twips from the top of the last separator to the end of the form
 constexpr int FormEdge = 100; ///< twips, so far the buttons stand from the right end
 constexpr int SeparatorPixels = 2;
@@ -58,6 +59,7 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
     m_results->hide();
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
+    setMinimumWidth(NarrowestForm);
     resize(FormWidth, sizeHint().height());
     DoResize();
 
