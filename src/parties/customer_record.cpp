@@ -46,20 +46,9 @@ frmCustomer::frmCustomer(QWidget* parent)
 
 PartyFields frmCustomer::Fields() const
 {
-    return {
-        {"FirstName", "first", txtFirstname},
-        {"LastName", "last", txtLastname},
-        {"Address1", "a1", txtAddress1},
-        {"Address2", "a2", txtAddress2},
-        {"City", "city", txtCity},
-        {"State", "state", txtState},
-        {"PostCode", "post", txtPostcode},
-        {"Country", "country", txtCountry},
-        {"Phone", "phone", txtPhone},
-        {"Email", "email", txtEmail},
-        {"BusinessName", "business", txtBusinessName},
-        {"Fax", "fax", txtFax},
-    };
+    const PartyFields names{{"FirstName", "first", txtFirstname}, {"LastName", "last", txtLastname}};
+    const PartyFields further{{"BusinessName", "business", txtBusinessName}, {"Fax", "fax", txtFax}};
+    return names + AddressFields(*this) + further;
 }
 
 void frmCustomer::ShowStoredCustomer()

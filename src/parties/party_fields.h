@@ -16,6 +16,22 @@ struct PartyField {
 };
 using PartyFields = QList<PartyField>;
 
+/// The columns that both records have alike, in the order in which they are written.
+template <typename Record>
+PartyFields AddressFields(const Record& record)
+{
+    return {
+        {"Address1", "a1", record.txtAddress1},
+        {"Address2", "a2", record.txtAddress2},
+        {"City", "city", record.txtCity},
+        {"State", "state", record.txtState},
+        {"PostCode", "post", record.txtPostcode},
+        {"Country", "country", record.txtCountry},
+        {"Phone", "phone", record.txtPhone},
+        {"Email", "email", record.txtEmail},
+    };
+}
+
 /// Shows the row's columns in their boxes; Null shows as "".
 void ShowFields(const Recordset& row, const PartyFields& fields);
 /// Fills the markers of the boxes' texts.

@@ -45,19 +45,9 @@ frmVendor::frmVendor(QWidget* parent)
 
 PartyFields frmVendor::Fields() const
 {
-    return {
-        {"ContactName", "contact", txtContactName},
-        {"Address1", "a1", txtAddress1},
-        {"Address2", "a2", txtAddress2},
-        {"City", "city", txtCity},
-        {"State", "state", txtState},
-        {"PostCode", "post", txtPostcode},
-        {"Country", "country", txtCountry},
-        {"Phone", "phone", txtPhone},
-        {"Email", "email", txtEmail},
-        {"Fax", "fax", txtFax},
-        {"BusinessName", "business", txtBusinessName},
-    };
+    const PartyFields contact{{"ContactName", "contact", txtContactName}};
+    const PartyFields further{{"Fax", "fax", txtFax}, {"BusinessName", "business", txtBusinessName}};
+    return contact + AddressFields(*this) + further;
 }
 
 void frmVendor::ShowStoredVendor()

@@ -20,8 +20,8 @@
 #include <cstdio>
 
 /// usage: tour PROGRAM_FOLDER PICTURE_FOLDER
-/// Walks the road of one invoice through the real windows and leaves a picture of each station. It works on a demo shop
-/// and a settings store of its own, which it throws away.
+/// Walks the real windows, from the stock to the printed invoice, and leaves a picture of each station. It works on a
+/// demo shop and a settings store of its own, which it throws away.
 
 namespace {
 
