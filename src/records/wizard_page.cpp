@@ -1,0 +1,104 @@
+#include "records/wizard_page.h"
+
+#include "platform/layout.h"
+
+#include <QFrame>
+
+namespace {
+
+/// One size for all pages, in lines of text, so that the buttons stay in place from page to page.
+constexpr int PageWidth = 32;
+constexpr int PageHeight = 24;
+
+QFrame* Rule()
+{
+    auto* rule = new QFrame;
+    rule->setFrameShape(QFrame::HLine);
+    rule->setFrameShadow(QFrame::Sunken);
+    return rule;
+}
+
+} // namespace
+
+WizardPage::WizardPage(const char* name, const QString& title, const WizardState& wizard, QWidget* parent)
+    : Form(name, title, parent)
+    , m_wizard(wizard)
+{
+    cmdBack->setText(tr("&Back"));
+    cmdNext->setText(tr("&Next"));
+    cmdNext->setDefault(true);
+    cmdCancel->setText(tr("&Cancel"));
+
+    On(cmdBack, &QPushButton::clicked, [this] { Leave(-1); });
+    On(cmdNext, &QPushButton::clicked, [this] {
+        if (StoreAnswers())
+            Leave(1);
+    });
+    On(cmdCancel, &QPushButton::clicked, [this] { m_wizard.WizardCancelled = true; });
+    SetCancelButton(cmdCancel);
+}
+
+void WizardPage::SetContent(QLayout* content)
+{
+    constexpr int CancelGap = 12;
+    setLayout(column({
+        content,
+        stretch(),
+        Rule(),
+        row({stretch(), cmdBack, cmdNext, gap(CancelGap), cmdCancel}),
+    }));
+    const int line = fontMetrics().lineSpacing();
+    resize(QSize(PageWidth * line, PageHeight * line).expandedTo(sizeHint()));
+
+    const QList<QWidget*> controls = Controls();
+    for (QWidget* control : controls.sliced(3))
+        PutInTabOrderBefore(cmdBack, control);
+}
+
+bool WizardPage::StoreAnswers()
+{
+    return true;
+}
+
+void WizardPage::Leave(int step)
+{
+    m_wizard.WizardPage = qint16(m_wizard.WizardPage + step);
+    accept();
+}
+
+WelcomePage::WelcomePage(
+    const char* name, const QString& title, const QString& message, const WizardState& wizard, QWidget* parent)
+    : WizardPage(name, title, wizard, parent)
+{
+    lblWelcomeMessage->setText(message);
+    lblWelcomeMessage->setWordWrap(true);
+    chkDisplayNext->setText(tr("Display this welcome screen at startup."));
+    chkDisplayNext->setChecked(wizard.ShowWelcome);
+    cmdBack->setEnabled(false);
+
+    SetContent(column({
+        heading(tr("Welcome to the %1").arg(title)),
+        lblWelcomeMessage,
+        new QLabel(tr("To continue, click Next.")),
+        stretch(),
+        chkDisplayNext,
+    }));
+    cmdNext->setFocus();
+}
+
+bool WelcomePage::StoreAnswers()
+{
+    if (!chkDisplayNext->isChecked())
+        State().ShowWelcome = false;
+    return true;
+}
+
+FinishPage::FinishPage(const char* name, const QString& message, const WizardState& wizard, QWidget* parent)
+    : WizardPage(name, tr("Finished"), wizard, parent)
+{
+    lblMessage->setText(message);
+    lblMessage->setWordWrap(true);
+    cmdNext->setText(tr("&Finish"));
+    SetContent(column({lblMessage}));
+    cmdNext->setFocus();
+}
