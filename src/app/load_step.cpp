@@ -10,6 +10,7 @@
 #include "platform/numbers.h"
 #include "platform/regional.h"
 #include "platform/settings_store.h"
+#include "records/wizard_state.h"
 
 namespace {
 
@@ -74,6 +75,7 @@ bool LoadStep(MainWindow& window, Connection& connection)
     Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });
     SetUpMainGrids(window);
     window.picReports->ShowWeekdays(WeekdayNames());
+    ShowAllWelcomePages();
     Ignoring([&] { window.picReports->cboGraphStyle->SetListIndex(0); });
     Ignoring([&] { window.picReports->cboGraphType->SetListIndex(0); });
     window.picBack->PlaceHiddenPanels();

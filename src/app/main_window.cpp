@@ -4,6 +4,7 @@
 #include "app/main_grids.h"
 #include "app/menu_table.h"
 #include "app/toolbar.h"
+#include "config/configuration_wizard.h"
 #include "config/tax_rates.h"
 #include "inventory/multiple_pricing.h"
 #include "invoicing/current_invoice.h"
@@ -207,6 +208,12 @@ void MainWindow::ConfigureTaxRates()
     picNewInvoice->ShowSecondaryTax();
 }
 
+void MainWindow::ConfigureBusiness()
+{
+    if (RunConfigurationWizard(this))
+        picNewInvoice->ShowSecondaryTax();
+}
+
 void MainWindow::FirstRun()
 {
     const Answer tutorial =
@@ -217,10 +224,10 @@ void MainWindow::FirstRun()
     if (tutorial == Answer::Yes) {
         constexpr int TutorialTopic = 3;
         OpenHelp(HelpCommand::Context, TutorialTopic);
-        Run(QStringLiteral("mnuConfigureWizard"));
+        ConfigureBusiness();
     } else if (MsgBox(tr("Would you like to run the 'Configuration Wizard' now?"), Icon::Question, Buttons::YesNoCancel)
         == Answer::Yes) {
-        Run(QStringLiteral("mnuConfigureWizard"));
+        ConfigureBusiness();
     }
 }
 

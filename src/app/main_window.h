@@ -53,6 +53,7 @@ public:
     void ViewVendors();
     void ConfigurePriceLists();
     void ConfigureTaxRates();
+    void ConfigureBusiness();
     /// The prompts of the first start: the tutorial, the configuration wizard.
     void FirstRun();
 

@@ -7,6 +7,7 @@
 #include "app/tip.h"
 #include "config/categories.h"
 #include "config/locations.h"
+#include "exchange/mailing_list_wizard.h"
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
 #include "invoicing/set_next_invoice_no.h"
@@ -119,7 +120,8 @@ const QList<MenuRow>& MenuTable()
         Entry("mnuCustomerAdd", "&Add Customer...", [](Window& window) { window.picCustomers->AddCustomer(); }),
         Entry("mnuCustomerFind", "&Find Customer...", ShowForm<frmFindCustomer>),
         Separator(),
-        Entry("mnuCustMailingList", "Email Mailing List &Wizard...", nullptr),
+        Entry("mnuCustMailingList", "Email Mailing List &Wizard...",
+            [](Window& window) { RunMailingListWizard(&window); }),
 
         Menu("mnuReportS", "&Reports"),
         Entry("mnuReportQuick", "&Quick Statistics", [](Window& window) { window.ShowMainPanel(ReportsViewPanel); }),
@@ -136,7 +138,7 @@ const QList<MenuRow>& MenuTable()
         Entry("mnuVendorAdd", "&Add Vendor...", [](Window& window) { window.picVendors->AddVendor(); }),
 
         Menu("mnuConfigure", "Confi&gure"),
-        Entry("mnuConfigureWizard", "&Configuration Wizard...", nullptr),
+        Entry("mnuConfigureWizard", "&Configuration Wizard...", [](Window& window) { window.ConfigureBusiness(); }),
         SwitchedOff("mnuConfigureTerminology", "&Regional Settings...", nullptr),
         Separator(),
         Entry("mnuInvTaxRates", "&Tax Rates...", [](Window& window) { window.ConfigureTaxRates(); }),

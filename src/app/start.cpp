@@ -66,8 +66,8 @@ bool Program::LoadMainWindow()
 void Program::RunFirstRunPrompts()
 {
     const QString key = QStringLiteral("FirstRun");
-    const bool firstRun = CBool(GetConfig(key, QStringLiteral("True")));
-    SaveConfig(key, QStringLiteral("False"));
+    const bool firstRun = CBool(GetConfig(key, TruthText(true)));
+    SaveConfig(key, TruthText(false));
     if (firstRun)
         m_window->FirstRun();
 }

@@ -5,13 +5,6 @@
 #include "platform/numbers.h"
 #include "platform/settings_store.h"
 
-namespace {
-QString TruthText(const QCheckBox* box)
-{
-    return box->isChecked() ? QStringLiteral("True") : QStringLiteral("False");
-}
-} // namespace
-
 frmConfigInvoice::frmConfigInvoice(QWidget* parent)
     : Form("frmConfigInvoice", tr("Invoice Style"), parent)
 {
@@ -40,8 +33,8 @@ frmConfigInvoice::frmConfigInvoice(QWidget* parent)
 
 void frmConfigInvoice::Save()
 {
-    SaveConfig("HideTaxOnInvoice", TruthText(chkHideTaxOnInvoice));
-    SaveConfig("HideOurPriceOnInvoice", TruthText(chkHideOurPrice));
+    SaveConfig("HideTaxOnInvoice", TruthText(chkHideTaxOnInvoice->isChecked()));
+    SaveConfig("HideOurPriceOnInvoice", TruthText(chkHideOurPrice->isChecked()));
     if (!IsNumeric(txtFontSize->text()))
         txtFontSize->setText(DefaultInvoiceFontSize);
     SaveConfig("InvoiceFontSize", txtFontSize->text());

@@ -12,7 +12,7 @@ namespace {
 bool StoredFlag(const QString& key)
 {
     bool flag = false;
-    Ignoring([&] { flag = CBool(GetConfig(key, QStringLiteral("False"))); });
+    Ignoring([&] { flag = CBool(GetConfig(key, TruthText(false))); });
     return flag;
 }
 

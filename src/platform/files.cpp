@@ -72,3 +72,26 @@ QString TrimAtNull(const QString& text)
 {
     return text.left(text.indexOf(QChar::Null));
 }
+
+void DeleteFile(const QString& path)
+{
+    if (const QFileInfo info(path); info.isFile() || info.isSymLink())
+        QFile::remove(path);
+}
+
+bool WriteWholeFile(const QString& path, const QByteArray& bytes)
+{
+    // A pipe would keep the writer waiting for ever.
+    if (const QFileInfo info(path); info.exists() && !info.isFile())
+        return false;
+    QFile file(path);
+    if (!file.open(QFile::WriteOnly))
+        return false;
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    file.close();
+    if (!written || file.error() != QFile::NoError) {
+        DeleteFile(path);
+        return false;
+    }
+    return true;
+}

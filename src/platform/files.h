@@ -19,3 +19,8 @@ QString MakeUniqueFileName(const QString& folder, const QString& extension);
 QString MakeTempFile(const QString& folder, const QString& prefix);
 /// The text before the first NUL, or all of it.
 QString TrimAtNull(const QString& text);
+/// Deletes the file, if there is one. Folders and devices stay, and a failure is not told.
+void DeleteFile(const QString& path);
+/// Writes a file of these bytes, in place of one of this name. False when it could not be written whole; what was begun
+/// is gone then.
+bool WriteWholeFile(const QString& path, const QByteArray& bytes);

@@ -154,7 +154,15 @@ QWidget* group(const QString& title, QLayout* content)
 
 QLabel* instructions(const QString& text)
 {
-    QLabel* label = PlainLabel(text);
+    auto* label = new QLabel;
+    MakeInstructions(label, text);
+    return label;
+}
+
+void MakeInstructions(QLabel* label, const QString& text)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
     label->setWordWrap(true);
     label->setFrameStyle(QFrame::StyledPanel);
     label->setMargin(6);
@@ -163,7 +171,6 @@ QLabel* instructions(const QString& text)
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     label->setSizePolicy(policy);
-    return label;
 }
 
 QLabel* heading(const QString& text)

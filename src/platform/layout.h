@@ -47,6 +47,8 @@ QWidget* group(const QString& title, QLayout* content);
 
 /// The instruction line of a form or panel: wraps, and takes the full width.
 QLabel* instructions(const QString& text);
+/// Makes a label that has a name of its own such a line.
+void MakeInstructions(QLabel* label, const QString& text);
 /// A heading over a section.
 QLabel* heading(const QString& text);
 

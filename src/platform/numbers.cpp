@@ -128,6 +128,11 @@ bool CBool(QStringView text)
     return CDbl(text) != 0;
 }
 
+QString TruthText(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
 double Val(QStringView text)
 {
     const QByteArray packed = Packed(text);

@@ -17,6 +17,8 @@ Currency CCur(QStringView text);
 qint32 CLng(QStringView text);
 /// "True", "False", or a number. Throws TypeMismatch.
 bool CBool(QStringView text);
+/// "True" or "False", as truth values are stored as text.
+QString TruthText(bool value);
 
 /// Half to even. Throws Overflow beyond 32 bits.
 qint32 CLng(double value);

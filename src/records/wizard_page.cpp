@@ -41,12 +41,13 @@ WizardPage::WizardPage(const char* name, const QString& title, const WizardState
 void WizardPage::SetContent(QLayout* content)
 {
     constexpr int CancelGap = 12;
-    setLayout(column({
+    QVBoxLayout* page = column({
         content,
-        stretch(),
         Rule(),
         row({stretch(), cmdBack, cmdNext, gap(CancelGap), cmdCancel}),
-    }));
+    });
+    page->setStretch(0, 1);
+    setLayout(page);
     const int line = fontMetrics().lineSpacing();
     resize(QSize(PageWidth * line, PageHeight * line).expandedTo(sizeHint()));
 
@@ -93,12 +94,22 @@ bool WelcomePage::StoreAnswers()
     return true;
 }
 
-FinishPage::FinishPage(const char* name, const QString& message, const WizardState& wizard, QWidget* parent)
-    : WizardPage(name, tr("Finished"), wizard, parent)
+MessagePage::MessagePage(
+    const char* name, const QString& title, const QString& message, const WizardState& wizard, QWidget* parent)
+    : WizardPage(name, title, wizard, parent)
 {
-    lblMessage->setText(message);
-    lblMessage->setWordWrap(true);
+    MakeInstructions(lblMessage, message);
+}
+
+void MessagePage::SetContent(QLayout* content)
+{
+    WizardPage::SetContent(column({lblMessage, content}));
+}
+
+FinishPage::FinishPage(const char* name, const QString& message, const WizardState& wizard, QWidget* parent)
+    : MessagePage(name, tr("Finished"), message, wizard, parent)
+{
     cmdNext->setText(tr("&Finish"));
-    SetContent(column({lblMessage}));
+    SetContent(column({stretch()}));
     cmdNext->setFocus();
 }

@@ -17,9 +17,9 @@ public:
 protected:
     WizardPage(const char* name, const QString& title, const WizardState& wizard, QWidget* parent);
 
-    /// Lays the page out. The page's own controls come before the buttons in tab order; a page without any starts on
-    /// Next.
-    void SetContent(QLayout* content);
+    /// Lays the page out: the content, which takes all the height, above the buttons. The page's own controls come
+    /// before the buttons in tab order.
+    virtual void SetContent(QLayout* content);
 
     /// Stores the page's answers on Next. False, after a message, keeps the page open.
     virtual bool StoreAnswers();
@@ -46,12 +46,22 @@ protected:
     bool StoreAnswers() override;
 };
 
-/// The last page of a wizard: a message above Finish.
-class FinishPage : public WizardPage {
+/// A page that says above its content what it asks for.
+class MessagePage : public WizardPage {
     Q_OBJECT
 public:
     CONTROL(QLabel, lblMessage);
 
+protected:
+    MessagePage(
+        const char* name, const QString& title, const QString& message, const WizardState& wizard, QWidget* parent);
+
+    void SetContent(QLayout* content) override;
+};
+
+/// The last page of a wizard, with Finish in place of Next.
+class FinishPage : public MessagePage {
+    Q_OBJECT
 protected:
     FinishPage(const char* name, const QString& message, const WizardState& wizard, QWidget* parent);
 };

@@ -3,6 +3,7 @@
 #include "app/splash.h"
 #include "app/start.h"
 #include "app/tip.h"
+#include "config/configuration_pages.h"
 #include "config/secondary_tax.h"
 #include "invoicing/current_invoice.h"
 #include "platform/files.h"
@@ -84,6 +85,17 @@ TEST_F(StartTest, YesToTheTutorialOpensItAndAsksNoMore)
     ScriptedAnswers answers;
     answers.Expect(Tutorial, Answer::Yes);
     answers.ExpectHelp(HelpCommand::Context, 3);
+    WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
+    EXPECT_TRUE(Start());
+}
+
+TEST_F(StartTest, YesToTheSecondQuestionStartsTheConfigurationWizard)
+{
+    SaveOption("Show Tips at Startup", "0");
+    ScriptedAnswers answers;
+    answers.Expect(Tutorial, Answer::No);
+    answers.Expect(Wizard, Answer::Yes);
+    WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
     EXPECT_TRUE(Start());
 }
 

@@ -2,6 +2,7 @@
 #include "people.h"
 #include "road.h"
 #include "stockroom.h"
+#include "wizards.h"
 
 #include "app/image_lists.h"
 #include "app/start.h"
@@ -57,7 +58,7 @@ void PrepareShop(const QString& folder)
     SaveConfig(QStringLiteral("DBPath"), folder + QLatin1Char('/'));
 }
 
-void Walk(const QString& pictureFolder)
+void Walk(const QString& folder, const QString& pictureFolder)
 {
     Album album(pictureFolder);
     Program program;
@@ -67,6 +68,7 @@ void Walk(const QString& pictureFolder)
     KeepTheStock(program, album, barCode);
     ConfigureKeyTables(program, album);
     KeepPeople(program, album);
+    RunTheWizards(program, album, folder);
     WriteAnInvoice(program, album, barCode);
     FindTheInvoice(program, album);
     program.Window()->close();
@@ -99,7 +101,7 @@ int main(int argc, char* argv[])
         SetProgramFolder(QString::fromLocal8Bit(argv[1]));
         PrepareShop(folder.path());
         StartWatchingForms();
-        Walk(QString::fromLocal8Bit(argv[2]));
+        Walk(folder.path(), QString::fromLocal8Bit(argv[2]));
         CheckAwaitedForms();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tour: %s\n", error.what());

@@ -1,0 +1,22 @@
+#include "exchange/mailing_list.h"
+
+#include "db/connection.h"
+#include "platform/files.h"
+
+#include <QStringList>
+
+QString MailingList()
+{
+    QStringList addresses;
+    for (Recordset customer =
+             gConnection->Execute("SELECT email FROM customer WHERE email<>'' AND email IS NOT NULL ORDER BY email;");
+         !customer.Eof(); customer.MoveNext())
+        addresses.append(NullToText(customer[0]));
+    return addresses.join(QStringLiteral(", "));
+}
+
+bool WriteMailingList(const QString& fileName)
+{
+    DeleteFile(fileName);
+    return WriteWholeFile(fileName, MailingList().toLocal8Bit());
+}

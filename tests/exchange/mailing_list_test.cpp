@@ -1,0 +1,172 @@
+#include "exchange/mailing_list.h"
+#include "exchange/mailing_list_wizard.h"
+#include "support/form_test.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+
+namespace {
+
+class MailingListTest : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        ShowAllWelcomePages();
+        MailingListWizard::MailListFileName.clear();
+        Run("DELETE FROM customer");
+        ASSERT_TRUE(Write("old list"));
+    }
+
+    QString File() const { return Folder() + "/list.txt"; }
+    bool Write(const QByteArray& text) const
+    {
+        QFile file(File());
+        return file.open(QFile::WriteOnly) && file.write(text) == text.size();
+    }
+    QByteArray Text() const
+    {
+        QFile file(File());
+        return file.open(QFile::ReadOnly) ? file.readAll() : "no file";
+    }
+
+    template <typename Page>
+    static void At(std::function<void(Page&)> visit = {})
+    {
+        WhenFormShows<Page>([visit](Page& page) {
+            if (visit)
+                visit(page);
+            Click(page.cmdNext);
+        });
+    }
+    void RunTo(const QString& file)
+    {
+        At<frmWizMailList_Welcome>();
+        At<frmWizMailList_File>([file](frmWizMailList_File& page) { Type(page.txtName, file); });
+        At<frmWizMailList_Complete>();
+        RunMailingListWizard(nullptr);
+    }
+
+    ScriptedAnswers answers;
+};
+
+/// The file size that the process may not pass.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+TEST_F(MailingListTest, ListsTheAddressesInOrderEachAsOftenAsItIsStored)
+{
+    for (const char* email : {"zoe@shop.example", "bob@shop.example", "Ann@shop.example", "", "bob@shop.example",
+             "Côté, Léa <lea@shop.example>", "two\r\nlines@shop.example"})
+        Customer("A", "B").Email(email).Add();
+    Customer("No", "Address").Add();
+    RunTo(File());
+    EXPECT_EQ(Text(),
+        "Ann@shop.example, bob@shop.example, bob@shop.example, Côté, Léa <lea@shop.example>, "
+        "two\r\nlines@shop.example, zoe@shop.example");
+}
+
+TEST_F(MailingListTest, WithoutAddressesTheFileIsEmpty)
+{
+    Customer("Ann", "Lee").Add();
+    RunTo(File());
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
+{
+    At<frmWizMailList_Welcome>([](frmWizMailList_Welcome& page) {
+        CheckForm(page);
+        EXPECT_EQ(page.windowTitle(), "Email Mailing List Wizard");
+        EXPECT_EQ(page.lblWelcomeMessage->text(), "Using this wizard you can create a mailing list of your customers.");
+        Click(page.chkDisplayNext);
+    });
+    At<frmWizMailList_File>([&](frmWizMailList_File& page) {
+        CheckForm(page);
+        EXPECT_EQ(page.windowTitle(), "Enter the Mailing List filename");
+        EXPECT_EQ(page.lblMessage->text(), "Enter the filename you would like to populate with your email list.");
+        EXPECT_EQ(page.txtName->accessibleName(), "Mailing List Filename");
+        answers.ExpectMessage(
+            "No mailing list filename has been entered. Please enter a filename to continue.", Icon::Critical);
+        Click(page.cmdNext);
+        EXPECT_TRUE(page.isVisible());
+        answers.ExpectSaveFile(File());
+        Click(page.cmdBrowse);
+        answers.ExpectSaveFile("");
+        Click(page.cmdBrowse);
+    });
+    WhenFormShows<frmWizMailList_Complete>([](frmWizMailList_Complete& page) {
+        CheckForm(page);
+        EXPECT_EQ(page.windowTitle(), "Finished");
+        EXPECT_EQ(page.lblMessage->text(), "Click Finish to complete your configuration.");
+        Click(page.cmdCancel);
+    });
+    RunMailingListWizard(nullptr);
+    EXPECT_EQ(Text(), "old list");
+
+    WhenFormShows<frmWizMailList_File>([&](frmWizMailList_File& page) {
+        EXPECT_EQ(page.txtName->text(), File());
+        Press(page.txtName, Qt::Key_Escape);
+    });
+    RunMailingListWizard(nullptr);
+}
+
+namespace {
+
+/// A target that cannot be written, and what stands there afterwards.
+struct BadTarget {
+    const char* path; ///< below the test's folder
+    void (*make)(const QString& path);
+    bool stays;
+};
+void PrintTo(const BadTarget& target, std::ostream* out)
+{
+    *out << target.path;
+}
+
+class BadTargetTest : public MailingListTest, public ::testing::WithParamInterface<BadTarget> { };
+
+} // namespace
+
+TEST_P(BadTargetTest, IsToldAndNothingElseIsTouched)
+{
+    const QString path = Folder() + "/" + GetParam().path;
+    GetParam().make(path);
+    answers.ExpectMessage("Unable to write to file " + path + ".", Icon::Critical);
+    RunTo(path);
+    EXPECT_EQ(QFileInfo::exists(path), GetParam().stays);
+    EXPECT_EQ(Text(), "old list");
+}
+
+INSTANTIATE_TEST_SUITE_P(Targets, BadTargetTest,
+    ::testing::Values(BadTarget{"no folder/list.txt", [](const QString&) {}, false},
+        BadTarget{"folder.txt", [](const QString& path) { QDir().mkpath(path); }, true},
+        BadTarget{"pipe.txt", [](const QString& path) { mkfifo(qPrintable(path), 0600); }, true}));
+
+TEST_F(MailingListTest, AWriteThatFailsHalfWayLeavesNeitherTheOldFileNorHalfANewOne)
+{
+    Customer("A", "B").Email(QString(5000, u'a') + "@shop.example").Add();
+    answers.ExpectMessage("Unable to write to file " + File() + ".", Icon::Critical);
+    const FileSizeLimit limit(1000);
+    RunTo(File());
+    EXPECT_EQ(Text(), "no file");
+}

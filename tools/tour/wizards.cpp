@@ -1,0 +1,82 @@
+#include "wizards.h"
+
+#include "steps.h"
+
+#include "app/start.h"
+#include "support/screen.h"
+
+#include <QCheckBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+
+namespace {
+
+/// At the next page of this name lets `fill` enter what it asks, takes a picture and clicks Next.
+void Turn(
+    Album& album, const char* page, const char* picture, std::function<void(QDialog&)> fill = [](QDialog&) {})
+{
+    At(page, [&album, picture, fill](QDialog& form) {
+        fill(form);
+        album.Take(picture);
+        Click(Find<QPushButton>(&form, "cmdNext"));
+    });
+}
+
+QString PaintLogo(const QString& folder)
+{
+    constexpr QSize Size(220, 90);
+    QImage logo(Size, QImage::Format_RGB32);
+    logo.fill(QColor(24, 78, 119));
+    QPainter painter(&logo);
+    painter.setPen(Qt::white);
+    painter.drawText(logo.rect(), Qt::AlignCenter, QStringLiteral("Harbour Supplies"));
+    painter.end();
+    QString file = folder + QStringLiteral("/logo.bmp");
+    logo.save(file);
+    return file;
+}
+
+void Configure(MainWindow& window, Album& album, const QString& logo)
+{
+    At("QFileDialog", [logo](QDialog& dialog) {
+        Type(dialog.findChild<QLineEdit*>(), logo);
+        Press(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    Turn(album, "frmWizConfig_Welcome", "configuration-welcome");
+    Turn(album, "frmWizConfig_Business", "configuration-business", [](QDialog& page) {
+        Type(Find<QWidget>(&page, "txtBusinessName"), QStringLiteral("O'Hara's Harbour Supplies"));
+        Type(Find<QWidget>(&page, "txtFax"), QStringLiteral("(555) 240-0178"));
+    });
+    Turn(album, "frmWizConfig_Logo", "configuration-logo",
+        [](QDialog& page) { Click(Find<QPushButton>(&page, "cmdBrowse")); });
+    Turn(album, "frmWizConfig_Tax", "configuration-tax", [](QDialog& page) {
+        auto* secondTax = Find<QCheckBox>(&page, "chkEnableTax2");
+        if (!secondTax->isChecked())
+            Click(secondTax);
+    });
+    Turn(album, "frmWizConfig_Barcode", "configuration-bar-codes");
+    Turn(album, "frmWizConfig_PickingList", "configuration-picking-lists");
+    Turn(album, "frmWizConfig_Cats", "configuration-categories");
+    Turn(album, "frmWizConfig_Complete", "configuration-finish");
+    ChooseFromMenu(window, "mnuConfigure", "mnuConfigureWizard", album, "configure-menu-wizard");
+}
+
+void ListAddresses(MainWindow& window, Album& album, const QString& file)
+{
+    Turn(album, "frmWizMailList_Welcome", "mailing-list-welcome");
+    Turn(album, "frmWizMailList_File", "mailing-list-file",
+        [file](QDialog& page) { Type(Find<QWidget>(&page, "txtName"), file); });
+    Turn(album, "frmWizMailList_Complete", "mailing-list-finish");
+    ChooseFromMenu(window, "mnuCustomers", "mnuCustMailingList", album, "customers-menu-mailing-list");
+}
+
+} // namespace
+
+void RunTheWizards(Program& program, Album& album, const QString& folder)
+{
+    MainWindow& window = *program.Window();
+    Configure(window, album, PaintLogo(folder));
+    ListAddresses(window, album, folder + QStringLiteral("/mailing list.txt"));
+}
