@@ -48,11 +48,16 @@ frmWizConfig_Business::frmWizConfig_Business(ConfigurationWizard& wizard, QWidge
       }
 {
     SetContent(column({
-        fieldColumns({
-            {{tr("Business Name:"), txtBusinessName}, {tr("Address:"), txtAddress1}, {tr("Address:"), txtAddress2},
-                {tr("City:"), txtCity}, {tr("State:"), txtState}},
-            {{tr("Country:"), txtCountry}, {tr("Zip/Post Code:"), txtPostcode}, {tr("Phone:"), txtPhone},
-                {tr("Fax:"), txtFax}},
+        fields({
+            {tr("Business Name:"), txtBusinessName},
+            {tr("Address:"), txtAddress1},
+            {tr("Address:"), txtAddress2},
+            {tr("City:"), txtCity},
+            {tr("State:"), txtState},
+            {tr("Country:"), txtCountry},
+            {tr("Zip/Post Code:"), txtPostcode},
+            {tr("Phone:"), txtPhone},
+            {tr("Fax:"), txtFax},
         }),
         stretch(),
     }));

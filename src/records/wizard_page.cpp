@@ -7,8 +7,8 @@
 namespace {
 
 /// One size for all pages, in lines of text, so that the buttons stay in place from page to page.
-constexpr int PageWidth = 32;
-constexpr int PageHeight = 24;
+constexpr int PageWidth = 36;
+constexpr int PageHeight = 29;
 
 QFrame* Rule()
 {

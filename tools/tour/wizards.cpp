@@ -3,6 +3,7 @@
 #include "steps.h"
 
 #include "app/start.h"
+#include "platform/files.h"
 #include "support/screen.h"
 
 #include <QCheckBox>
@@ -77,6 +78,10 @@ void ListAddresses(MainWindow& window, Album& album, const QString& file)
 void RunTheWizards(Program& program, Album& album, const QString& folder)
 {
     MainWindow& window = *program.Window();
+    // The program keeps its copy of the logo in its own folder, where nothing of the tour is to stay.
+    const QString programFolder = ProgramFolder();
+    SetProgramFolder(folder);
     Configure(window, album, PaintLogo(folder));
+    SetProgramFolder(programFolder);
     ListAddresses(window, album, folder + QStringLiteral("/mailing list.txt"));
 }
