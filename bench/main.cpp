@@ -8,7 +8,8 @@
 #include <cstdio>
 #include <cstring>
 
-/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out] FOLDER
+/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out | --statistics]
+/// FOLDER
 /// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
 /// subject, or all. Adds lines to that file. Exit status 1: something was above its limit.
 
@@ -24,6 +25,7 @@ constexpr Subject Subjects[] = {
     {"--scans", MeasureScans},
     {"--reports", MeasureReports},
     {"--fan-out", MeasureFanOut},
+    {"--statistics", MeasureStatistics},
 };
 
 bool IsAsked(const char* task, const char* subject)
@@ -39,8 +41,8 @@ int main(int argc, char* argv[])
     sinceStart.start();
     if (argc != 2 && argc != 3) {
         std::fputs(
-            "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out] "
-            "FOLDER\n",
+            "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out | "
+            "--statistics] FOLDER\n",
             stderr);
         return 2;
     }

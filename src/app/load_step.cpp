@@ -35,17 +35,6 @@ void FillFixedLists(MainWindow& window)
         window.picArrivals->cboInvoiceFilter->AddItem(QObject::tr(filter), 0);
 }
 
-/// Selects the first entry and runs what choosing it runs, here, where a failing statement of it is skipped.
-template <typename Handler>
-void SelectFirst(ComboBox* combo, Handler handler)
-{
-    Ignoring([&] {
-        const QSignalBlocker quiet(combo);
-        combo->SetListIndex(0);
-    });
-    Ignoring(handler);
-}
-
 /// Terms that a store of long ago may hold. Nothing uses them any more but the last.
 void ReadTerms(MainWindow& window)
 {
@@ -74,14 +63,13 @@ bool LoadStep(MainWindow& window, Connection& connection)
     window.picNewInvoice->ShowSecondaryTax();
     Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });
     SetUpMainGrids(window);
-    window.picReports->ShowWeekdays(WeekdayNames());
+    window.picReports->Frame2->ShowWeekdays(WeekdayNames());
     ShowAllWelcomePages();
-    Ignoring([&] { window.picReports->cboGraphStyle->SetListIndex(0); });
-    Ignoring([&] { window.picReports->cboGraphType->SetListIndex(0); });
+    window.picReports->SelectFirstGraph();
     window.picBack->PlaceHiddenPanels();
     ReadTerms(window);
-    SelectFirst(window.picArrivals->cboInvoiceFilter, [&] { window.picArrivals->RefreshInvoiceList(1, 0); });
-    SelectFirst(window.picInventory->cboInvoicePriceList,
+    SelectIgnoring(window.picArrivals->cboInvoiceFilter, 0, [&] { window.picArrivals->RefreshInvoiceList(1, 0); });
+    SelectIgnoring(window.picInventory->cboInvoicePriceList, 0,
         [&] { window.picInventory->RefreshInventoryList(window.picInventory->gInventory->Row(), 0); });
     window.ShowMainPanel(InvoiceHistoryPanel);
     Ignoring([&] { window.picArrivals->RefreshInvoiceList(1, 0); });

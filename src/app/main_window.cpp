@@ -196,6 +196,12 @@ void MainWindow::ViewVendors()
     picVendors->RefreshVendorList(1, 0);
 }
 
+void MainWindow::ViewReports()
+{
+    ShowMainPanel(ReportsViewPanel);
+    picReports->ShowReports();
+}
+
 void MainWindow::ConfigurePriceLists()
 {
     frmMultiplePricing(this).ShowModal();

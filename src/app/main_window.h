@@ -51,6 +51,8 @@ public:
     void AddItem();
     void ViewCustomers();
     void ViewVendors();
+    /// The statistics and graphs, taken anew.
+    void ViewReports();
     void ConfigurePriceLists();
     void ConfigureTaxRates();
     void ConfigureBusiness();

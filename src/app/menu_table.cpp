@@ -124,7 +124,7 @@ const QList<MenuRow>& MenuTable()
             [](Window& window) { RunMailingListWizard(&window); }),
 
         Menu("mnuReportS", "&Reports"),
-        Entry("mnuReportQuick", "&Quick Statistics", [](Window& window) { window.ShowMainPanel(ReportsViewPanel); }),
+        Entry("mnuReportQuick", "&Quick Statistics", [](Window& window) { window.ViewReports(); }),
         Separator(),
         Entry("mnuReportReorder", "&Reorder Report", [](Window&) { ShowReorderReport(); }),
         Entry("mnuReportFilterReorder", "&Filtered Reorder Report...",

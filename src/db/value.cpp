@@ -114,7 +114,7 @@ QString Value::ToText() const
     case Kind::Money:
         return CStr(std::get<Currency>(m_value));
     case Kind::Boolean:
-        return TruthText(std::get<bool>(m_value));
+        return std::get<bool>(m_value) ? QStringLiteral("True") : QStringLiteral("False");
     case Kind::Date:
         return FormatDate(std::get<QDateTime>(m_value), QString());
     case Kind::Text:

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/guard.h"
+
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QSignalBlocker>
 
 /// A drop-down list. Each entry has a text and a whole number, its item data. Filling selects nothing and fires
 /// nothing; selecting, by the user or by `SetListIndex`, fires `Click`.
@@ -57,3 +60,15 @@ private:
 void SelectComboByText(ComboBox* combo, const QString& text);
 /// Selects the first entry whose item data equals `value` compared as numbers; with no match the selection stays.
 void SelectComboByData(ComboBox* combo, qint64 value);
+
+/// Selects an entry where failures are dropped: what choosing it does runs as `chosen` on its own, so that a failing
+/// statement there ends that and nothing more.
+template <typename Handler>
+void SelectIgnoring(ComboBox* combo, int index, Handler chosen)
+{
+    Ignoring([&] {
+        const QSignalBlocker quiet(combo);
+        combo->SetListIndex(index);
+    });
+    Ignoring(chosen);
+}

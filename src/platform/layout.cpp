@@ -152,6 +152,19 @@ QWidget* group(const QString& title, QLayout* content)
     return box;
 }
 
+QScrollArea* scrolling(QWidget* content)
+{
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    // What lies behind, such as the tint of a titled frame, shows through.
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    return area;
+}
+
 QLabel* instructions(const QString& text)
 {
     auto* label = new QLabel;

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
 #include <QString>
 
 #include <initializer_list>
@@ -44,6 +45,9 @@ QGridLayout* fieldColumns(std::initializer_list<std::initializer_list<FieldLine>
 
 /// A titled frame around a layout.
 QWidget* group(const QString& title, QLayout* content);
+
+/// Scrolls `content` when there is less room than it needs. Takes no focus of its own.
+QScrollArea* scrolling(QWidget* content);
 
 /// The instruction line of a form or panel: wraps, and takes the full width.
 QLabel* instructions(const QString& text);

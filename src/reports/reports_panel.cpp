@@ -1,10 +1,11 @@
 #include "reports/reports_panel.h"
 
+#include "db/connection.h"
+#include "platform/hourglass.h"
 #include "platform/layout.h"
+#include "reports/graph_rows.h"
 
-#include <QResizeEvent>
-
-#include <algorithm>
+#include <QTextDocument>
 
 namespace {
 
@@ -14,137 +15,168 @@ constexpr int GraphWidth = 7215;
 constexpr int ExpandLeft = 3910;
 constexpr int ExpandedMargin = 50;
 
-constexpr int Spacing = 6;
-constexpr int FirstWeekdayLabel = 52;
-constexpr int DaysAWeek = 7;
+constexpr int Spacing = 4;
 
-QLabel* NamedLabel(const QString& name, const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setObjectName(name);
-    return label;
-}
+// What the lists have room for, in characters; a longer item name shows in a tooltip.
+constexpr int GraphNameLength = 16;
+constexpr int StyleNameLength = 8;
+constexpr int ItemNameLength = 17;
 
-QLabel* BoldLabel(const QString& text)
-{
-    auto* label = new QLabel(text);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
-/// A figure, unknown until the statistics are taken.
-QLabel* Figure(const QString& name)
-{
-    QLabel* label = NamedLabel(name, QStringLiteral("-"));
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setWordWrap(true);
-    return label;
-}
+enum Graph { InvoicesThisMonthGraph, InvoicesPerMonthGraph, CompareItemSalesGraph };
 
 } // namespace
 
 ReportsPanel::ReportsPanel(QWidget* parent)
     : Panel("picReports", parent)
-    , Label1_2(NamedLabel(QStringLiteral("Label1_2"), QString()))
-    , Frame2(new QFrame)
-    , c(new QFrame)
-    , m_body(new QWidget)
-    , m_choices(new QWidget)
+    , Label1_2(new QFrame)
+    , Frame2(new StatisticsFrame)
+    , picCompareProducts(new QWidget)
+    , m_parts(new QHBoxLayout)
 {
     SetTitle(tr("Reports"));
     TopIcon()->show();
     TitleLabel()->show();
-    setLayout(column({row({TopIcon(), TitleLabel(), stretch()}), m_body}));
-    static_cast<QBoxLayout*>(layout())->setStretchFactor(m_body, 1);
-
-    Label1_2->setParent(m_body);
+    Label1_2->setObjectName(QStringLiteral("Label1_2"));
     Label1_2->setFrameShape(QFrame::StyledPanel);
+    Frame2->setFixedWidth(TwipsToPixels(GraphLeft) - 2 * Spacing);
+    m_parts->setSpacing(Spacing);
+    m_parts->addWidget(Frame2);
+    m_parts->addLayout(BuildGraph());
+    // The parts stand on the frame, so that told distances count from its outer edge.
+    auto* body = new QWidget;
+    auto* cell = new QGridLayout(body);
+    cell->setContentsMargins(0, 0, 0, 0);
+    cell->addWidget(Label1_2, 0, 0);
+    cell->addLayout(m_parts, 0, 0);
+    setLayout(column({row({TopIcon(), TitleLabel(), stretch()}), scrolling(body)}));
+    PlaceGraph();
 
-    Frame2->setParent(m_body);
-    Frame2->setObjectName(QStringLiteral("Frame2"));
-    Frame2->setLayout(column({BuildStatistics()}));
-    Frame2->layout()->setContentsMargins(0, 0, 0, 0);
+    On(cmdExpand, &QPushButton::clicked, [this] { ToggleExpand(); });
+    for (ComboBox* choice : {cboGraphType, cboGraphStyle})
+        On(choice, &ComboBox::Click, [this] { RefreshGraph(cboGraphType->ListIndex()); });
+    for (ComboBox* list : {cboReportFirstProduct, cboReportSecondProduct})
+        On(list, &ComboBox::Click, [this, list] { ProductChosen(list); });
+}
 
-    for (const char* name : {"Invoices this month", "Invoices per month", "Compare Item Sales!"})
-        cboGraphType->AddItem(tr(name), 0);
-    for (const char* name : {"3D Bar", "2D Bar", "3D Line", "2D Line", "3D Area", "2D Area", "3D Step", "2D Step"})
-        cboGraphStyle->AddItem(tr(name), 0);
+QLayout* ReportsPanel::BuildGraph()
+{
+    c->setAccessibleName(tr("Graph"));
+    BuildCompareProducts();
+    auto* graph = column({BuildChoices(), picCompareProducts, row({c, stretch(0)})});
+    static_cast<QBoxLayout*>(graph->itemAt(2)->layout())->setStretchFactor(c, 1);
+    graph->setStretch(2, 1);
+    return graph;
+}
+
+QLayout* ReportsPanel::BuildChoices()
+{
+    cmdExpand->setText(tr("<< Expand"));
+    for (const QString& graph : {tr("Invoices this month"), tr("Invoices per month"), tr("Compare Item Sales!")})
+        cboGraphType->AddItem(graph, 0);
+    for (const QString& style : {tr("3D Bar"), tr("2D Bar"), tr("3D Line"), tr("2D Line"), tr("3D Area"), tr("2D Area"),
+             tr("3D Step"), tr("2D Step")})
+        cboGraphStyle->AddItem(style, 0);
+    cboGraphType->setMinimumContentsLength(GraphNameLength);
+    cboGraphStyle->setMinimumContentsLength(StyleNameLength);
     auto* lblGraphType = new QLabel(tr("View Graph:"));
     auto* lblGraphStyle = new QLabel(tr("Graph Style:"));
     SetLabelOf(lblGraphType, cboGraphType);
     SetLabelOf(lblGraphStyle, cboGraphStyle);
-    m_choices->setParent(m_body);
-    m_choices->setLayout(row({lblGraphType, cboGraphType, gap(2 * Spacing), lblGraphStyle, cboGraphStyle, stretch()}));
-    m_choices->layout()->setContentsMargins(0, 0, 0, 0);
-
-    c->setParent(m_body);
-    c->setObjectName(QStringLiteral("c"));
-    c->setFrameShape(QFrame::StyledPanel);
-    c->setAutoFillBackground(true);
-    c->setBackgroundRole(QPalette::Base);
-
-    cmdExpand->setParent(m_body);
-    cmdExpand->setText(tr("<< Expand"));
-    On(cmdExpand, &QPushButton::clicked, [this] { ToggleExpand(); });
-
-    const int besideStatistics = std::max(
-        TwipsToPixels(GraphWidth), cmdExpand->sizeHint().width() + m_choices->sizeHint().width() + 4 * Spacing);
-    m_body->setMinimumSize(
-        TwipsToPixels(GraphLeft) + besideStatistics + Spacing, Frame2->minimumSizeHint().height() + 2 * Spacing);
+    return row({gap(TwipsToPixels(ExpandLeft - GraphLeft)), cmdExpand, gap(2 * Spacing), lblGraphType, cboGraphType,
+        gap(2 * Spacing), lblGraphStyle, cboGraphStyle, stretch()});
 }
 
-QWidget* ReportsPanel::BuildStatistics()
+void ReportsPanel::BuildCompareProducts()
 {
-    lblTotalResToday = Figure(QStringLiteral("lblTotalResToday"));
-    lblMostResDate = Figure(QStringLiteral("lblMostResDate"));
-    lblLeastResDate = Figure(QStringLiteral("lblLeastResDate"));
-    lblMostPopMonth = Figure(QStringLiteral("lblMostPopMonth"));
-    lblLeastPopMonth = Figure(QStringLiteral("lblLeastPopMonth"));
-    lblRecCust = Figure(QStringLiteral("lblRecCust"));
-    lblResThisMonth = Figure(QStringLiteral("lblResThisMonth"));
-    lblResThisMonthYTD = Figure(QStringLiteral("lblResThisMonthYTD"));
-    lblTotRes = Figure(QStringLiteral("lblTotRes"));
+    for (ComboBox* list : {cboReportFirstProduct, cboReportSecondProduct})
+        list->setMinimumContentsLength(ItemNameLength);
+    auto* lblFirstProduct = new QLabel(tr("Red Product:"));
+    auto* lblSecondProduct = new QLabel(tr("Green Product:"));
+    SetLabelOf(lblFirstProduct, cboReportFirstProduct);
+    SetLabelOf(lblSecondProduct, cboReportSecondProduct);
+    picCompareProducts->setObjectName(QStringLiteral("picCompareProducts"));
+    picCompareProducts->setLayout(row({gap(TwipsToPixels(ExpandLeft - GraphLeft)), lblFirstProduct,
+        cboReportFirstProduct, gap(2 * Spacing), lblSecondProduct, cboReportSecondProduct, stretch()}));
+    picCompareProducts->layout()->setContentsMargins(0, 0, 0, 0);
+    picCompareProducts->hide();
+}
 
-    auto* week = new QGridLayout;
-    const QStringList days{tr("Monday:"), tr("Tuesday:"), tr("Wednesday:"), tr("Thursday:"), tr("Friday:"),
-        tr("Saturday:"), tr("Sunday:")};
-    for (int day = 0; day < DaysAWeek; ++day) {
-        m_weekdays.append(NamedLabel(QStringLiteral("lblLabels_%1").arg(FirstWeekdayLabel + day), days.at(day)));
-        lblGuestDOW.append(Figure(QStringLiteral("lblGuestDOW_%1").arg(day)));
-        week->addWidget(m_weekdays.last(), day, 0);
-        week->addWidget(lblGuestDOW.last(), day, 1);
+void ReportsPanel::SelectFirstGraph()
+{
+    for (ComboBox* choice : {cboGraphStyle, cboGraphType})
+        SelectIgnoring(choice, 0, [this] { RefreshGraph(cboGraphType->ListIndex()); });
+}
+
+void ReportsPanel::ShowReports()
+{
+    Hourglass hourglass;
+    for (ComboBox* list : {cboReportFirstProduct, cboReportSecondProduct})
+        list->Clear();
+    Ignoring([this] { ListItems(); });
+    const int items = cboReportFirstProduct->ListCount();
+    if (items > 0)
+        SelectIgnoring(cboReportFirstProduct, 0, [this] { ProductChosen(cboReportFirstProduct); });
+    if (items > 0)
+        SelectIgnoring(cboReportSecondProduct, items > 1 ? 1 : 0, [this] { ProductChosen(cboReportSecondProduct); });
+    Frame2->Refresh();
+}
+
+void ReportsPanel::ListItems()
+{
+    QList<std::pair<QString, qint64>> items;
+    for (Recordset item = gConnection->Execute("SELECT id, name FROM item ORDER BY name"); !item.Eof();
+         item.MoveNext()) {
+        const std::string_view name = item.Text(1);
+        items.append({QString::fromUtf8(name.data(), qsizetype(name.size())), item.Long(0)});
     }
-    auto* picRepThisWeek = new QWidget;
-    picRepThisWeek->setObjectName(QStringLiteral("picRepThisWeek"));
-    picRepThisWeek->setLayout(week);
-    week->setContentsMargins(0, 0, 0, 0);
-
-    return group(tr("Statistics"),
-        column({
-            fields({
-                {tr("Total invoices today:"), lblTotalResToday},
-                {tr("Most invoices on:"), lblMostResDate},
-                {tr("Least invoices on:"), lblLeastResDate},
-                {tr("Most popular month:"), lblMostPopMonth},
-                {tr("Least popular month:"), lblLeastPopMonth},
-                {tr("Most repeating customer:"), lblRecCust},
-                {tr("Invoices this month:"), lblResThisMonth},
-                {tr("Invoices this month YTD:"), lblResThisMonthYTD},
-                {tr("Total invoices:"), lblTotRes},
-            }),
-            gap(Spacing),
-            BoldLabel(tr("Invoices this week")),
-            picRepThisWeek,
-            stretch(),
-        }));
+    cboReportFirstProduct->AddItems(items);
+    cboReportSecondProduct->AddItems(items);
 }
 
-void ReportsPanel::ShowWeekdays(const QStringList& names)
+void ReportsPanel::ProductChosen(ComboBox* list)
 {
-    for (int day = 0; day < DaysAWeek; ++day)
-        m_weekdays.at(day)->setText(names.at(day));
+    const QString name = list->Text();
+    list->setToolTip(Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name);
+    RefreshGraph(cboGraphType->ListIndex());
+}
+
+void ReportsPanel::RefreshGraph(int graphNumber)
+{
+    Hourglass hourglass;
+    switch (graphNumber) {
+    case InvoicesThisMonthGraph:
+        return Draw({tr("Invoices")}, InvoicesThisMonth());
+    case InvoicesPerMonthGraph:
+        return Draw({tr("Invoices")}, InvoicesPerMonth());
+    case CompareItemSalesGraph:
+        picCompareProducts->show();
+        if (cboReportFirstProduct->ListIndex() < 0 || cboReportSecondProduct->ListIndex() < 0)
+            return;
+        return Draw({cboReportFirstProduct->Text(), cboReportSecondProduct->Text()},
+            ItemSales(cboReportFirstProduct->SelectedData(), cboReportSecondProduct->SelectedData()));
+    default:
+        return;
+    }
+}
+
+void ReportsPanel::Draw(const QStringList& series, const QList<GraphRow>& rows)
+{
+    c->SetShowLegend(false);
+    c->SetChartType(ChartType(cboGraphStyle->ListIndex()));
+    c->SetColumnCount(int(series.size()));
+    c->SetRowCount(int(rows.size()));
+    for (int row = 1; row <= rows.size(); ++row) {
+        c->SetRow(row);
+        c->SetRowLabel(rows.at(row - 1).label);
+        for (int column = 1; column <= series.size(); ++column) {
+            c->SetColumn(column);
+            c->SetData(rows.at(row - 1).values.at(column - 1));
+        }
+    }
+    for (int column = 1; column <= series.size(); ++column) {
+        c->SetColumn(column);
+        c->SetColumnLabel(series.at(column - 1));
+    }
 }
 
 void ReportsPanel::ToggleExpand()
@@ -152,34 +184,16 @@ void ReportsPanel::ToggleExpand()
     m_expanded = !m_expanded;
     cmdExpand->setText(m_expanded ? tr("Shrink >>") : tr("<< Expand"));
     Frame2->setVisible(!m_expanded);
-    PlaceParts();
+    PlaceGraph();
     emit Expanded();
 }
 
-void ReportsPanel::resizeEvent(QResizeEvent* event)
+void ReportsPanel::PlaceGraph()
 {
-    Panel::resizeEvent(event);
-    PlaceParts();
-}
-
-void ReportsPanel::PlaceParts()
-{
-    // The body may stand out of sight and unlaid; its place is the panel's below the head.
-    layout()->activate();
-    const QRect frame = m_body->rect();
-    Label1_2->setGeometry(frame);
-
-    const int left = m_expanded ? frame.left() + TwipsToPixels(ExpandedMargin) : TwipsToPixels(GraphLeft);
-    const int width = m_expanded ? frame.width() - TwipsToPixels(2 * ExpandedMargin) : TwipsToPixels(GraphWidth);
-    const int buttonLeft = left + TwipsToPixels(ExpandLeft - GraphLeft);
-    const QSize button = cmdExpand->sizeHint();
-    const int lineHeight = std::max(button.height(), m_choices->sizeHint().height());
-    cmdExpand->setGeometry(buttonLeft, frame.top() + Spacing, button.width(), lineHeight);
-    const int choicesLeft = buttonLeft + button.width() + 2 * Spacing;
-    m_choices->setGeometry(choicesLeft, frame.top() + Spacing, frame.right() - choicesLeft - Spacing, lineHeight);
-
-    const int top = frame.top() + 2 * Spacing + lineHeight;
-    c->setGeometry(left, top, width, frame.bottom() - top - Spacing);
-    Frame2->setGeometry(frame.left() + Spacing, frame.top() + Spacing, TwipsToPixels(GraphLeft) - 2 * Spacing,
-        frame.height() - 2 * Spacing);
+    const int margin = m_expanded ? TwipsToPixels(ExpandedMargin) : Spacing;
+    m_parts->setContentsMargins(margin, Spacing, margin, Spacing);
+    c->setMinimumWidth(m_expanded ? 0 : TwipsToPixels(GraphWidth));
+    c->setMaximumWidth(m_expanded ? QWIDGETSIZE_MAX : TwipsToPixels(GraphWidth));
+    // The resize routine of the window finds everything in its place.
+    m_parts->activate();
 }

@@ -1,53 +1,55 @@
 #pragma once
 
+#include "chart/chart.h"
 #include "platform/combo_box.h"
 #include "platform/form.h"
+#include "reports/statistics_frame.h"
 
-#include <QFrame>
-#include <QLabel>
 #include <QPushButton>
 
-/// The Reports view: the statistics frame and, beside it, the graph.
+struct GraphRow;
+
+/// The Reports view: the statistics and, beside them, a graph.
 class ReportsPanel : public Panel {
     Q_OBJECT
 public:
     explicit ReportsPanel(QWidget* parent = nullptr);
 
-    /// Fills `lblLabels_52` to `lblLabels_58`, the day rows of the week.
-    void ShowWeekdays(const QStringList& names);
+    /// Lists the items anew and takes every figure; what fails keeps what it showed. Draws the graph through the
+    /// selection of the first items.
+    void ShowReports();
+    /// Draws the graph of that number: 0 the invoices of this month by day, 1 those of twelve months, 2 the sales of
+    /// the two chosen items, which also brings up their lists. Any other draws nothing. Throws RuntimeError when a
+    /// statement fails; the graph is what it was then.
+    void RefreshGraph(int graphNumber);
+    /// What the window starts with: the first style, the first graph.
+    void SelectFirstGraph();
 
+    CONTROL(QPushButton, cmdExpand);
     CONTROL(ComboBox, cboGraphType);
     CONTROL(ComboBox, cboGraphStyle);
-    CONTROL(QPushButton, cmdExpand);
+    CONTROL(ComboBox, cboReportFirstProduct);
+    CONTROL(ComboBox, cboReportSecondProduct);
+    CONTROL(Chart, c);
 
-    QLabel* Label1_2; ///< the frame around all of it
-    QFrame* Frame2; ///< the statistics
-    QFrame* c; ///< the graph
-    QLabel* lblTotalResToday;
-    QLabel* lblMostResDate;
-    QLabel* lblLeastResDate;
-    QLabel* lblMostPopMonth;
-    QLabel* lblLeastPopMonth;
-    QLabel* lblRecCust;
-    QLabel* lblResThisMonth;
-    QLabel* lblResThisMonthYTD;
-    QLabel* lblTotRes;
-    QList<QLabel*> lblGuestDOW; ///< Monday to Sunday
+    QFrame* Label1_2; ///< the frame around all of it
+    StatisticsFrame* Frame2;
+    QWidget* picCompareProducts; ///< out of sight until items are compared for the first time
 
 signals:
     /// The graph was expanded or shrunk: the window's resize routine is to run.
     void Expanded();
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    QWidget* BuildStatistics();
+    QLayout* BuildGraph();
+    QLayout* BuildChoices();
+    void BuildCompareProducts();
+    void ListItems();
+    void ProductChosen(ComboBox* list);
+    void Draw(const QStringList& series, const QList<GraphRow>& rows);
     void ToggleExpand();
-    void PlaceParts();
+    void PlaceGraph();
 
-    QWidget* m_body;
-    QWidget* m_choices;
-    QList<QLabel*> m_weekdays;
+    QHBoxLayout* m_parts; ///< the statistics and the graph
     bool m_expanded = false;
 };

@@ -1,5 +1,6 @@
 #include "road.h"
 
+#include "reports.h"
 #include "steps.h"
 
 #include "app/start.h"
@@ -176,8 +177,7 @@ void LookAround(Program& program, Album& album)
     Pick(window.picArrivals->cboInvoiceFilter, QStringLiteral("All Invoices"));
     ClickToolbar(window, "Customers");
     album.Take("customers");
-    ClickToolbar(window, "Reports");
-    album.Take("reports");
+    LookAtReports(program, album);
     ChooseFromMenu(window, "mnuVendors", "mnuVendorsView", album, "vendors-menu");
     album.Take("vendors");
 }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QLabel>
+
+/// The statistics: the figures about all invoices and, below them, the invoices of each day of this week.
+class StatisticsFrame : public QGroupBox {
+    Q_OBJECT
+public:
+    explicit StatisticsFrame(QWidget* parent = nullptr);
+
+    /// Names the day rows `lblLabels_52` to `lblLabels_58`.
+    void ShowWeekdays(const QStringList& names);
+    /// Takes every figure anew. One that cannot be had keeps its text.
+    void Refresh();
+
+    QLabel* lblTotalResToday;
+    QLabel* lblMostResDate;
+    QLabel* lblLeastResDate;
+    QLabel* lblMostPopMonth;
+    QLabel* lblLeastPopMonth;
+    QLabel* lblRecCust;
+    QLabel* lblResThisMonth;
+    QLabel* lblResThisMonthYTD;
+    QLabel* lblTotRes;
+    QList<QLabel*> lblGuestDOW; ///< Monday to Sunday
+
+private:
+    QLayout* BuildFigures();
+    QWidget* BuildWeek();
+    void AddLeftOvers();
+    void RefreshWeek();
+
+    QList<QLabel*> m_weekdays;
+};

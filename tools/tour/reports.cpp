@@ -1,0 +1,31 @@
+#include "reports.h"
+
+#include "steps.h"
+
+#include "app/start.h"
+#include "support/screen.h"
+
+void LookAtReports(Program& program, Album& album)
+{
+    MainWindow& window = *program.Window();
+    ClickToolbar(window, "Reports");
+    album.Take("reports");
+    ReportsPanel& reports = *window.picReports;
+    Pick(reports.cboGraphType, QStringLiteral("Compare Item Sales!"));
+    Pick(reports.cboReportSecondProduct, QStringLiteral("Black Tea Assam"));
+    album.Take("item-sales-compared");
+    Pick(reports.cboGraphStyle, QStringLiteral("2D Line"));
+    Click(reports.cmdExpand);
+    album.Take("graph-expanded");
+    Click(reports.cmdExpand);
+
+    const Qt::WindowStates states = window.windowState();
+    const QSize size = window.size();
+    window.showNormal();
+    window.resize(900, 500);
+    Pick(reports.cboGraphType, QStringLiteral("Invoices per month"));
+    Pick(reports.cboGraphStyle, QStringLiteral("3D Area"));
+    album.Take("reports-in-a-small-window");
+    window.resize(size);
+    window.setWindowState(states);
+}
