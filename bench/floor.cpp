@@ -1,6 +1,6 @@
 #include "floor.h"
 
-#include "db/dialect.h"
+#include "sql/dialect.h"
 
 #include <sqlite3.h>
 

@@ -3,8 +3,8 @@
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "invoicing/invoice_documents.h"
-#include "platform/preview_window.h"
-#include "platform/report_output.h"
+#include "paper/preview_window.h"
+#include "paper/report_output.h"
 #include "reports/stock_reports.h"
 
 #include "floor.h"
@@ -84,28 +84,29 @@ void MeasurePdf()
 
 int AddInvoiceOfTwentyLines()
 {
-    Batch batch(*gConnection);
-    AddRow customer(*gConnection, "customer");
-    customer.AddNew();
-    customer.Set("FirstName", QStringLiteral("Ann"));
-    customer.Update();
-    AddRow invoice(*gConnection, "invoice");
-    invoice.AddNew();
-    invoice.Set("CustomerID", customer.Id());
-    invoice.Set("InvoiceNo", QStringLiteral("99999"));
-    invoice.Update();
-    for (int i = 1; i <= 20; ++i) {
-        AddRow line(*gConnection, "invoiceline");
-        line.AddNew();
-        line.Set("InvoiceID", invoice.Id());
-        line.Set("ItemID", i);
-        line.Set("Quantity", i);
-        line.Set("Amount", 9.99);
-        line.Set("Name", QStringLiteral("Screws M%1").arg(i));
-        line.Set("TaxRatePercentage", 10.0);
-        line.Update();
-    }
-    return int(invoice.Id());
+    return InBatch(*gConnection, [&] {
+        AddRow customer(*gConnection, "customer");
+        customer.AddNew();
+        customer.Set("FirstName", QStringLiteral("Ann"));
+        customer.Update();
+        AddRow invoice(*gConnection, "invoice");
+        invoice.AddNew();
+        invoice.Set("CustomerID", customer.Id());
+        invoice.Set("InvoiceNo", QStringLiteral("99999"));
+        invoice.Update();
+        for (int i = 1; i <= 20; ++i) {
+            AddRow line(*gConnection, "invoiceline");
+            line.AddNew();
+            line.Set("InvoiceID", invoice.Id());
+            line.Set("ItemID", i);
+            line.Set("Quantity", i);
+            line.Set("Amount", 9.99);
+            line.Set("Name", QStringLiteral("Screws M%1").arg(i));
+            line.Set("TaxRatePercentage", 10.0);
+            line.Update();
+        }
+        return int(invoice.Id());
+    });
 }
 
 void MeasureInvoice()

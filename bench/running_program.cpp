@@ -1,9 +1,9 @@
 #include "running_program.h"
 
 #include "app/load_step.h"
+#include "base/files.h"
+#include "base/settings_store.h"
 #include "db/connection_private.h"
-#include "platform/files.h"
-#include "platform/settings_store.h"
 
 #include <QApplication>
 

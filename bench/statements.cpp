@@ -31,24 +31,25 @@ void MeasureStatementOverhead(RunningProgram& program)
     constexpr int Rounds = 200;
     constexpr int Statements = 500;
     constexpr int NoSuchRow = 2'000'000'000;
-    const Batch batch(*gConnection);
-    FloorStatement floor(program.Handle(), TypicalStatement(NoSuchRow).Filled());
-    const std::string number = "10471";
-    const std::string name = "Ship's Lantern, Brass";
-    const std::string description = "It burns lamp oil for 12 hours.";
-    const std::string barcode = "2000009990003";
-    const Pair pair = MeasureInTurn(
-        Rounds,
-        [&] {
-            for (int i = 0; i < Statements; ++i)
-                gConnection->Execute(TypicalStatement(NoSuchRow + i));
-        },
-        [&] {
-            for (int i = 0; i < Statements; ++i)
-                floor.Run(number, name, description, barcode, 24, 6, NoSuchRow + i);
-        });
-    constexpr double MicrosecondsOfOne = 1000.0 / Statements;
-    const std::string length = std::to_string(TypicalStatement(NoSuchRow).Filled().size());
-    Report(("statement of " + length + " characters, over the engine").c_str(),
-        (pair.program.Median() - pair.floor.Median()) * MicrosecondsOfOne, 0, 5, "us");
+    InBatch(*gConnection, [&] {
+        FloorStatement floor(program.Handle(), TypicalStatement(NoSuchRow).Filled());
+        const std::string number = "10471";
+        const std::string name = "Ship's Lantern, Brass";
+        const std::string description = "It burns lamp oil for 12 hours.";
+        const std::string barcode = "2000009990003";
+        const Pair pair = MeasureInTurn(
+            Rounds,
+            [&] {
+                for (int i = 0; i < Statements; ++i)
+                    gConnection->Execute(TypicalStatement(NoSuchRow + i));
+            },
+            [&] {
+                for (int i = 0; i < Statements; ++i)
+                    floor.Run(number, name, description, barcode, 24, 6, NoSuchRow + i);
+            });
+        constexpr double MicrosecondsOfOne = 1000.0 / Statements;
+        const std::string length = std::to_string(TypicalStatement(NoSuchRow).Filled().size());
+        Report(("statement of " + length + " characters, over the engine").c_str(),
+            (pair.program.Median() - pair.floor.Median()) * MicrosecondsOfOne, 0, 5, "us");
+    });
 }

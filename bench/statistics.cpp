@@ -4,7 +4,7 @@
 #include "measure.h"
 #include "running_program.h"
 
-#include "platform/clock.h"
+#include "base/clock.h"
 
 #include <memory>
 

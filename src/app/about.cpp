@@ -2,10 +2,10 @@
 
 #include "app/endpoints.h"
 #include "app/image_lists.h"
-#include "platform/dialogs.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/regional.h"
+#include "base/regional.h"
+#include "controls/dialogs.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 
 namespace {
 
@@ -50,9 +50,9 @@ frmAbout::frmAbout(QWidget* parent)
     SetCancelButton(cmdOK);
     cmdOK->setFocus();
 
-    On(Label2, &QLabel::linkActivated, [] { OpenLink(MakerWebSite()); });
-    On(Picture4, &QToolButton::clicked, [] { OpenLink(MakerWebSite()); });
+    On(Label2, &QLabel::linkActivated, Label2, [] { OpenLink(MakerWebSite()); });
+    On(Picture4, &QToolButton::clicked, Picture4, [] { OpenLink(MakerWebSite()); });
     // No tool of this system tells what the button promises.
-    On(cmdSysInfo, &QPushButton::clicked,
+    On(cmdSysInfo, &QPushButton::clicked, cmdSysInfo,
         [] { MsgBox(tr("System Information Is Unavailable At This Time"), Icon::None); });
 }

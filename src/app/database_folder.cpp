@@ -1,7 +1,7 @@
 #include "app/database_folder.h"
 
-#include "platform/files.h"
-#include "platform/settings_store.h"
+#include "base/files.h"
+#include "base/settings_store.h"
 
 QString ResolveDatabaseFolder()
 {

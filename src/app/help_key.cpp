@@ -1,7 +1,7 @@
 #include "app/help_key.h"
 
-#include "platform/dialogs.h"
-#include "platform/guard.h"
+#include "base/guard.h"
+#include "controls/dialogs.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

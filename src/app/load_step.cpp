@@ -3,13 +3,13 @@
 #include "app/database_folder.h"
 #include "app/main_grids.h"
 #include "app/main_window.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/regional.h"
+#include "base/settings_store.h"
 #include "config/secondary_tax.h"
+#include "controls/message_box.h"
 #include "invoicing/current_invoice.h"
-#include "platform/files.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "platform/regional.h"
-#include "platform/settings_store.h"
 #include "records/wizard_state.h"
 
 namespace {

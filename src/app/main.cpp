@@ -1,7 +1,8 @@
 #include "app/help_key.h"
 #include "app/image_lists.h"
 #include "app/start.h"
-#include "platform/guard.h"
+#include "base/guard.h"
+#include "controls/error_box.h"
 
 #include <QApplication>
 
@@ -14,6 +15,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setWindowIcon(ProgramIcon(QStringLiteral("tavrin")));
     // The main window's closing ends the program; the splash's does not.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    InstallErrorBox();
     const HelpKey helpKey(&application);
 
     Program program;
@@ -21,7 +23,7 @@ int main(int argc, char* argv[])
     Guarded([&] {
         if (!program.Main())
             return;
-        On(program.Window(), &MainWindow::Closed, [] { QCoreApplication::exit(EXIT_SUCCESS); });
+        On(program.Window(), &MainWindow::Closed, program.Window(), [] { QCoreApplication::exit(EXIT_SUCCESS); });
         status = QApplication::exec();
     });
     return status;

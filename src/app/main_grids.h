@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/lists.h"
+#include "records/lists.h"
 
 #include <QList>
 

@@ -4,14 +4,14 @@
 #include "app/main_grids.h"
 #include "app/menu_table.h"
 #include "app/toolbar.h"
+#include "base/regional.h"
 #include "config/configuration_wizard.h"
 #include "config/tax_rates.h"
+#include "controls/dialogs.h"
+#include "controls/message_box.h"
 #include "inventory/multiple_pricing.h"
 #include "invoicing/current_invoice.h"
 #include "invoicing/find_invoice.h"
-#include "platform/dialogs.h"
-#include "platform/message_box.h"
-#include "platform/regional.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -72,11 +72,11 @@ MainWindow::MainWindow()
 
 void MainWindow::ConnectPanels()
 {
-    On(picBack, &PanelArea::Resized, [this] { RunResizeRules(); });
-    On(picReports, &ReportsPanel::Expanded, [this] { RunResizeRules(); });
-    On(picNewInvoice, &InvoicePage::Left, [this] { ListInvoices(); });
-    On(picArrivals, &InvoiceHistory::OpenInvoice, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
-    On(picArrivals, &InvoiceHistory::NewInvoice, [this] { OpenInvoicePage(); });
+    On(picBack, &PanelArea::Resized, this, [this] { RunResizeRules(); });
+    On(picReports, &ReportsPanel::Expanded, this, [this] { RunResizeRules(); });
+    On(picNewInvoice, &InvoicePage::Left, this, [this] { ListInvoices(); });
+    On(picArrivals, &InvoiceHistory::OpenInvoice, this, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
+    On(picArrivals, &InvoiceHistory::NewInvoice, this, [this] { OpenInvoicePage(); });
 }
 
 void MainWindow::LetPanelsDragTheWindow()

@@ -7,12 +7,12 @@
 #include "app/tip.h"
 #include "config/categories.h"
 #include "config/locations.h"
+#include "controls/dialogs.h"
 #include "exchange/mailing_list_wizard.h"
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
 #include "invoicing/set_next_invoice_no.h"
 #include "parties/find_customer.h"
-#include "platform/dialogs.h"
 #include "reports/stock_reports.h"
 
 #include <QCoreApplication>
@@ -183,6 +183,6 @@ void BuildMenus(MainWindow& window, QMenuBar* bar)
         entry->setMenuRole(QAction::NoRole);
         entry->setEnabled(row.state == MenuRow::State::On && row.action);
         if (row.action)
-            On(entry, &QAction::triggered, [&window, action = row.action] { action(window); });
+            On(entry, &QAction::triggered, &window, [&window, action = row.action] { action(window); });
     }
 }

@@ -1,8 +1,8 @@
 #include "app/splash.h"
 
 #include "app/image_lists.h"
-#include "platform/layout.h"
-#include "platform/regional.h"
+#include "base/regional.h"
+#include "controls/layout.h"
 
 #include <QKeyEvent>
 
@@ -52,8 +52,8 @@ frmSplash::frmSplash(std::function<bool()> load)
 
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer2->setObjectName(QStringLiteral("Timer2"));
-    On(Timer1, &QTimer::timeout, [this] { Close(); });
-    On(Timer2, &QTimer::timeout, [this] { Load(); });
+    On(Timer1, &QTimer::timeout, this, &frmSplash::Close);
+    On(Timer2, &QTimer::timeout, this, &frmSplash::Load);
     Timer1->start(CloseAfterMs);
     Timer2->start(LoadEveryMs);
 }

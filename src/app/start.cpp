@@ -4,8 +4,8 @@
 #include "app/main_grids.h"
 #include "app/splash.h"
 #include "app/tip.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
+#include "base/numbers.h"
+#include "base/settings_store.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -2,10 +2,10 @@
 
 #include "app/image_lists.h"
 #include "app/tips.h"
-#include "platform/files.h"
-#include "platform/layout.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/settings_store.h"
+#include "controls/layout.h"
 
 namespace {
 
@@ -59,9 +59,9 @@ frmTip::frmTip(QWidget* parent)
     if (!LoadTips())
         lblTipText->setText(TipFileMissingText());
 
-    On(chkLoadTipsAtStartup, &QCheckBox::toggled,
+    On(chkLoadTipsAtStartup, &QCheckBox::toggled, chkLoadTipsAtStartup,
         [](bool on) { SaveOption(ShowTipsKey(), on ? QStringLiteral("1") : QStringLiteral("0")); });
-    On(cmdNextTip, &QPushButton::clicked, [this] { DoNextTip(); });
+    On(cmdNextTip, &QPushButton::clicked, this, &frmTip::DoNextTip);
 }
 
 bool frmTip::LoadTips()

@@ -2,7 +2,7 @@
 
 #include "app/image_lists.h"
 #include "app/main_window.h"
-#include "platform/guard.h"
+#include "base/guard.h"
 
 #include <QHash>
 #include <QMenu>
@@ -16,19 +16,21 @@ constexpr auto WebOrdersKey = "Web Orders";
 /// The picture that the form itself gives the last button: no setup changes it.
 constexpr int WebOrdersImage = 1;
 
-void AddFindEntry(MainWindow& window, QMenu* menu, const QString& text, const QString& key, const char* entryName)
+void AddFindEntry(MainWindow& window, QMenu* menu, const QString& text, const QString& key, const QString& entryName)
 {
     QAction* action = menu->addAction(text);
     action->setObjectName(key);
     action->setEnabled(window.MenuEntry(entryName)->isEnabled());
-    On(action, &QAction::triggered, [&window, entryName] { window.Run(entryName); });
+    On(action, &QAction::triggered, &window, [&window, entryName] { window.Run(entryName); });
 }
 
 QMenu* FindMenu(MainWindow& window)
 {
     auto* menu = new QMenu(&window);
-    AddFindEntry(window, menu, QObject::tr("Customer..."), QStringLiteral("Customer"), "mnuCustomerFind");
-    AddFindEntry(window, menu, QObject::tr("Invoice..."), QStringLiteral("Invoice"), "mnuReservationFind");
+    AddFindEntry(
+        window, menu, QObject::tr("Customer..."), QStringLiteral("Customer"), QStringLiteral("mnuCustomerFind"));
+    AddFindEntry(
+        window, menu, QObject::tr("Invoice..."), QStringLiteral("Invoice"), QStringLiteral("mnuReservationFind"));
     return menu;
 }
 
@@ -84,6 +86,6 @@ void BuildToolbar(MainWindow& window, QToolBar* toolbar)
             action->setIcon(ImageOfImToolbar(WebOrdersImage));
         if (key == QLatin1String(FindKey))
             AddFindDropDown(window, toolbar, action);
-        On(action, &QAction::triggered, [&window, key] { window.Run(EntryOfToolbarKey(key)); });
+        On(action, &QAction::triggered, &window, [&window, key] { window.Run(EntryOfToolbarKey(key)); });
     }
 }

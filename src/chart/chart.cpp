@@ -1,7 +1,7 @@
 #include "chart/chart.h"
 
-#include "platform/numbers.h"
-#include "platform/runtime_error.h"
+#include "base/numbers.h"
+#include "base/runtime_error.h"
 
 #include <QPainter>
 

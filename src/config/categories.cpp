@@ -98,9 +98,10 @@ frmAddCategory::frmAddCategory(QWidget* parent)
 
 void frmAddCategory::Add(const QString& name)
 {
-    const Batch batch(*gConnection);
-    NameForm::Add(name);
-    AddSubCategoryNone(CurrentCategoryID);
+    InBatch(*gConnection, [&] {
+        NameForm::Add(name);
+        AddSubCategoryNone(CurrentCategoryID);
+    });
 }
 
 frmAddSubCategory::frmAddSubCategory(QWidget* parent)

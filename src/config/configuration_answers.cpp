@@ -1,11 +1,11 @@
 #include "config/configuration_answers.h"
 
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/settings_store.h"
 #include "config/secondary_tax.h"
 #include "db/add_row.h"
 #include "db/batch.h"
-#include "platform/files.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -119,10 +119,11 @@ bool ReadConfiguration(ConfigurationWizard& wizard)
 void StoreConfiguration(const ConfigurationWizard& wizard)
 {
     const QString logo = CopyOfLogo(wizard.ConfigLogoFile);
-    {
-        const Batch batch(*gConnection);
+
+    InBatch(*gConnection, [&] {
         StoreBusiness(wizard, logo);
         StoreTaxRate(wizard);
-    }
+    });
+
     SaveConfig(HideTaxKey, TruthText(wizard.ConfigHideTax));
 }

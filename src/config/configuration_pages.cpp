@@ -1,11 +1,11 @@
 #include "config/configuration_pages.h"
 
-#include "platform/dialogs.h"
-#include "platform/focus.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
-#include "platform/report_picture.h"
+#include "base/numbers.h"
+#include "controls/dialogs.h"
+#include "controls/focus.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
+#include "paper/report_picture.h"
 
 #include <QGuiApplication>
 #include <QStyle>
@@ -113,8 +113,8 @@ frmWizConfig_Logo::frmWizConfig_Logo(ConfigurationWizard& wizard, QWidget* paren
     if (!wizard.ConfigLogoFile.isEmpty())
         LoadLogo(wizard.ConfigLogoFile);
 
-    On(cmdBrowse, &QPushButton::clicked, [this] { Browse(); });
-    On(cmdClear, &QPushButton::clicked, [this] { Clear(); });
+    On(cmdBrowse, &QPushButton::clicked, this, [this] { Browse(); });
+    On(cmdClear, &QPushButton::clicked, this, [this] { Clear(); });
 }
 
 void frmWizConfig_Logo::LoadLogo(const QString& file)
@@ -136,8 +136,9 @@ void frmWizConfig_Logo::ShowLogo(const QString& file, const QPixmap& picture)
 
 void frmWizConfig_Logo::Browse()
 {
-    const QString file = OpenFileName(
-        tr("Open"), tr("BMP Image (*.bmp)") + ";;" + tr("JPG Image (*.jpg)") + ";;" + tr("GIF Image (*.gif)"));
+    const QString file = OpenFileName(tr("Open"),
+        tr("BMP Image (*.bmp)") + QLatin1String(";;") + tr("JPG Image (*.jpg)") + QLatin1String(";;")
+            + tr("GIF Image (*.gif)"));
     if (!file.isEmpty())
         LoadLogo(file);
 }
@@ -184,7 +185,7 @@ frmWizConfig_Tax::frmWizConfig_Tax(ConfigurationWizard& wizard, QWidget* parent)
     chkEnableTax2->setChecked(wizard.ConfigSecondTaxEnable);
     picTax2->setVisible(wizard.ConfigSecondTaxEnable);
 
-    On(chkEnableTax2, &QCheckBox::toggled, [this](bool enable) { picTax2->setVisible(enable); });
+    On(chkEnableTax2, &QCheckBox::toggled, this, [this](bool enable) { picTax2->setVisible(enable); });
 }
 
 bool frmWizConfig_Tax::StoreAnswers()

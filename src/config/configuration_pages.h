@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/configuration_answers.h"
-#include "platform/text_box.h"
+#include "controls/text_box.h"
 #include "records/wizard_page.h"
 
 #include <QScrollArea>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "config/key_group_form.h"
-#include "config/name_form.h"
+#include "records/key_group_form.h"
+#include "records/name_form.h"
 
 /// What the forms below edit, NewRow for a new one; a form puts the id of a row that it added here.
 extern qint32 CurrentWarehouseID;

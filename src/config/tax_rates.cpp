@@ -1,8 +1,8 @@
 #include "config/tax_rates.h"
 
+#include "base/numbers.h"
 #include "config/secondary_tax.h"
-#include "platform/layout.h"
-#include "platform/numbers.h"
+#include "controls/layout.h"
 
 namespace {
 
@@ -56,7 +56,7 @@ frmTaxRate::frmTaxRate(QWidget* parent)
         {chkEnableTax2, txtSalesTaxName2, txtSalesTax2});
     ShowSecondaryTax();
 
-    On(chkEnableTax2, &QCheckBox::toggled, [this] { EnableBoxes(); });
+    On(chkEnableTax2, &QCheckBox::toggled, this, &frmTaxRate::EnableBoxes);
 }
 
 void frmTaxRate::ShowDetails(qint64 id)

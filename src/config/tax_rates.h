@@ -1,8 +1,8 @@
 #pragma once
 
-#include "config/key_list_form.h"
-#include "config/name_form.h"
-#include "platform/text_box.h"
+#include "controls/text_box.h"
+#include "records/key_list_form.h"
+#include "records/name_form.h"
 
 #include <QCheckBox>
 

@@ -1,10 +1,10 @@
 #include "db/add_row.h"
 
 #include "db/connection_private.h"
-#include "db/dialect_names.h"
 #include "db/engine_errors.h"
-#include "db/schema.h"
 #include "db/stored_value.h"
+#include "sql/dialect_names.h"
+#include "sql/schema.h"
 
 #include <sqlite3.h>
 

@@ -4,8 +4,6 @@
 #include "db/connection_private.h"
 #include "db/engine_errors.h"
 
-#include <exception>
-
 #include <sqlite3.h>
 
 namespace {
@@ -24,28 +22,28 @@ void Commit(const ConnectionPrivate& connection)
 
 } // namespace
 
-Batch::Batch(Connection& connection)
-    : m_connection(connection)
-    , m_exceptions(std::uncaught_exceptions())
+void batch::Begin(Connection& connection)
 {
-    ConnectionPrivate& d = m_connection.Private();
+    ConnectionPrivate& d = connection.Private();
     d.RequireOpen();
     if (d.openBatches == 0)
         d.RunPlain("BEGIN IMMEDIATE");
     ++d.openBatches;
 }
 
-Batch::~Batch() noexcept(false)
+void batch::End(Connection& connection)
 {
-    ConnectionPrivate& d = m_connection.Private();
+    ConnectionPrivate& d = connection.Private();
     // Closing the connection has ended every batch on it.
-    if (d.openBatches == 0 || --d.openBatches > 0)
-        return;
-    try {
+    if (d.openBatches > 0 && --d.openBatches == 0)
         Commit(d);
+}
+
+void batch::EndAfterFailure(Connection& connection) noexcept
+{
+    try {
+        End(connection);
     } catch (const RuntimeError&) {
-        // The failure that is on its way already ends the act; a second one cannot be thrown beside it.
-        if (std::uncaught_exceptions() == m_exceptions)
-            throw;
+        return;
     }
 }

@@ -1,20 +1,39 @@
 #pragma once
 
+#include <type_traits>
+
 class Connection;
 
-/// The statements of one act of the user, committed together when it goes out of scope, also when a statement failed
-/// on the way: what ran before the failure stays. Only the death of the process, or a disk without room for it, undoes
-/// it. Nests: the outermost one commits. None may be open while the user is asked something.
-class Batch {
-public:
-    /// Throws RuntimeError when the file cannot be written now.
-    explicit Batch(Connection& connection);
-    /// Throws RuntimeError when the commit fails, unless another failure is on its way; the rows are as before then.
-    ~Batch() noexcept(false);
-    Batch(const Batch&) = delete;
-    Batch& operator=(const Batch&) = delete;
+namespace batch {
+void Begin(Connection& connection);
+void End(Connection& connection);
+/// As End while a failure is on its way: that one already ends the act, so one of the commit is dropped.
+void EndAfterFailure(Connection& connection) noexcept;
+} // namespace batch
 
-private:
-    Connection& m_connection;
-    int m_exceptions;
-};
+/// Runs `body`, whose statements are one act of the user, and commits them together at its end, also when it throws:
+/// what ran before the failure stays. Only the death of the process, or a disk without room for it, undoes the act.
+/// Nests: the outermost one commits. None may be open while the user is asked something. Returns what `body` returns.
+/// Throws RuntimeError when the file cannot be written now (`body` has not run then) and when the commit fails (the
+/// rows are as before then).
+template <typename Body>
+auto InBatch(Connection& connection, Body&& body)
+{
+    batch::Begin(connection);
+    const auto run = [&] {
+        try {
+            return body();
+        } catch (...) {
+            batch::EndAfterFailure(connection);
+            throw;
+        }
+    };
+    if constexpr (std::is_void_v<decltype(body())>) {
+        run();
+        batch::End(connection);
+    } else {
+        auto result = run();
+        batch::End(connection);
+        return result;
+    }
+}

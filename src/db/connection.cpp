@@ -1,11 +1,11 @@
 #include "db/connection.h"
 
+#include "base/guard.h"
 #include "db/connection_private.h"
 #include "db/database_file.h"
 #include "db/engine_errors.h"
 #include "db/engine_functions.h"
 #include "db/recordset_private.h"
-#include "platform/guard.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "db/recordset.h"
-#include "db/sql.h"
+#include "sql/sql.h"
 
 #include <QString>
 

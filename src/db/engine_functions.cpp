@@ -1,11 +1,12 @@
 #include "db/engine_functions.h"
 
-#include "db/like_pattern.h"
-#include "db/locale_order.h"
-#include "db/value.h"
-#include "platform/numbers.h"
-#include "platform/regional.h"
-#include "platform/runtime_error.h"
+#include "base/numbers.h"
+#include "base/regional.h"
+#include "base/runtime_error.h"
+#include "sql/function_names.h"
+#include "sql/like_pattern.h"
+#include "sql/locale_order.h"
+#include "sql/value.h"
 
 #include <sqlite3.h>
 

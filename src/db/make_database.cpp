@@ -1,7 +1,7 @@
 #include "db/make_database.h"
 
 #include "db/engine_errors.h"
-#include "db/schema.h"
+#include "sql/schema.h"
 
 #include <QFile>
 #include <QTemporaryFile>
@@ -14,17 +14,17 @@ namespace {
 QStringList SeedStatements()
 {
     return {
-        "INSERT INTO settings (SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage) "
-        "VALUES (0, '2nd Sales Tax', 10)",
-        "INSERT INTO nextinvoiceno (invoiceno) VALUES (1)",
-        "INSERT INTO nextitemno (itemnumber) VALUES (1)",
-        "INSERT INTO warehouse (id, name) VALUES (1, 'Default Warehouse')",
-        "INSERT INTO PriceList (id, name) VALUES (1, 'Sale Price')",
-        "INSERT INTO taxrate (id, name, percentage) VALUES (1, 'None', 0)",
-        "INSERT INTO vendor (id, BusinessName) VALUES (1, 'None')",
-        "INSERT INTO location (id, name, WarehouseID) VALUES (1, 'None', 1)",
-        "INSERT INTO category (id, name) VALUES (1, 'None')",
-        "INSERT INTO subcategory (id, name, CategoryID) VALUES (1, 'None', 1)",
+        QStringLiteral("INSERT INTO settings (SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage) "
+                       "VALUES (0, '2nd Sales Tax', 10)"),
+        QStringLiteral("INSERT INTO nextinvoiceno (invoiceno) VALUES (1)"),
+        QStringLiteral("INSERT INTO nextitemno (itemnumber) VALUES (1)"),
+        QStringLiteral("INSERT INTO warehouse (id, name) VALUES (1, 'Default Warehouse')"),
+        QStringLiteral("INSERT INTO PriceList (id, name) VALUES (1, 'Sale Price')"),
+        QStringLiteral("INSERT INTO taxrate (id, name, percentage) VALUES (1, 'None', 0)"),
+        QStringLiteral("INSERT INTO vendor (id, BusinessName) VALUES (1, 'None')"),
+        QStringLiteral("INSERT INTO location (id, name, WarehouseID) VALUES (1, 'None', 1)"),
+        QStringLiteral("INSERT INTO category (id, name) VALUES (1, 'None')"),
+        QStringLiteral("INSERT INTO subcategory (id, name, CategoryID) VALUES (1, 'None', 1)"),
     };
 }
 

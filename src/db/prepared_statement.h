@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/dialect.h"
+#include "sql/dialect.h"
 
 #include <string>
 #include <unordered_set>

@@ -1,10 +1,10 @@
 #include "db/recordset.h"
 
-#include "db/dialect_tokens.h"
+#include "base/runtime_error.h"
 #include "db/engine_errors.h"
 #include "db/recordset_private.h"
 #include "db/stored_value.h"
-#include "platform/runtime_error.h"
+#include "sql/dialect_tokens.h"
 
 #include <charconv>
 #include <cmath>

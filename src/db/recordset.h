@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/value.h"
+#include "sql/value.h"
 
 #include <memory>
 #include <string_view>

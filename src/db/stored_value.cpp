@@ -1,7 +1,7 @@
 #include "db/stored_value.h"
 
+#include "base/numbers.h"
 #include "db/engine_errors.h"
-#include "platform/numbers.h"
 
 #include <charconv>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/dialect.h"
-#include "db/value.h"
+#include "sql/dialect.h"
+#include "sql/value.h"
 
 #include <string>
 #include <variant>

@@ -1,7 +1,7 @@
 #include "exchange/mailing_list.h"
 
+#include "base/files.h"
 #include "db/connection.h"
-#include "platform/files.h"
 
 #include <QStringList>
 

@@ -1,9 +1,9 @@
 #include "exchange/mailing_list_wizard.h"
 
+#include "controls/dialogs.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "exchange/mailing_list.h"
-#include "platform/dialogs.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
 #include "records/wizard.h"
 
 namespace {
@@ -36,7 +36,7 @@ frmWizMailList_File::frmWizMailList_File(MailingListWizard& wizard, QWidget* par
     txtName->setText(MailingListWizard::MailListFileName);
     txtName->FocusAll();
 
-    On(cmdBrowse, &QPushButton::clicked, [this] { Browse(); });
+    On(cmdBrowse, &QPushButton::clicked, this, [this] { Browse(); });
 }
 
 void frmWizMailList_File::Browse()

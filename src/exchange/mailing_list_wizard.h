@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/text_box.h"
+#include "controls/text_box.h"
 #include "records/wizard_page.h"
 
 /// What the mailing list wizard asks for.

@@ -1,7 +1,7 @@
 #include "inventory/add_price_list.h"
 
+#include "controls/hourglass.h"
 #include "inventory/price_fan_out.h"
-#include "platform/hourglass.h"
 
 #include <QProgressBar>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/name_form.h"
+#include "records/name_form.h"
 
 /// The price list that the form edits, NewRow for a new one. 16 bits wide: set it through ToInteger16.
 extern int gEditPriceListId;

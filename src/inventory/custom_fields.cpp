@@ -51,7 +51,9 @@ QList<CustomFields::Definition> CustomFields::ReadDefinitions()
     for (Recordset rs = gConnection->Execute("SELECT id, name, type FROM ItemCustomField ORDER BY pos;"); !rs.Eof();
          rs.MoveNext()) {
         const QString type = NullToText(rs["type"]).toLower();
-        const Kind kind = type == "checkbox" ? Kind::CheckBox : type == "combobox" ? Kind::List : Kind::TextBox;
+        const Kind kind = type == QLatin1String("checkbox") ? Kind::CheckBox
+            : type == QLatin1String("combobox")             ? Kind::List
+                                                            : Kind::TextBox;
         fields.append({rs["id"].ToLong(), NullToText(rs["name"]), kind});
     }
     return fields;
@@ -104,7 +106,7 @@ void CustomFields::ShowValue(Kind kind, const QString& data, Counters& next)
 {
     switch (kind) {
     case Kind::CheckBox:
-        m_checkBoxes[next.checkBoxes++]->setChecked(data == "1");
+        m_checkBoxes[next.checkBoxes++]->setChecked(data == QLatin1String("1"));
         break;
     case Kind::List:
         SelectComboByText(m_lists[next.lists++], data);

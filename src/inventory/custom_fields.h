@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/combo_box.h"
-#include "platform/text_box.h"
+#include "controls/combo_box.h"
+#include "controls/text_box.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,14 +1,14 @@
 #include "inventory/inventory_list.h"
 
-#include "config/lists.h"
-#include "config/new_row.h"
+#include "base/numbers.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/connection.h"
+#include "db/new_row.h"
 #include "inventory/edit_item.h"
 #include "inventory/item_details.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
+#include "records/lists.h"
 
 namespace {
 
@@ -16,7 +16,8 @@ constexpr int PriceColumn = 2;
 
 const QStringList& SortExpressions()
 {
-    static const QStringList expressions{"[number]", "", "price", "taxrate.name", "noinstock"};
+    static const QStringList expressions{QStringLiteral("[number]"), QString(), QStringLiteral("price"),
+        QStringLiteral("taxrate.name"), QStringLiteral("noinstock")};
     return expressions;
 }
 
@@ -98,17 +99,17 @@ InventoryList::InventoryList(QWidget* parent)
     for (int col = 0; col < gInventory->Cols(); ++col)
         gInventory->SetColAlignment(col, col < PriceColumn ? CellAlign::LeftCenter : CellAlign::RightCenter);
 
-    On(cboInvoicePriceList, &ComboBox::Click, [this] { RefreshInventoryList(gInventory->Row(), 0); });
-    On(gInventory, &FlexGrid::Click, [this] {
+    On(cboInvoicePriceList, &ComboBox::Click, this, [this] { RefreshInventoryList(gInventory->Row(), 0); });
+    On(gInventory, &FlexGrid::Click, this, [this] {
         SortOnTitleClick(gInventory, SortExpressions(), [this] { RefreshInventoryList(gInventory->Row(), 0); });
     });
-    On(gInventory, &FlexGrid::DblClick, [this] {
+    On(gInventory, &FlexGrid::DblClick, this, [this] {
         if (gInventory->MouseRow() != 0)
             EditItem();
     });
-    On(cmdAddInventory, &QPushButton::clicked, [this] { AddItem(); });
-    On(cmdEditInventory, &QPushButton::clicked, [this] { EditItem(); });
-    On(cmdDeleteInventory, &QPushButton::clicked, [this] { DeleteItem(); });
+    On(cmdAddInventory, &QPushButton::clicked, this, &InventoryList::AddItem);
+    On(cmdEditInventory, &QPushButton::clicked, this, &InventoryList::EditItem);
+    On(cmdDeleteInventory, &QPushButton::clicked, this, &InventoryList::DeleteItem);
 }
 
 void InventoryList::RefreshInventoryList(int row, qint64 selectId)
@@ -119,10 +120,10 @@ void InventoryList::RefreshInventoryList(int row, qint64 selectId)
     gInventory->SetTitle(PriceColumn, cboInvoicePriceList->Text(), CellAlign::CenterTop);
 
     const Sql items =
-        Ordered("SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, price, PriceListID "
-                "FROM (TaxRate INNER JOIN Item ON TaxRate.ID = Item.TaxRateID) "
-                "LEFT JOIN ItemPriceList ON Item.ID = ItemPriceList.ItemID ",
-            gInventory, "ORDER BY item.name");
+        Ordered(QStringLiteral("SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, price, "
+                               "PriceListID FROM (TaxRate INNER JOIN Item ON TaxRate.ID = Item.TaxRateID) LEFT JOIN "
+                               "ItemPriceList ON Item.ID = ItemPriceList.ItemID "),
+            gInventory, QStringLiteral("ORDER BY item.name"));
     LoadList(gInventory, items, row, selectId, InventoryRowWriter(cboInvoicePriceList));
 
     lblInventoryTotal->setText(tr("%1 items.").arg(gInventory->Rows() - 1));

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/combo_box.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
+#include "controls/combo_box.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
 
 #include <QLabel>
 #include <QPushButton>

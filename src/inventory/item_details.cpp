@@ -1,10 +1,10 @@
 #include "inventory/item_details.h"
 
-#include "config/new_row.h"
+#include "controls/layout.h"
 #include "db/connection.h"
+#include "db/new_row.h"
 #include "inventory/edit_item.h"
 #include "inventory/item_details_scroll.h"
-#include "platform/layout.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -123,7 +123,7 @@ void frmItemDetails::ShowName(QLabel* label, const QString& name)
 {
     QString shown = name;
     label->setTextFormat(Qt::PlainText);
-    label->setText(shown.replace('&', "&&") + ':');
+    label->setText(shown.replace(QLatin1Char('&'), QStringLiteral("&&")) + u':');
     label->setToolTip(name.toHtmlEscaped());
     label->setWordWrap(true);
     label->setMinimumWidth(qMin(label->fontMetrics().horizontalAdvance(name) + LabelRoom, WidestLabel));
@@ -155,9 +155,9 @@ void frmItemDetails::FitToScreen()
 void frmItemDetails::Connect()
 {
     m_barcode->installEventFilter(this);
-    On(cboCategory, &ComboBox::Click, [this] { ShowSubCategories(); });
-    On(cboWarehouse, &ComboBox::Click, [this] { ShowLocations(); });
-    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+    On(cboCategory, &ComboBox::Click, this, &frmItemDetails::ShowSubCategories);
+    On(cboWarehouse, &ComboBox::Click, this, &frmItemDetails::ShowLocations);
+    On(cmdOk, &QPushButton::clicked, this, &frmItemDetails::Save);
 }
 
 bool frmItemDetails::eventFilter(QObject* watched, QEvent* event)

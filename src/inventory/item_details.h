@@ -1,9 +1,9 @@
 #pragma once
 
+#include "controls/combo_box.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 #include "inventory/custom_fields.h"
-#include "platform/combo_box.h"
-#include "platform/form.h"
-#include "platform/text_box.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,8 +1,8 @@
-#include "config/lists.h"
+#include "base/numbers.h"
 #include "db/connection.h"
 #include "inventory/edit_item.h"
 #include "inventory/item_details.h"
-#include "platform/numbers.h"
+#include "records/lists.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "config/new_row.h"
+#include "base/numbers.h"
+#include "controls/message_box.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection.h"
+#include "db/new_row.h"
 #include "inventory/edit_item.h"
 #include "inventory/item_details.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ bool MayBeUsed(const QString& value, const char* count, const QString& question)
         return true;
     Sql items = Sql(count).Text("value", value);
     if (gEditItemId != NewRow)
-        items.Append(" AND id<>{gEditItemId}").Number("gEditItemId", gEditItemId);
+        items.Append(QStringLiteral(" AND id<>{gEditItemId}")).Number("gEditItemId", gEditItemId);
     if (gConnection->Execute(items)[0].ToLong() == 0)
         return true;
     return MsgBox(question, Icon::Exclamation, Buttons::YesNoCancel) == Answer::Yes;
@@ -52,15 +52,16 @@ void frmItemDetails::Save()
     if (!MayBeSaved())
         return;
     RepairEntries();
-    {
-        Batch batch(*gConnection);
+
+    InBatch(*gConnection, [&] {
         if (gEditItemId == NewRow)
             AddNewItem();
         else
             UpdateItem();
         SavePrices();
         m_customFields.Save(gEditItemId);
-    }
+    });
+
     accept();
 }
 

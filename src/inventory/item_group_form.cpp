@@ -1,13 +1,13 @@
 #include "inventory/item_group_form.h"
 
-#include "config/lists.h"
-#include "config/new_row.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "db/new_row.h"
+#include "records/lists.h"
 
 namespace {
 constexpr int ScrollBarTwips = 400;
@@ -51,10 +51,10 @@ frmItemGroup::frmItemGroup(QWidget* parent)
     else
         ShowStoredGroup();
 
-    On(gItems, &FlexGrid::Resized, [this] { StretchColumn(gItems, 0, ScrollBarTwips); });
-    On(cmdAdd, &QPushButton::clicked, [this] { AddMember(); });
-    On(cmdRemove, &QPushButton::clicked, [this] { RemoveMember(); });
-    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+    On(gItems, &FlexGrid::Resized, this, [this] { StretchColumn(gItems, 0, ScrollBarTwips); });
+    On(cmdAdd, &QPushButton::clicked, this, &frmItemGroup::AddMember);
+    On(cmdRemove, &QPushButton::clicked, this, &frmItemGroup::RemoveMember);
+    On(cmdOk, &QPushButton::clicked, this, &frmItemGroup::Save);
 }
 
 void frmItemGroup::FillItems()
@@ -112,14 +112,14 @@ void frmItemGroup::RemoveMember()
 
 void frmItemGroup::Save()
 {
-    {
-        Batch batch(*gConnection);
+    InBatch(*gConnection, [&] {
         if (gEditItemGroupId == NewRow)
             AddGroup();
         else
             ReplaceGroup();
         AddMembers();
-    }
+    });
+
     accept();
 }
 

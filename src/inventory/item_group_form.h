@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/combo_box.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "controls/combo_box.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 
 #include <QPushButton>
 

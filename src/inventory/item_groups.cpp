@@ -1,11 +1,11 @@
 #include "inventory/item_groups.h"
 
-#include "config/lists.h"
-#include "config/new_row.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/connection.h"
+#include "db/new_row.h"
 #include "inventory/item_group_form.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "records/lists.h"
 
 ItemGroups::ItemGroups(QWidget* parent)
     : Panel("picItemGroups", parent)
@@ -30,21 +30,22 @@ ItemGroups::ItemGroups(QWidget* parent)
         buttonBar,
     }));
 
-    On(gItemGroups, &FlexGrid::DblClick, [this] {
+    On(gItemGroups, &FlexGrid::DblClick, this, [this] {
         if (gItemGroups->MouseRow() != 0)
             EditGroup();
     });
-    On(cmdItemGroupEdit, &QPushButton::clicked, [this] { EditGroup(); });
-    On(cmdItemGroupNew, &QPushButton::clicked, [this] { NewGroup(); });
-    On(cmdItemGroupDelete, &QPushButton::clicked, [this] { DeleteGroup(); });
+    On(cmdItemGroupEdit, &QPushButton::clicked, this, &ItemGroups::EditGroup);
+    On(cmdItemGroupNew, &QPushButton::clicked, this, &ItemGroups::NewGroup);
+    On(cmdItemGroupDelete, &QPushButton::clicked, this, &ItemGroups::DeleteGroup);
 }
 
 void ItemGroups::RefreshItemGroupList(int row, qint64 selectId)
 {
     gConnection->Execute("SELECT count(*) FROM itemgroup").Close();
 
-    LoadList(gItemGroups, Ordered("SELECT id, name FROM itemgroup ", gItemGroups, "ORDER BY name"), row, selectId,
-        [](const Recordset& group, GridFill& fill) {
+    LoadList(gItemGroups,
+        Ordered(QStringLiteral("SELECT id, name FROM itemgroup "), gItemGroups, QStringLiteral("ORDER BY name")), row,
+        selectId, [](const Recordset& group, GridFill& fill) {
             fill.Add(group.Text(1));
             return group.Long(0);
         });

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/flex_grid.h"
-#include "platform/form.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
 
 #include <QPushButton>
 

@@ -1,8 +1,8 @@
 #include "inventory/multiple_pricing.h"
 
+#include "controls/hourglass.h"
 #include "inventory/add_price_list.h"
 #include "inventory/price_fan_out.h"
-#include "platform/hourglass.h"
 
 frmMultiplePricing::frmMultiplePricing(QWidget* parent)
     : KeyListForm("frmMultiplePricing",

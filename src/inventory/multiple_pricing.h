@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/key_list_form.h"
+#include "records/key_list_form.h"
 
 /// Keeps the price lists: adds, renames and removes them. Whoever shows it reads the lists anew afterwards.
 class frmMultiplePricing : public KeyListForm {

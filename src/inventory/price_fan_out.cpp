@@ -31,25 +31,27 @@ QList<qint64> AllItems()
 
 void AddPriceListForEveryItem(const QString& name, const FanOutProgress& progress)
 {
-    Batch batch(*gConnection);
-    const qint64 priceListId = AddPriceList(name);
-    const QList<qint64> items = AllItems();
+    InBatch(*gConnection, [&] {
+        const qint64 priceListId = AddPriceList(name);
+        const QList<qint64> items = AllItems();
 
-    AddRow price(*gConnection, "ItemPriceList");
-    for (int done = 0; done < items.size(); ++done) {
-        if (done % ItemsBetweenSigns == 0)
-            progress(done, int(items.size()));
-        price.AddNew();
-        price.Set("Price", 0);
-        price.Set("PriceListID", priceListId);
-        price.Set("ItemID", items.at(done));
-        price.Update();
-    }
+        AddRow price(*gConnection, "ItemPriceList");
+        for (int done = 0; done < items.size(); ++done) {
+            if (done % ItemsBetweenSigns == 0)
+                progress(done, int(items.size()));
+            price.AddNew();
+            price.Set("Price", 0);
+            price.Set("PriceListID", priceListId);
+            price.Set("ItemID", items.at(done));
+            price.Update();
+        }
+    });
 }
 
 void DeletePriceList(qint64 priceListId)
 {
-    Batch batch(*gConnection);
-    gConnection->Execute(Sql("DELETE FROM [ItemPriceList] WHERE pricelistid = {id}").Number("id", priceListId));
-    gConnection->Execute(Sql("DELETE FROM [PriceList] WHERE id = {id}").Number("id", priceListId));
+    InBatch(*gConnection, [&] {
+        gConnection->Execute(Sql("DELETE FROM [ItemPriceList] WHERE pricelistid = {id}").Number("id", priceListId));
+        gConnection->Execute(Sql("DELETE FROM [PriceList] WHERE id = {id}").Number("id", priceListId));
+    });
 }

@@ -1,12 +1,12 @@
 #include "inventory/receive_stock.h"
 
-#include "config/lists.h"
+#include "base/numbers.h"
+#include "controls/focus.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/connection.h"
-#include "platform/focus.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
+#include "records/lists.h"
 
 namespace {
 
@@ -54,9 +54,9 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     gInventory->SetColAlignment(InStock, CellAlign::RightCenter);
     RefreshInventoryList(1, 0);
 
-    On(gInventory, &FlexGrid::Resized, [this] { StretchColumn(gInventory, Name, ScrollBarTwips); });
-    On(cmdAddBarCodeItem, &QPushButton::clicked, [this] { FindByBarcode(); });
-    On(cmdUpdateStockLevel, &QPushButton::clicked, [this] { UpdateStockLevel(); });
+    On(gInventory, &FlexGrid::Resized, this, [this] { StretchColumn(gInventory, Name, ScrollBarTwips); });
+    On(cmdAddBarCodeItem, &QPushButton::clicked, this, &frmReceiveStock::FindByBarcode);
+    On(cmdUpdateStockLevel, &QPushButton::clicked, this, &frmReceiveStock::UpdateStockLevel);
 }
 
 void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
@@ -64,7 +64,9 @@ void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
     Hourglass hourglass;
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
-    LoadList(gInventory, Ordered("SELECT id, [number], name, noinstock FROM item ", gInventory, "ORDER BY item.name"),
+    LoadList(gInventory,
+        Ordered(QStringLiteral("SELECT id, [number], name, noinstock FROM item "), gInventory,
+            QStringLiteral("ORDER BY item.name")),
         row, selectId, [](const Recordset& item, GridFill& fill) {
             fill.Add(item.Text(1));
             fill.Add(item.Text(2));

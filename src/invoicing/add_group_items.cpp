@@ -1,8 +1,8 @@
 #include "invoicing/add_group_items.h"
 
-#include "config/lists.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
+#include "records/lists.h"
 
 std::vector<GroupItem> GroupItems;
 qint32 GroupItemCount = 0;
@@ -54,8 +54,8 @@ frmAddGroupItems::frmAddGroupItems(qint64 priceListId, QWidget* parent)
             return group.Long(0);
         });
 
-    On(cmdOk, &QPushButton::clicked, [this] { TakeItems(); });
-    On(gItemGroups, &FlexGrid::DblClick, [this] { TakeItems(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmAddGroupItems::TakeItems);
+    On(gItemGroups, &FlexGrid::DblClick, this, &frmAddGroupItems::TakeItems);
 }
 
 void frmAddGroupItems::TakeItems()

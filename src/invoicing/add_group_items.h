@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/currency.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
+#include "base/currency.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
 
 #include <QPushButton>
 

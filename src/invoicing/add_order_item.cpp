@@ -1,13 +1,13 @@
 #include "invoicing/add_order_item.h"
 
-#include "config/lists.h"
+#include "base/numbers.h"
+#include "controls/focus.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "invoicing/item_search.h"
 #include "invoicing/order_lines.h"
-#include "platform/focus.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
+#include "records/lists.h"
 
 qint32 SelectedItemID = -1;
 qint32 SelectedItemQuantity = 0;
@@ -84,17 +84,18 @@ void frmAddOrderItem::BuildLayout()
 
 void frmAddOrderItem::Connect()
 {
-    On(cboCategory, &ComboBox::Click, [this] { FillSubCategories(); });
-    On(cmdSearch, &QPushButton::clicked, [this] { DoSearch(); });
-    On(gItems, &FlexGrid::Click, [this] { ShowPriceOfCurrentItem(); });
+    On(cboCategory, &ComboBox::Click, this, &frmAddOrderItem::FillSubCategories);
+    On(cmdSearch, &QPushButton::clicked, this, &frmAddOrderItem::DoSearch);
+    On(gItems, &FlexGrid::Click, this, &frmAddOrderItem::ShowPriceOfCurrentItem);
     // The price is that of the current item also when the arrow keys moved on to it.
-    On(gItems->selectionModel(), &QItemSelectionModel::currentRowChanged, [this] { ShowPriceOfCurrentItem(); });
-    On(gItems, &FlexGrid::DblClick, [this] {
+    On(gItems->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+        &frmAddOrderItem::ShowPriceOfCurrentItem);
+    On(gItems, &FlexGrid::DblClick, this, [this] {
         if (gItems->CurrentRowData() != 0)
             TakeItem();
     });
-    On(cmdOk, &QPushButton::clicked, [this] { TakeItem(); });
-    On(cmdCancel, &QPushButton::clicked, [] { SelectedItemID = -1; });
+    On(cmdOk, &QPushButton::clicked, this, &frmAddOrderItem::TakeItem);
+    On(cmdCancel, &QPushButton::clicked, cmdCancel, [] { SelectedItemID = -1; });
 
     // Enter in a search field searches.
     for (TextBox* box : {txtItemName, txtItemDescription, txtItemNumber}) {

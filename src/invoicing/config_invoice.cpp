@@ -1,9 +1,9 @@
 #include "invoicing/config_invoice.h"
 
+#include "base/numbers.h"
+#include "base/settings_store.h"
+#include "controls/layout.h"
 #include "invoicing/invoice_report_style.h"
-#include "platform/layout.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
 
 frmConfigInvoice::frmConfigInvoice(QWidget* parent)
     : Form("frmConfigInvoice", tr("Invoice Style"), parent)
@@ -26,17 +26,17 @@ frmConfigInvoice::frmConfigInvoice(QWidget* parent)
     const InvoiceStyle style = ReadInvoiceStyle();
     chkHideOurPrice->setChecked(style.hideOurPrice);
     chkHideTaxOnInvoice->setChecked(style.hideTax);
-    txtFontSize->setText(GetConfig("InvoiceFontSize", DefaultInvoiceFontSize));
+    txtFontSize->setText(GetConfig(QStringLiteral("InvoiceFontSize"), DefaultInvoiceFontSize));
 
-    On(cmdOK, &QPushButton::clicked, [this] { Save(); });
+    On(cmdOK, &QPushButton::clicked, this, [this] { Save(); });
 }
 
 void frmConfigInvoice::Save()
 {
-    SaveConfig("HideTaxOnInvoice", TruthText(chkHideTaxOnInvoice->isChecked()));
-    SaveConfig("HideOurPriceOnInvoice", TruthText(chkHideOurPrice->isChecked()));
+    SaveConfig(QStringLiteral("HideTaxOnInvoice"), TruthText(chkHideTaxOnInvoice->isChecked()));
+    SaveConfig(QStringLiteral("HideOurPriceOnInvoice"), TruthText(chkHideOurPrice->isChecked()));
     if (!IsNumeric(txtFontSize->text()))
         txtFontSize->setText(DefaultInvoiceFontSize);
-    SaveConfig("InvoiceFontSize", txtFontSize->text());
+    SaveConfig(QStringLiteral("InvoiceFontSize"), txtFontSize->text());
     accept();
 }

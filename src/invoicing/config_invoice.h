@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 
 #include <QCheckBox>
 

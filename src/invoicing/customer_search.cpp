@@ -1,10 +1,10 @@
 #include "invoicing/customer_search.h"
 
-#include "config/lists.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "parties/customer_matches.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "records/lists.h"
 
 int SelectedCustomerID = -1;
 
@@ -57,9 +57,9 @@ frmResCustSearch::frmResCustSearch(const QString& firstName, const QString& last
     txtFirstname->setText(firstName);
     txtLastname->setText(lastName);
 
-    On(cmdOk, &QPushButton::clicked, [this] { RefreshCustomerScreen(); });
-    On(cmdSelect, &QPushButton::clicked, [this] { SelectCustomer(); });
-    On(gcust, &FlexGrid::DblClick, [this] { SelectCustomer(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmResCustSearch::RefreshCustomerScreen);
+    On(cmdSelect, &QPushButton::clicked, this, &frmResCustSearch::SelectCustomer);
+    On(gcust, &FlexGrid::DblClick, this, &frmResCustSearch::SelectCustomer);
 }
 
 void frmResCustSearch::RefreshCustomerScreen()

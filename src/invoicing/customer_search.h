@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/flex_grid.h"
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 
 #include <QPushButton>
 

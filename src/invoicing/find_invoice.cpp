@@ -1,11 +1,11 @@
 #include "invoicing/find_invoice.h"
 
-#include "config/lists.h"
-#include "platform/clock.h"
-#include "platform/dates.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "base/clock.h"
+#include "base/dates.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
+#include "records/lists.h"
 
 qint16 SelectedInvoiceID = -1;
 bool InvoiceSelected = false;
@@ -43,9 +43,9 @@ frmFindInvoice::frmFindInvoice(QWidget* parent)
             {QT_TR_NOOP("Invoice Date"), 1600, CellAlign::LeftCenter}},
         BusinessNameColumn);
 
-    On(cmdOk, &QPushButton::clicked, [this] { Search(); });
-    On(cmdEditCustomer, &QPushButton::clicked, [this] { TakeInvoice(); });
-    On(gres, &FlexGrid::DblClick, [this] {
+    On(cmdOk, &QPushButton::clicked, this, &frmFindInvoice::Search);
+    On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindInvoice::TakeInvoice);
+    On(gres, &FlexGrid::DblClick, this, [this] {
         if (gres->MouseRow() != 0)
             TakeInvoice();
     });

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/date_picker.h"
-#include "platform/flex_grid.h"
-#include "platform/form.h"
+#include "controls/date_picker.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
 
 #include <QLabel>
 #include <QPushButton>

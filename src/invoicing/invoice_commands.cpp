@@ -1,3 +1,5 @@
+#include "base/numbers.h"
+#include "controls/message_box.h"
 #include "db/batch.h"
 #include "db/connection.h"
 #include "invoicing/add_group_items.h"
@@ -8,8 +10,6 @@
 #include "invoicing/invoice_page.h"
 #include "invoicing/item_quantity.h"
 #include "invoicing/order_lines.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
 
 #include <algorithm>
 
@@ -50,11 +50,12 @@ void InvoicePage::AddOrderItem()
     SelectedItemPrice = Currency();
     frmAddOrderItem(cboPriceList->SelectedData(), this).ShowModal();
 
-    const Batch batch(*gConnection);
-    if (SelectedItemID != -1)
-        AddLine(SelectedItemID, SelectedItemQuantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(),
-            SelectedItemPrice);
-    UpdateInvoiceEdit();
+    InBatch(*gConnection, [&] {
+        if (SelectedItemID != -1)
+            AddLine(SelectedItemID, SelectedItemQuantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(),
+                SelectedItemPrice);
+        UpdateInvoiceEdit();
+    });
 }
 
 void InvoicePage::AddBarCodeItem()
@@ -65,11 +66,12 @@ void InvoicePage::AddBarCodeItem()
         txtBarcode->FocusAll();
         return;
     }
-    {
-        const Batch batch(*gConnection);
+
+    InBatch(*gConnection, [&] {
         const Currency price = ListPrice(*itemId, cboPriceList->SelectedData());
         AddLine(*itemId, 1, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
-    }
+    });
+
     txtBarcode->clear();
     txtBarcode->setFocus();
 }
@@ -89,12 +91,13 @@ void InvoicePage::AddGroupItems()
 /// warranty state touches them.
 bool InvoicePage::AddChosenGroupItems()
 {
-    const Batch batch(*gConnection);
-    bool allAdded = true;
-    for (const GroupItem& item : GroupItems)
-        allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
-    RefreshNewInvoiceItemsList(1, 0);
-    return allAdded;
+    return InBatch(*gConnection, [&] {
+        bool allAdded = true;
+        for (const GroupItem& item : GroupItems)
+            allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
+        RefreshNewInvoiceItemsList(1, 0);
+        return allAdded;
+    });
 }
 
 qint32 InvoicePage::QuantityInRow(int row) const
@@ -121,10 +124,11 @@ void InvoicePage::EditLine(qint64 lineId)
     EditLinePrice = CCur(price);
     frmItemQuantity(quantity, price, this).ShowModal();
 
-    const Batch batch(*gConnection);
-    ChangeOrderLine(lineId, oldQuantity, EditLineQuantity, EditLinePrice);
-    RefreshNewInvoiceItemsList(1, 0);
-    UpdateInvoiceEdit();
+    InBatch(*gConnection, [&] {
+        ChangeOrderLine(lineId, oldQuantity, EditLineQuantity, EditLinePrice);
+        RefreshNewInvoiceItemsList(1, 0);
+        UpdateInvoiceEdit();
+    });
 }
 
 void InvoicePage::DeleteOrderItem()
@@ -133,26 +137,28 @@ void InvoicePage::DeleteOrderItem()
     const bool deletes =
         lineId != 0 && MsgBox(tr("Delete item from invoice?"), Icon::Question, Buttons::YesNo) == Answer::Yes;
 
-    const Batch batch(*gConnection);
-    if (deletes) {
-        DeleteOrderLine(lineId, QuantityInRow(gNewInvoice->Row()));
-        RefreshNewInvoiceItemsList(1, 0);
-    }
-    UpdateInvoiceEdit();
+    InBatch(*gConnection, [&] {
+        if (deletes) {
+            DeleteOrderLine(lineId, QuantityInRow(gNewInvoice->Row()));
+            RefreshNewInvoiceItemsList(1, 0);
+        }
+        UpdateInvoiceEdit();
+    });
 }
 
 void InvoicePage::CancelInvoice()
 {
     if (MsgBox(tr("Cancel invoice?"), Icon::Question, Buttons::YesNo) != Answer::Yes)
         return;
-    {
-        const Batch batch(*gConnection);
+
+    InBatch(*gConnection, [&] {
         for (int row = 1; row < gNewInvoice->Rows(); ++row)
             if (const qint64 lineId = gNewInvoice->RowData(row); lineId != 0)
                 DeleteOrderLine(lineId, QuantityInRow(row));
         gConnection->Execute(
             Sql("DELETE FROM invoice WHERE id = {gCurrentInvoiceId}").Number("gCurrentInvoiceId", gCurrentInvoiceId));
-    }
+    });
+
     gCurrentInvoiceId = -1;
     emit Left();
 }
@@ -174,11 +180,11 @@ void InvoicePage::CompleteInvoice()
 
 void InvoicePage::CloseInvoice()
 {
-    {
-        const Batch batch(*gConnection);
+    InBatch(*gConnection, [&] {
         UpdateInvoiceEdit();
         PutAwayAndRaiseNextNumber();
-    }
+    });
+
     emit Left();
 }
 

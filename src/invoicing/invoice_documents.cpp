@@ -1,9 +1,9 @@
 #include "invoicing/invoice_documents.h"
 
+#include "controls/hourglass.h"
 #include "invoicing/invoice_report.h"
 #include "invoicing/picking_list.h"
-#include "platform/hourglass.h"
-#include "platform/preview_window.h"
+#include "paper/preview_window.h"
 
 void ShowInvoiceDocument(qint32 invoiceId, bool isWarranty)
 {

@@ -1,11 +1,11 @@
 #include "invoicing/invoice_history.h"
 
-#include "config/lists.h"
+#include "base/dates.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/batch.h"
-#include "platform/dates.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "records/lists.h"
 
 namespace {
 
@@ -13,7 +13,8 @@ constexpr int UnpaidInvoices = 1; ///< the filter's second entry
 
 const QStringList& SortExpressions()
 {
-    static const QStringList expressions{"invoiceno", "", "firstname, lastname", "invoice.submitteddate"};
+    static const QStringList expressions{QStringLiteral("invoiceno"), QString(), QStringLiteral("firstname, lastname"),
+        QStringLiteral("invoice.submitteddate")};
     return expressions;
 }
 
@@ -41,9 +42,11 @@ private:
 void DoDelete(qint64 invoiceId)
 {
     // The goods are not given back here: deleting from the history is for invoices whose goods have left.
-    const Batch batch(*gConnection);
-    gConnection->Execute(Sql("DELETE FROM invoiceline WHERE invoiceid = {invoiceId}").Number("invoiceId", invoiceId));
-    gConnection->Execute(Sql("DELETE FROM invoice WHERE id = {invoiceId}").Number("invoiceId", invoiceId));
+    InBatch(*gConnection, [&] {
+        gConnection->Execute(
+            Sql("DELETE FROM invoiceline WHERE invoiceid = {invoiceId}").Number("invoiceId", invoiceId));
+        gConnection->Execute(Sql("DELETE FROM invoice WHERE id = {invoiceId}").Number("invoiceId", invoiceId));
+    });
 }
 
 InvoiceHistory::InvoiceHistory(QWidget* parent)
@@ -65,17 +68,17 @@ InvoiceHistory::InvoiceHistory(QWidget* parent)
         row({stretch(), cmdViewDetails, cmdAddReservation, cmdSimpleCalCancel}),
     }));
 
-    On(cboInvoiceFilter, &ComboBox::Click, [this] { RefreshInvoiceList(1, 0); });
-    On(gInvoices, &FlexGrid::Click, [this] {
+    On(cboInvoiceFilter, &ComboBox::Click, this, [this] { RefreshInvoiceList(1, 0); });
+    On(gInvoices, &FlexGrid::Click, this, [this] {
         SortOnTitleClick(gInvoices, SortExpressions(), [this] { RefreshInvoiceList(gInvoices->Row(), 0); });
     });
-    On(gInvoices, &FlexGrid::DblClick, [this] {
+    On(gInvoices, &FlexGrid::DblClick, this, [this] {
         if (gInvoices->MouseRow() != 0)
             ViewDetails();
     });
-    On(cmdViewDetails, &QPushButton::clicked, [this] { ViewDetails(); });
-    On(cmdAddReservation, &QPushButton::clicked, [this] { emit NewInvoice(); });
-    On(cmdSimpleCalCancel, &QPushButton::clicked, [this] { DeleteInvoice(); });
+    On(cmdViewDetails, &QPushButton::clicked, this, &InvoiceHistory::ViewDetails);
+    On(cmdAddReservation, &QPushButton::clicked, this, [this] { emit NewInvoice(); });
+    On(cmdSimpleCalCancel, &QPushButton::clicked, this, &InvoiceHistory::DeleteInvoice);
 }
 
 void InvoiceHistory::RefreshInvoiceList(int selectRow, qint64 selectId)

@@ -1,12 +1,12 @@
 #include "invoicing/invoice_page.h"
 
-#include "config/lists.h"
+#include "base/clock.h"
+#include "base/numbers.h"
 #include "config/secondary_tax.h"
 #include "db/add_row.h"
 #include "invoicing/current_invoice.h"
 #include "invoicing/invoice_totals.h"
-#include "platform/clock.h"
-#include "platform/numbers.h"
+#include "records/lists.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
+#include "base/numbers.h"
+#include "controls/focus.h"
+#include "controls/layout.h"
 #include "invoicing/invoice_page.h"
-#include "platform/focus.h"
-#include "platform/layout.h"
-#include "platform/numbers.h"
 
 namespace {
 
@@ -157,28 +157,28 @@ void InvoicePage::ConnectSaves()
     for (QWidget* control : std::initializer_list<QWidget*>{
              txtDiscount, txtNotes, lblInvoiceNo, cboPriceList, cboPaymentMethod, chkPaid, chkWarrantyInvoice})
         OnFocusLeft(control, [this] { UpdateInvoiceEdit(); });
-    On(lblInvoiceDate, &DatePicker::Change, [this] { UpdateInvoiceEdit(); });
-    On(dtShippedDate, &DatePicker::Change, [this] { UpdateInvoiceEdit(); });
+    On(lblInvoiceDate, &DatePicker::Change, this, &InvoicePage::UpdateInvoiceEdit);
+    On(dtShippedDate, &DatePicker::Change, this, &InvoicePage::UpdateInvoiceEdit);
 }
 
 void InvoicePage::ConnectCommands()
 {
-    On(cboPriceList, &ComboBox::Click, [this] { PriceListChosen(); });
+    On(cboPriceList, &ComboBox::Click, this, &InvoicePage::PriceListChosen);
     OnFocusLeft(txtAmountPayed,
         [this] { Ignoring([this] { txtAmountPayed->setText(FormatCurrency(txtAmountPayed->text())); }); });
     OnFocusGained(txtBarcode, [this] { SetDefaultButton(cmdAddBarCodeItem, true); });
     OnFocusLeft(txtBarcode, [this] { SetDefaultButton(cmdAddBarCodeItem, false); });
 
-    On(cmdNewInvoiceCustSearch, &QPushButton::clicked, [this] { SearchCustomer(); });
-    On(cmdNewInvoiceCustReset, &QPushButton::clicked, [this] { ResetCustomer(); });
-    On(cmdAddBarCodeItem, &QPushButton::clicked, [this] { AddBarCodeItem(); });
-    On(cmdAddOrderItem, &QPushButton::clicked, [this] { AddOrderItem(); });
-    On(cmdEditOrderItem, &QPushButton::clicked, [this] { EditOrderItem(); });
-    On(gNewInvoice, &FlexGrid::DblClick, [this] { EditOrderItem(); });
-    On(cmdDeleteOrderItem, &QPushButton::clicked, [this] { DeleteOrderItem(); });
-    On(cmdAddGroupItems, &QPushButton::clicked, [this] { AddGroupItems(); });
-    On(cmdCompleteInvoice, &QPushButton::clicked, [this] { CompleteInvoice(); });
-    On(cmdCancelInvoice, &QPushButton::clicked, [this] { CancelInvoice(); });
-    On(cmdPrintPickingList, &QPushButton::clicked, [this] { PrintPickingList(); });
-    On(cmdCloseInvoice, &QPushButton::clicked, [this] { CloseInvoice(); });
+    On(cmdNewInvoiceCustSearch, &QPushButton::clicked, this, &InvoicePage::SearchCustomer);
+    On(cmdNewInvoiceCustReset, &QPushButton::clicked, this, &InvoicePage::ResetCustomer);
+    On(cmdAddBarCodeItem, &QPushButton::clicked, this, &InvoicePage::AddBarCodeItem);
+    On(cmdAddOrderItem, &QPushButton::clicked, this, &InvoicePage::AddOrderItem);
+    On(cmdEditOrderItem, &QPushButton::clicked, this, &InvoicePage::EditOrderItem);
+    On(gNewInvoice, &FlexGrid::DblClick, this, &InvoicePage::EditOrderItem);
+    On(cmdDeleteOrderItem, &QPushButton::clicked, this, &InvoicePage::DeleteOrderItem);
+    On(cmdAddGroupItems, &QPushButton::clicked, this, &InvoicePage::AddGroupItems);
+    On(cmdCompleteInvoice, &QPushButton::clicked, this, &InvoicePage::CompleteInvoice);
+    On(cmdCancelInvoice, &QPushButton::clicked, this, &InvoicePage::CancelInvoice);
+    On(cmdPrintPickingList, &QPushButton::clicked, this, &InvoicePage::PrintPickingList);
+    On(cmdCloseInvoice, &QPushButton::clicked, this, &InvoicePage::CloseInvoice);
 }

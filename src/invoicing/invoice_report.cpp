@@ -1,17 +1,17 @@
 #include "invoicing/invoice_report.h"
 
+#include "base/clock.h"
+#include "base/dates.h"
+#include "base/guard.h"
+#include "base/numbers.h"
 #include "config/secondary_tax.h"
+#include "controls/dialogs.h"
 #include "db/connection.h"
-#include "db/data_environment.h"
 #include "invoicing/invoice_report_design.h"
 #include "invoicing/invoice_report_style.h"
-#include "platform/clock.h"
-#include "platform/dates.h"
-#include "platform/dialogs.h"
-#include "platform/guard.h"
-#include "platform/numbers.h"
-#include "platform/report_band.h"
-#include "platform/report_picture.h"
+#include "paper/report_band.h"
+#include "paper/report_picture.h"
+#include "records/data_environment.h"
 
 #include <QObject>
 #include <QPrinter>
@@ -25,13 +25,14 @@ void RegisterRepInvoice()
         return;
     DataEnvironment().Register({
         RepInvoice,
-        "SELECT Customer.*, Invoice.* FROM Customer, Invoice WHERE Invoice.CustomerID = Customer.ID AND Invoice.id = "
-        "{prmInvID}",
-        "SELECT *, quantity * (taxratepercentage/100*amount+amount) AS taxsubtotal, quantity * "
-        "(taxratepercentage/100*amount) AS taxsubtotal2 FROM invoiceline",
-        " WHERE InvoiceID = {parentKey} ORDER BY id",
-        "Invoice.ID",
-        {{"Aggregate1", "taxsubtotal"}, {"Aggregate2", "taxsubtotal2"}},
+        QStringLiteral("SELECT Customer.*, Invoice.* FROM Customer, Invoice WHERE Invoice.CustomerID = Customer.ID AND "
+                       "Invoice.id = {prmInvID}"),
+        QStringLiteral("SELECT *, quantity * (taxratepercentage/100*amount+amount) AS taxsubtotal, quantity * "
+                       "(taxratepercentage/100*amount) AS taxsubtotal2 FROM invoiceline"),
+        QStringLiteral(" WHERE InvoiceID = {parentKey} ORDER BY id"),
+        QStringLiteral("Invoice.ID"),
+        {{QStringLiteral("Aggregate1"), QStringLiteral("taxsubtotal")},
+            {QStringLiteral("Aggregate2"), QStringLiteral("taxsubtotal2")}},
     });
 }
 
@@ -46,7 +47,7 @@ QString CustomerName(qint32 invoiceId)
     const Recordset row = AboutInvoice("SELECT firstname, lastname FROM invoice, customer WHERE invoice.customerid = "
                                        "customer.id AND invoice.id = {gCurrentInvoiceId}",
         invoiceId);
-    return row.Eof() ? QString() : NullToText(row["firstname"]) + " " + NullToText(row["lastname"]);
+    return row.Eof() ? QString() : NullToText(row["firstname"]) + QStringLiteral(" ") + NullToText(row["lastname"]);
 }
 
 void SetReportFieldFormat(ReportControl& field, const QString& format)
@@ -57,7 +58,7 @@ void SetReportFieldFormat(ReportControl& field, const QString& format)
 void FormatAmounts(Report& report)
 {
     for (const char* field : {"txtAmount", "txttaxsubtotal", "Text1", "Text2"})
-        SetReportFieldFormat(report.Control(field), "Currency");
+        SetReportFieldFormat(report.Control(QLatin1String(field)), QStringLiteral("Currency"));
 }
 
 QString BusinessAddress(const Recordset& settings)
@@ -72,7 +73,7 @@ QString BusinessAddress(const Recordset& settings)
 void ShowLogo(Report& report, const QString& path)
 {
     constexpr QSize MostPixels(1200, 1200);
-    report.Control("imgLogo").picture = ReadPicture(path, MostPixels);
+    report.Control(QStringLiteral("imgLogo")).picture = ReadPicture(path, MostPixels);
 }
 
 void ShowBusiness(Report& report)
@@ -81,7 +82,7 @@ void ShowBusiness(Report& report)
                                                     "Country, Phone, Email, Logofilename FROM Settings");
     if (settings.Eof())
         return;
-    ReportControl& address = report.Control("lblBusinessAddress");
+    ReportControl& address = report.Control(QStringLiteral("lblBusinessAddress"));
     address.caption = BusinessAddress(settings);
     const QString logo = NullToText(settings["Logofilename"]);
     if (!logo.isEmpty()) {
@@ -95,10 +96,10 @@ void ShowBusiness(Report& report)
 void HideColumns(Report& report, const InvoiceStyle& style)
 {
     for (const char* control : {"Label7", "txtTaxRatePercentage", "txtTaxRateName", "Label12", "Text1"})
-        report.Control(control).visible = !style.hideTax;
+        report.Control(QLatin1String(control)).visible = !style.hideTax;
     if (style.hideOurPrice)
         for (const char* control : {"Label9", "txtAmount"})
-            report.Control(control).visible = false;
+            report.Control(QLatin1String(control)).visible = false;
 }
 
 Currency StoredSecondTax(qint32 invoiceId)
@@ -110,11 +111,11 @@ Currency StoredSecondTax(qint32 invoiceId)
 
 void ShowSecondTax(Report& report)
 {
-    ReportControl& name = report.Control("TaxName2");
+    ReportControl& name = report.Control(QStringLiteral("TaxName2"));
     if (SecondaryTaxEnable)
         name.caption = SecondaryTaxName;
     name.visible = SecondaryTaxEnable;
-    report.Control("txtTotal2ndTax").visible = SecondaryTaxEnable;
+    report.Control(QStringLiteral("txtTotal2ndTax")).visible = SecondaryTaxEnable;
 }
 
 void ShowGrandTotal(Report& report, qint32 invoiceId, Currency secondTax)
@@ -128,16 +129,17 @@ void ShowGrandTotal(Report& report, qint32 invoiceId, Currency secondTax)
     double total = subtotal.IsNull() ? 0 : subtotal.ToDouble();
     if (SecondaryTaxEnable)
         total += secondTax.ToDouble();
-    report.Control("GrandTotal").caption = FormatCurrency(total);
+    report.Control(QStringLiteral("GrandTotal")).caption = FormatCurrency(total);
 }
 
 // The title tells one open preview, and one saved file, from the next.
 void SetTitle(Report& report)
 {
     const ReportTable& parent = report.rows->parents;
-    const QString number =
-        parent.Count() > 0 ? ReportValueText(parent.At(0, parent.Field("InvoiceNo")), QString()) : QString();
-    report.title = (report.Control("Label6").caption + " " + number).trimmed();
+    const QString number = parent.Count() > 0
+        ? ReportValueText(parent.At(0, parent.Field(QStringLiteral("InvoiceNo"))), QString())
+        : QString();
+    report.title = (report.Control(QStringLiteral("Label6")).caption + QStringLiteral(" ") + number).trimmed();
 }
 } // namespace
 
@@ -157,13 +159,13 @@ Report PrepareInvoice(qint32 invoiceId, bool isWarranty)
     if (DataEnvironment().IsOpen(RepInvoice))
         DataEnvironment().Requery(RepInvoice);
     if (isWarranty)
-        report.Control("Label6").caption = QObject::tr("Warranty Invoice");
-    DataEnvironment().SetParameter(RepInvoice, "prmInvID", invoiceId);
-    report.Control("lblName").caption = CustomerName(invoiceId);
-    report.Control("lblDate").caption = ShortDate(Now());
+        report.Control(QStringLiteral("Label6")).caption = QObject::tr("Warranty Invoice");
+    DataEnvironment().SetParameter(RepInvoice, QStringLiteral("prmInvID"), invoiceId);
+    report.Control(QStringLiteral("lblName")).caption = CustomerName(invoiceId);
+    report.Control(QStringLiteral("lblDate")).caption = ShortDate(Now());
     const InvoiceStyle style = ReadInvoiceStyle();
-    report.Control("Label6").font.points = style.fontSize;
-    report.Control("lblDate").font.points = style.fontSize;
+    report.Control(QStringLiteral("Label6")).font.points = style.fontSize;
+    report.Control(QStringLiteral("lblDate")).font.points = style.fontSize;
     FormatAmounts(report);
     ShowBusiness(report);
     HideColumns(report, style);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "db/value.h"
-#include "platform/report_design.h"
+#include "paper/report_design.h"
+#include "sql/value.h"
 
 #include <QString>
 

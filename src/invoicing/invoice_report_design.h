@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report_design.h"
+#include "paper/report_design.h"
 
 /// The design `drepInvoice` as it is before the preparation of an invoice.
 Report InvoiceDesign();

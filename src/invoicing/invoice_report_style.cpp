@@ -1,8 +1,8 @@
 #include "invoicing/invoice_report_style.h"
 
-#include "platform/guard.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
+#include "base/guard.h"
+#include "base/numbers.h"
+#include "base/settings_store.h"
 
 #include <QLocale>
 

@@ -1,9 +1,9 @@
+#include "base/dates.h"
+#include "base/numbers.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "invoicing/current_invoice.h"
 #include "invoicing/invoice_page.h"
-#include "platform/dates.h"
-#include "platform/numbers.h"
 
 namespace {
 
@@ -21,13 +21,14 @@ void InvoicePage::UpdateInvoiceEdit()
     // nothing to save then, and no customer to add.
     if (gCurrentInvoiceId == -1)
         return;
-    const Batch batch(*gConnection);
-    CorrectDiscount();
-    if (gCurrentCustomerId != -1)
-        UpdateCustomer();
-    else
-        gCurrentCustomerId = AddCustomer();
-    UpdateInvoice();
+    InBatch(*gConnection, [&] {
+        CorrectDiscount();
+        if (gCurrentCustomerId != -1)
+            UpdateCustomer();
+        else
+            gCurrentCustomerId = AddCustomer();
+        UpdateInvoice();
+    });
 }
 
 void InvoicePage::CorrectDiscount()

@@ -1,8 +1,8 @@
 #include "invoicing/invoice_totals.h"
 
+#include "base/numbers.h"
+#include "base/regional.h"
 #include "config/secondary_tax.h"
-#include "platform/numbers.h"
-#include "platform/regional.h"
 
 Currency LineTotal(qint64 quantity, Currency amount, double taxPercentage)
 {

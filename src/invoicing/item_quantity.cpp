@@ -1,7 +1,7 @@
 #include "invoicing/item_quantity.h"
 
-#include "platform/layout.h"
-#include "platform/numbers.h"
+#include "base/numbers.h"
+#include "controls/layout.h"
 
 qint32 EditLineQuantity = 0;
 Currency EditLinePrice;
@@ -23,7 +23,7 @@ frmItemQuantity::frmItemQuantity(const QString& quantity, const QString& price, 
     txtQuantityToAdd->setText(quantity);
     txtQuantityToAdd->FocusAll();
 
-    On(cmdOk, &QPushButton::clicked, [this] { TakeOver(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmItemQuantity::TakeOver);
 }
 
 void frmItemQuantity::TakeOver()

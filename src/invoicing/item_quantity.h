@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/currency.h"
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "base/currency.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 
 #include <QPushButton>
 

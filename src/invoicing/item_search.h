@@ -1,6 +1,6 @@
 #pragma once
 
-#include "db/sql.h"
+#include "sql/sql.h"
 
 /// What the search for an item goes by: texts that are part of its name, description or number ("" for any), and a
 /// sub-category or a whole category (0 for all).

@@ -1,9 +1,9 @@
 #include "invoicing/order_lines.h"
 
+#include "base/numbers.h"
 #include "db/add_row.h"
 #include "db/connection.h"
 #include "invoicing/current_invoice.h"
-#include "platform/numbers.h"
 
 namespace {
 

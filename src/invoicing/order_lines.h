@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/currency.h"
+#include "base/currency.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "invoicing/picking_list.h"
 
-#include "db/data_environment.h"
-#include "platform/dialogs.h"
-#include "platform/report_band.h"
+#include "controls/dialogs.h"
+#include "paper/report_band.h"
+#include "records/data_environment.h"
 
 #include <QObject>
 #include <QPrinter>
@@ -23,12 +23,13 @@ void RegisterRepPickingList()
         return;
     DataEnvironment().Register({
         RepPickingList,
-        "SELECT InvoiceNo, ID FROM Invoice WHERE id = {paramInvoiceID}",
-        "SELECT InvoiceLine.Quantity, Item.Name, Location.Name AS LocationName, InvoiceLine.InvoiceID, Warehouse.name "
-        "AS WarehouseName FROM InvoiceLine, Item, Location, Warehouse WHERE InvoiceLine.ItemID = Item.ID AND "
-        "Item.LocationID = Location.ID AND Location.WarehouseID = Warehouse.ID",
-        " AND InvoiceLine.InvoiceID = {parentKey} ORDER BY InvoiceLine.ID",
-        "ID",
+        QStringLiteral("SELECT InvoiceNo, ID FROM Invoice WHERE id = {paramInvoiceID}"),
+        QStringLiteral(
+            "SELECT InvoiceLine.Quantity, Item.Name, Location.Name AS LocationName, InvoiceLine.InvoiceID, "
+            "Warehouse.name AS WarehouseName FROM InvoiceLine, Item, Location, Warehouse WHERE InvoiceLine.ItemID = "
+            "Item.ID AND Item.LocationID = Location.ID AND Location.WarehouseID = Warehouse.ID"),
+        QStringLiteral(" AND InvoiceLine.InvoiceID = {parentKey} ORDER BY InvoiceLine.ID"),
+        QStringLiteral("ID"),
         {},
     });
 }
@@ -37,21 +38,25 @@ void AddTitles(ReportSection& header)
 {
     header.repeatedFrom = 0;
     header.height = 330;
-    header.AddLabel("Label1", QObject::tr("Invoice No:"), 0, 0, 1300).Bold();
-    header.AddLabel("Label2", QObject::tr("Quantity"), QuantityColumn, 0, 850).RightAligned().Bold();
-    header.AddLabel("Label3", QObject::tr("Name"), NameColumn, 0, 3400).Bold();
-    header.AddLabel("Label4", QObject::tr("Location:"), LocationColumn, 0, 1900).Bold();
-    header.AddLabel("Label5", QObject::tr("Warehouse:"), WarehouseColumn, 0, Width - WarehouseColumn).Bold();
+    header.AddLabel(QStringLiteral("Label1"), QObject::tr("Invoice No:"), 0, 0, 1300).Bold();
+    header.AddLabel(QStringLiteral("Label2"), QObject::tr("Quantity"), QuantityColumn, 0, 850).RightAligned().Bold();
+    header.AddLabel(QStringLiteral("Label3"), QObject::tr("Name"), NameColumn, 0, 3400).Bold();
+    header.AddLabel(QStringLiteral("Label4"), QObject::tr("Location:"), LocationColumn, 0, 1900).Bold();
+    header.AddLabel(QStringLiteral("Label5"), QObject::tr("Warehouse:"), WarehouseColumn, 0, Width - WarehouseColumn)
+        .Bold();
 }
 
 void AddDetail(ReportSection& detail)
 {
     detail.height = 270;
-    detail.AddField("txtInvoiceID", "InvoiceNo", 0, 0, 1300).OfParent().Wraps(2, 2);
-    detail.AddField("txtQuantity", "Quantity", QuantityColumn, 0, 850).RightAligned();
-    detail.AddField("txtName", "Name", NameColumn, 0, 3400).Wraps(4, 6);
-    detail.AddField("txtLocationName", "LocationName", LocationColumn, 0, 1900).Wraps(3, 3);
-    detail.AddField("Text1", "WarehouseName", WarehouseColumn, 0, Width - WarehouseColumn).Wraps(3, 3);
+    detail.AddField(QStringLiteral("txtInvoiceID"), QStringLiteral("InvoiceNo"), 0, 0, 1300).OfParent().Wraps(2, 2);
+    detail.AddField(QStringLiteral("txtQuantity"), QStringLiteral("Quantity"), QuantityColumn, 0, 850).RightAligned();
+    detail.AddField(QStringLiteral("txtName"), QStringLiteral("Name"), NameColumn, 0, 3400).Wraps(4, 6);
+    detail.AddField(QStringLiteral("txtLocationName"), QStringLiteral("LocationName"), LocationColumn, 0, 1900)
+        .Wraps(3, 3);
+    detail
+        .AddField(QStringLiteral("Text1"), QStringLiteral("WarehouseName"), WarehouseColumn, 0, Width - WarehouseColumn)
+        .Wraps(3, 3);
 }
 
 Report PickingListDesign()
@@ -59,19 +64,19 @@ Report PickingListDesign()
     Report report(QObject::tr("Picking List"), Width);
     report.margins = {Margin, Margin, Margin, Margin};
     ReportSection& title = report.Section(ReportSectionKind::ReportHeader);
-    title.name = "ReportHeader";
+    title.name = QStringLiteral("ReportHeader");
     title.height = 480;
-    title.AddLabel("Label6", QObject::tr("Picking List"), 0, 0, Width).Bold().Sized(12).height = 300;
+    title.AddLabel(QStringLiteral("Label6"), QObject::tr("Picking List"), 0, 0, Width).Bold().Sized(12).height = 300;
 
     ReportSection& header = report.Section(ReportSectionKind::GroupHeader);
-    header.name = "repPickingList_Header";
+    header.name = QStringLiteral("repPickingList_Header");
     AddTitles(header);
     ReportSection& detail = report.Section(ReportSectionKind::Detail);
-    detail.name = "cmdPickingLine_Detail";
+    detail.name = QStringLiteral("cmdPickingLine_Detail");
     AddDetail(detail);
-    report.Section(ReportSectionKind::GroupFooter).name = "repPickingList_Footer";
-    report.Section(ReportSectionKind::PageFooter).name = "PageFooter";
-    report.Section(ReportSectionKind::ReportFooter).name = "ReportFooter";
+    report.Section(ReportSectionKind::GroupFooter).name = QStringLiteral("repPickingList_Footer");
+    report.Section(ReportSectionKind::PageFooter).name = QStringLiteral("PageFooter");
+    report.Section(ReportSectionKind::ReportFooter).name = QStringLiteral("ReportFooter");
     return report;
 }
 } // namespace
@@ -81,12 +86,13 @@ Report PreparePickingList(qint32 invoiceId)
     RegisterRepPickingList();
     if (DataEnvironment().IsOpen(RepPickingList))
         DataEnvironment().Close(RepPickingList);
-    DataEnvironment().SetParameter(RepPickingList, "paramInvoiceID", invoiceId);
+    DataEnvironment().SetParameter(RepPickingList, QStringLiteral("paramInvoiceID"), invoiceId);
     Report report = PickingListDesign();
     DataEnvironment().Bind(report, RepPickingList);
     const ReportTable& parent = report.rows->parents;
     if (parent.Count() > 0)
-        report.title += " " + ReportValueText(parent.At(0, parent.Field("InvoiceNo")), QString());
+        report.title +=
+            QStringLiteral(" ") + ReportValueText(parent.At(0, parent.Field(QStringLiteral("InvoiceNo"))), QString());
     report.FillPaper(PaperOf(CurrentPrinter()));
     return report;
 }

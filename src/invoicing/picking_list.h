@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report_design.h"
+#include "paper/report_design.h"
 
 /// The design `drepPickingList` with the lines of an invoice. Items without a location or warehouse are not on it.
 /// Throws RuntimeError when a statement fails.

@@ -1,9 +1,9 @@
 #include "invoicing/set_next_invoice_no.h"
 
+#include "base/numbers.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "db/connection.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
-#include "platform/numbers.h"
 
 frmSetNextInvoiceNo::frmSetNextInvoiceNo(QWidget* parent)
     : Form("frmSetNextInvoiceNo", tr("Set Next Invoice Number"), parent)
@@ -20,7 +20,7 @@ frmSetNextInvoiceNo::frmSetNextInvoiceNo(QWidget* parent)
 
     ShowNextNumber();
 
-    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmSetNextInvoiceNo::Save);
 }
 
 void frmSetNextInvoiceNo::ShowNextNumber()

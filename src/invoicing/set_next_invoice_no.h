@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/form.h"
-#include "platform/text_box.h"
+#include "controls/form.h"
+#include "controls/text_box.h"
 
 /// Sets the number that the next invoice takes. Invoices that have a number keep it.
 class frmSetNextInvoiceNo : public Form {

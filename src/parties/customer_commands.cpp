@@ -1,10 +1,10 @@
 #include "parties/customer_commands.h"
 
-#include "config/new_row.h"
+#include "base/runtime_error.h"
+#include "controls/message_box.h"
 #include "db/connection.h"
+#include "db/new_row.h"
 #include "parties/customer_record.h"
-#include "platform/message_box.h"
-#include "platform/runtime_error.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "parties/customer_criteria.h"
 
-#include "db/sql.h"
+#include "sql/sql.h"
 
 #include <QStringList>
 

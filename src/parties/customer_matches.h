@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/flex_grid.h"
 #include "db/recordset.h"
-#include "platform/flex_grid.h"
 
 #include <optional>
 

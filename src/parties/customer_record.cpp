@@ -1,9 +1,9 @@
 #include "parties/customer_record.h"
 
-#include "config/new_row.h"
+#include "base/numbers.h"
+#include "controls/layout.h"
 #include "db/connection.h"
-#include "platform/layout.h"
-#include "platform/numbers.h"
+#include "db/new_row.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ frmCustomer::frmCustomer(QWidget* parent)
     else
         ShowStoredCustomer();
 
-    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmCustomer::Save);
 }
 
 PartyFields frmCustomer::Fields() const

@@ -1,17 +1,18 @@
 #include "parties/customers_panel.h"
 
-#include "config/lists.h"
+#include "controls/layout.h"
 #include "parties/customer_commands.h"
 #include "parties/customer_record.h"
 #include "parties/customer_texts.h"
-#include "platform/layout.h"
+#include "records/lists.h"
 
 namespace {
 
 /// One a column; the name's is the default order.
 const QStringList& SortExpressions()
 {
-    static const QStringList expressions{"", "address1", "postcode", "phone"};
+    static const QStringList expressions{
+        QString(), QStringLiteral("address1"), QStringLiteral("postcode"), QStringLiteral("phone")};
     return expressions;
 }
 
@@ -56,15 +57,15 @@ CustomersPanel::CustomersPanel(QWidget* parent)
         buttonBar,
     }));
 
-    On(gcust, &FlexGrid::Click,
+    On(gcust, &FlexGrid::Click, this,
         [this] { SortOnTitleClick(gcust, SortExpressions(), [this] { RefreshCustomerList(gcust->Row(), 0); }); });
-    On(gcust, &FlexGrid::DblClick, [this] {
+    On(gcust, &FlexGrid::DblClick, this, [this] {
         if (gcust->MouseRow() != 0)
             EditSelected();
     });
-    On(cmdEditCustomer, &QPushButton::clicked, [this] { EditSelected(); });
-    On(cmdCreateCustomer, &QPushButton::clicked, [this] { AddCustomer(); });
-    On(cmdDeleteCustomer, &QPushButton::clicked, [this] { DeleteSelected(); });
+    On(cmdEditCustomer, &QPushButton::clicked, this, &CustomersPanel::EditSelected);
+    On(cmdCreateCustomer, &QPushButton::clicked, this, &CustomersPanel::AddCustomer);
+    On(cmdDeleteCustomer, &QPushButton::clicked, this, &CustomersPanel::DeleteSelected);
 }
 
 void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)

@@ -1,7 +1,7 @@
 #include "parties/email_link.h"
 
-#include "platform/dialogs.h"
-#include "platform/guard.h"
+#include "base/guard.h"
+#include "controls/dialogs.h"
 
 #include <QKeyEvent>
 #include <QStyleOptionFocusRect>
@@ -33,7 +33,7 @@ EmailLink::EmailLink(QWidget* parent)
 
 void EmailLink::WriteTo(const QLineEdit* address)
 {
-    On(this, &QLabel::linkActivated, [address] { OpenLink(MailTo + address->text()); });
+    On(this, &QLabel::linkActivated, this, [address] { OpenLink(MailTo + address->text()); });
 }
 
 void EmailLink::keyPressEvent(QKeyEvent* event)

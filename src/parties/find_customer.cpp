@@ -1,12 +1,12 @@
 #include "parties/find_customer.h"
 
-#include "config/lists.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
 #include "parties/customer_commands.h"
 #include "parties/customer_criteria.h"
 #include "parties/customer_matches.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "records/lists.h"
 
 #include <QHeaderView>
 #include <QScreen>
@@ -63,17 +63,17 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
     resize(FormWidth, sizeHint().height());
     DoResize();
 
-    On(cmdOk, &QPushButton::clicked, [this] { StartSearch(); });
-    On(cmdCreateCustomer, &QPushButton::clicked, [this] {
+    On(cmdOk, &QPushButton::clicked, this, &frmFindCustomer::StartSearch);
+    On(cmdCreateCustomer, &QPushButton::clicked, this, [this] {
         AddCustomer(this);
         RefreshCustomerScreen(1, 0);
     });
-    On(cmdEditCustomer, &QPushButton::clicked, [this] { EditSelected(); });
-    On(gcust, &FlexGrid::DblClick, [this] {
+    On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindCustomer::EditSelected);
+    On(gcust, &FlexGrid::DblClick, this, [this] {
         if (gcust->MouseRow() != 0)
             EditSelected();
     });
-    On(cmdDeleteCustomer, &QPushButton::clicked, [this] { DeleteSelected(); });
+    On(cmdDeleteCustomer, &QPushButton::clicked, this, &frmFindCustomer::DeleteSelected);
 }
 
 QLayout* frmFindCustomer::Criteria()

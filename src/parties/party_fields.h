@@ -1,9 +1,9 @@
 #pragma once
 
+#include "controls/text_box.h"
 #include "db/add_row.h"
 #include "db/recordset.h"
-#include "db/sql.h"
-#include "platform/text_box.h"
+#include "sql/sql.h"
 
 #include <QList>
 

@@ -1,8 +1,8 @@
 #include "parties/vendor_record.h"
 
-#include "config/new_row.h"
+#include "controls/layout.h"
 #include "db/connection.h"
-#include "platform/layout.h"
+#include "db/new_row.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ frmVendor::frmVendor(QWidget* parent)
     if (gEditVendorId != NewRow)
         ShowStoredVendor();
 
-    On(cmdOk, &QPushButton::clicked, [this] { Save(); });
+    On(cmdOk, &QPushButton::clicked, this, &frmVendor::Save);
 }
 
 PartyFields frmVendor::Fields() const

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/form.h"
 #include "parties/email_link.h"
 #include "parties/party_fields.h"
-#include "platform/form.h"
 
 #include <QPushButton>
 

@@ -1,17 +1,17 @@
 #include "parties/vendors_panel.h"
 
-#include "config/lists.h"
-#include "config/new_row.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
+#include "db/new_row.h"
 #include "parties/vendor_record.h"
-#include "platform/layout.h"
-#include "platform/message_box.h"
+#include "records/lists.h"
 
 namespace {
 
 /// One a column; the business name's is the default order.
 const QStringList& SortExpressions()
 {
-    static const QStringList expressions{"", "contactname", "phone"};
+    static const QStringList expressions{QString(), QStringLiteral("contactname"), QStringLiteral("phone")};
     return expressions;
 }
 
@@ -57,15 +57,15 @@ VendorsPanel::VendorsPanel(QWidget* parent)
         buttonBar,
     }));
 
-    On(gVendors, &FlexGrid::Click,
+    On(gVendors, &FlexGrid::Click, this,
         [this] { SortOnTitleClick(gVendors, SortExpressions(), [this] { RefreshVendorList(gVendors->Row(), 0); }); });
-    On(gVendors, &FlexGrid::DblClick, [this] {
+    On(gVendors, &FlexGrid::DblClick, this, [this] {
         if (gVendors->MouseRow() != 0)
             EditSelected();
     });
-    On(cmdVendorEdit, &QPushButton::clicked, [this] { EditSelected(); });
-    On(cmdVendorNew, &QPushButton::clicked, [this] { AddVendor(); });
-    On(cmdVendorDelete, &QPushButton::clicked, [this] { DeleteSelected(); });
+    On(cmdVendorEdit, &QPushButton::clicked, this, &VendorsPanel::EditSelected);
+    On(cmdVendorNew, &QPushButton::clicked, this, &VendorsPanel::AddVendor);
+    On(cmdVendorDelete, &QPushButton::clicked, this, &VendorsPanel::DeleteSelected);
 }
 
 void VendorsPanel::RefreshVendorList(int row, qint64 selectId)

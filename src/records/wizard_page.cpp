@@ -1,6 +1,6 @@
 #include "records/wizard_page.h"
 
-#include "platform/layout.h"
+#include "controls/layout.h"
 
 #include <QFrame>
 
@@ -29,12 +29,12 @@ WizardPage::WizardPage(const char* name, const QString& title, const WizardState
     cmdNext->setDefault(true);
     cmdCancel->setText(tr("&Cancel"));
 
-    On(cmdBack, &QPushButton::clicked, [this] { Leave(-1); });
-    On(cmdNext, &QPushButton::clicked, [this] {
+    On(cmdBack, &QPushButton::clicked, this, [this] { Leave(-1); });
+    On(cmdNext, &QPushButton::clicked, this, [this] {
         if (StoreAnswers())
             Leave(1);
     });
-    On(cmdCancel, &QPushButton::clicked, [this] { m_wizard.WizardCancelled = true; });
+    On(cmdCancel, &QPushButton::clicked, this, [this] { m_wizard.WizardCancelled = true; });
     SetCancelButton(cmdCancel);
 }
 

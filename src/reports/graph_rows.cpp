@@ -1,8 +1,8 @@
 #include "reports/graph_rows.h"
 
+#include "base/clock.h"
+#include "base/dates.h"
 #include "db/connection.h"
-#include "platform/clock.h"
-#include "platform/dates.h"
 #include "reports/statistics.h"
 
 #include <functional>

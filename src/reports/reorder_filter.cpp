@@ -1,8 +1,8 @@
 #include "reports/reorder_filter.h"
 
-#include "config/lists.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
+#include "controls/hourglass.h"
+#include "controls/layout.h"
+#include "records/lists.h"
 
 bool ReorderFilterConfirmed = false;
 int ReorderFilterKind = 0;
@@ -18,8 +18,8 @@ frmReorderReportFilter::frmReorderReportFilter(QWidget* parent)
     EnableChosenList();
 
     for (QRadioButton* option : {optFilter_0, optFilter_1, optFilter_2, optFilter_3})
-        On(option, &QRadioButton::toggled, [this] { EnableChosenList(); });
-    On(cmdDisplay, &QPushButton::clicked, [this] { Confirm(); });
+        On(option, &QRadioButton::toggled, this, &frmReorderReportFilter::EnableChosenList);
+    On(cmdDisplay, &QPushButton::clicked, this, &frmReorderReportFilter::Confirm);
 }
 
 void frmReorderReportFilter::BuildLayout()
@@ -38,7 +38,7 @@ void frmReorderReportFilter::BuildLayout()
     choices->addWidget(optFilter_0, 0, 0);
     int line = 1;
     for (const Filter& filter : Filters()) {
-        filter.list->setAccessibleName(filter.option->text().remove(':'));
+        filter.list->setAccessibleName(filter.option->text().remove(u':'));
         filter.list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         filter.list->setMinimumContentsLength(30);
         choices->addWidget(filter.option, line, 0);
@@ -71,8 +71,8 @@ void frmReorderReportFilter::FillLists()
             filter.list->SetListIndex(0);
     }
     // Field names: the statement sorts by the text of the entry.
-    cboSort->AddItem("Name", 0);
-    cboSort->AddItem("Number", 0);
+    cboSort->AddItem(QStringLiteral("Name"), 0);
+    cboSort->AddItem(QStringLiteral("Number"), 0);
     cboSort->SetListIndex(0);
 }
 
@@ -86,7 +86,7 @@ void frmReorderReportFilter::Confirm()
 {
     ReorderFilterConfirmed = true;
     ReorderFilterKind = 0;
-    ReorderFilterValue = "-1";
+    ReorderFilterValue = QStringLiteral("-1");
     int kind = 0;
     for (const Filter& filter : Filters()) {
         ++kind;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/combo_box.h"
-#include "platform/form.h"
+#include "controls/combo_box.h"
+#include "controls/form.h"
 
 #include <QRadioButton>
 

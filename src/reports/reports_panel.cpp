@@ -1,8 +1,8 @@
 #include "reports/reports_panel.h"
 
+#include "controls/hourglass.h"
+#include "controls/layout.h"
 #include "db/connection.h"
-#include "platform/hourglass.h"
-#include "platform/layout.h"
 #include "reports/graph_rows.h"
 
 #include <QTextDocument>
@@ -51,11 +51,11 @@ ReportsPanel::ReportsPanel(QWidget* parent)
     setLayout(column({row({TopIcon(), TitleLabel(), stretch()}), scrolling(body)}));
     PlaceGraph();
 
-    On(cmdExpand, &QPushButton::clicked, [this] { ToggleExpand(); });
+    On(cmdExpand, &QPushButton::clicked, this, [this] { ToggleExpand(); });
     for (ComboBox* choice : {cboGraphType, cboGraphStyle})
-        On(choice, &ComboBox::Click, [this] { RefreshGraph(cboGraphType->ListIndex()); });
+        On(choice, &ComboBox::Click, this, [this] { RefreshGraph(cboGraphType->ListIndex()); });
     for (ComboBox* list : {cboReportFirstProduct, cboReportSecondProduct})
-        On(list, &ComboBox::Click, [this, list] { ProductChosen(list); });
+        On(list, &ComboBox::Click, this, [this, list] { ProductChosen(list); });
 }
 
 QLayout* ReportsPanel::BuildGraph()

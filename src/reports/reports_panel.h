@@ -1,8 +1,8 @@
 #pragma once
 
 #include "chart/chart.h"
-#include "platform/combo_box.h"
-#include "platform/form.h"
+#include "controls/combo_box.h"
+#include "controls/form.h"
 #include "reports/statistics_frame.h"
 
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #include "reports/statistics.h"
 
+#include "base/clock.h"
+#include "base/dates.h"
 #include "db/connection.h"
-#include "platform/clock.h"
-#include "platform/dates.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "reports/statistics_frame.h"
 
-#include "platform/clock.h"
-#include "platform/guard.h"
-#include "platform/layout.h"
+#include "base/clock.h"
+#include "base/guard.h"
+#include "controls/layout.h"
 #include "reports/statistics.h"
 
 #include <QScrollArea>

@@ -1,9 +1,9 @@
 #include "reports/stock_reports.h"
 
-#include "db/data_environment.h"
-#include "platform/dialogs.h"
-#include "platform/hourglass.h"
-#include "platform/preview_window.h"
+#include "controls/dialogs.h"
+#include "controls/hourglass.h"
+#include "paper/preview_window.h"
+#include "records/data_environment.h"
 #include "reports/reorder_filter.h"
 
 #include <QObject>
@@ -21,44 +21,51 @@ constexpr int NameWidth = StockColumn - NameColumn - 50;
 
 void Register(const char* name, const char* statement)
 {
-    if (!DataEnvironment().Has(name))
-        DataEnvironment().Register({name, statement, "", "", "", {}});
+    const QString command = QString::fromLatin1(name);
+    if (!DataEnvironment().Has(command))
+        DataEnvironment().Register({command, QString::fromLatin1(statement), QString(), QString(), QString(), {}});
 }
 
 void AddTitles(ReportSection& header)
 {
-    header.name = "PageHeader";
+    header.name = QStringLiteral("PageHeader");
     header.height = 400;
-    header.AddLabel("Label2", QObject::tr("Number"), 0, 0, NumberWidth).Bold();
-    header.AddLabel("Label3", QObject::tr("Name"), NameColumn, 0, NameWidth).Bold();
-    header.AddLabel("Label4", QObject::tr("No In Stock"), StockColumn, 0, 1050).RightAligned().Bold();
-    header.AddLabel("Label5", QObject::tr("Min Stock Level"), MinStockColumn, 0, 1480).RightAligned().Bold();
-    header.AddLabel("Label6", QObject::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
-    header.AddLine("Line1", 0, 280, Width);
+    header.AddLabel(QStringLiteral("Label2"), QObject::tr("Number"), 0, 0, NumberWidth).Bold();
+    header.AddLabel(QStringLiteral("Label3"), QObject::tr("Name"), NameColumn, 0, NameWidth).Bold();
+    header.AddLabel(QStringLiteral("Label4"), QObject::tr("No In Stock"), StockColumn, 0, 1050).RightAligned().Bold();
+    header.AddLabel(QStringLiteral("Label5"), QObject::tr("Min Stock Level"), MinStockColumn, 0, 1480)
+        .RightAligned()
+        .Bold();
+    header.AddLabel(QStringLiteral("Label6"), QObject::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
+    header.AddLine(QStringLiteral("Line1"), 0, 280, Width);
 }
 
 void AddDetail(ReportSection& detail, const QString& numberField)
 {
-    detail.name = "Detail";
+    detail.name = QStringLiteral("Detail");
     detail.height = 250;
-    detail.AddField("Text1", numberField, 0, 0, NumberWidth).Wraps(2, 2);
-    detail.AddField("txtName", "Name", NameColumn, 0, NameWidth).Wraps(3, 3);
-    detail.AddField("txtNoInStock", "NoInStock", StockColumn, 0, 1050).RightAligned();
-    detail.AddField("txtMinStockLevel", "MinStockLevel", MinStockColumn, 0, 1480).RightAligned();
-    detail.AddField("txtBusinessName", "BusinessName", VendorColumn, 0, Width - VendorColumn).Wraps(2, 2);
+    detail.AddField(QStringLiteral("Text1"), numberField, 0, 0, NumberWidth).Wraps(2, 2);
+    detail.AddField(QStringLiteral("txtName"), QStringLiteral("Name"), NameColumn, 0, NameWidth).Wraps(3, 3);
+    detail.AddField(QStringLiteral("txtNoInStock"), QStringLiteral("NoInStock"), StockColumn, 0, 1050).RightAligned();
+    detail.AddField(QStringLiteral("txtMinStockLevel"), QStringLiteral("MinStockLevel"), MinStockColumn, 0, 1480)
+        .RightAligned();
+    detail
+        .AddField(
+            QStringLiteral("txtBusinessName"), QStringLiteral("BusinessName"), VendorColumn, 0, Width - VendorColumn)
+        .Wraps(2, 2);
 }
 
 Report StockDesign(const QString& title, const QString& numberField)
 {
     Report report(title, Width);
     ReportSection& header = report.Section(ReportSectionKind::ReportHeader);
-    header.name = "ReportHeader";
+    header.name = QStringLiteral("ReportHeader");
     header.height = 480;
-    header.AddLabel("Label1", title, 0, 0, Width).Bold().Sized(12).height = 300;
+    header.AddLabel(QStringLiteral("Label1"), title, 0, 0, Width).Bold().Sized(12).height = 300;
     AddTitles(report.Section(ReportSectionKind::PageHeader));
     AddDetail(report.Section(ReportSectionKind::Detail), numberField);
-    report.Section(ReportSectionKind::PageFooter).name = "PageFooter";
-    report.Section(ReportSectionKind::ReportFooter).name = "ReportFooter";
+    report.Section(ReportSectionKind::PageFooter).name = QStringLiteral("PageFooter");
+    report.Section(ReportSectionKind::ReportFooter).name = QStringLiteral("ReportFooter");
     return report;
 }
 
@@ -98,7 +105,7 @@ void RewriteFilteredCommand()
         "vendor.id = {prmVendorID}");
     const QString statement = FilteredStatement();
     if (!statement.isEmpty())
-        DataEnvironment().Command("repFilteredReorder").parentStatement = statement;
+        DataEnvironment().Command(QStringLiteral("repFilteredReorder")).parentStatement = statement;
 }
 } // namespace
 
@@ -107,34 +114,34 @@ Report PrepareReorderReport()
     Register("repReorder",
         "SELECT item.number, * FROM item, vendor WHERE item.vendorid = vendor.id AND item.noinstock < "
         "item.reorderlevel");
-    if (DataEnvironment().IsOpen("repReorder"))
-        DataEnvironment().Requery("repReorder");
-    Report report = StockDesign(QObject::tr("Reorder Report"), "number");
+    if (DataEnvironment().IsOpen(QStringLiteral("repReorder")))
+        DataEnvironment().Requery(QStringLiteral("repReorder"));
+    Report report = StockDesign(QObject::tr("Reorder Report"), QStringLiteral("number"));
     WidenToPaper(report);
-    DataEnvironment().Bind(report, "repReorder");
+    DataEnvironment().Bind(report, QStringLiteral("repReorder"));
     return report;
 }
 
 Report PrepareFilteredReorderReport()
 {
-    if (DataEnvironment().IsOpen("repFilteredReorder"))
-        DataEnvironment().Close("repFilteredReorder");
-    Report report = StockDesign(QObject::tr("Filtered Reorder Report"), "Number");
+    if (DataEnvironment().IsOpen(QStringLiteral("repFilteredReorder")))
+        DataEnvironment().Close(QStringLiteral("repFilteredReorder"));
+    Report report = StockDesign(QObject::tr("Filtered Reorder Report"), QStringLiteral("Number"));
     WidenToPaper(report);
     RewriteFilteredCommand();
-    if (DataEnvironment().IsOpen("repFilteredReorder"))
-        DataEnvironment().Requery("repFilteredReorder");
-    DataEnvironment().Bind(report, "repFilteredReorder");
+    if (DataEnvironment().IsOpen(QStringLiteral("repFilteredReorder")))
+        DataEnvironment().Requery(QStringLiteral("repFilteredReorder"));
+    DataEnvironment().Bind(report, QStringLiteral("repFilteredReorder"));
     return report;
 }
 
 Report PrepareStockLevelReport()
 {
     Register("repStockLevel", "SELECT * FROM item, vendor WHERE item.vendorid = vendor.id ORDER BY item.name");
-    if (DataEnvironment().IsOpen("repStockLevel"))
-        DataEnvironment().Requery("repStockLevel");
-    Report report = StockDesign(QObject::tr("Stock Level Report"), "Number");
-    DataEnvironment().Bind(report, "repStockLevel");
+    if (DataEnvironment().IsOpen(QStringLiteral("repStockLevel")))
+        DataEnvironment().Requery(QStringLiteral("repStockLevel"));
+    Report report = StockDesign(QObject::tr("Stock Level Report"), QStringLiteral("Number"));
+    DataEnvironment().Bind(report, QStringLiteral("repStockLevel"));
     return report;
 }
 
@@ -152,7 +159,7 @@ void ShowFilteredReorderReport(QWidget* parent)
         return;
     Hourglass hourglass;
     ShowPreview(PrepareFilteredReorderReport());
-    DataEnvironment().Close("repFilteredReorder");
+    DataEnvironment().Close(QStringLiteral("repFilteredReorder"));
 }
 
 void ShowStockLevelReport()

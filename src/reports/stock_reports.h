@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report_design.h"
+#include "paper/report_design.h"
 
 #include <QWidget>
 

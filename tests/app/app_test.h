@@ -2,7 +2,7 @@
 
 #include "app/load_step.h"
 #include "app/main_window.h"
-#include "platform/settings_store.h"
+#include "base/settings_store.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_database.h"

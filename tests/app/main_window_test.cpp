@@ -1,8 +1,8 @@
 #include "app/app_test.h"
 #include "app/main_grids.h"
+#include "base/regional.h"
 #include "config/secondary_tax.h"
 #include "invoicing/current_invoice.h"
-#include "platform/regional.h"
 #include "support/form_check.h"
 
 #include <QLocale>
@@ -267,7 +267,7 @@ TEST_F(LoadTest, EveryPanelIsFitToShow)
     window.ShowMainPanel(VendorsListPanel);
     CheckScreen(window.picVendors, window.picVendors->Controls(), {});
     window.ShowMainPanel(ReportsViewPanel);
-    CheckScreen(window.picReports, window.picReports->Controls(), {});
+    CheckScreen(window.picReports, window.picReports->Controls(), {"cboReportFirstProduct", "cboReportSecondProduct"});
     window.ShowMainPanel(InventoryListPanel);
     CheckScreen(window.picInventory, window.picInventory->Controls(), {});
     window.ShowMainPanel(ItemGroupsPanel);

@@ -3,10 +3,10 @@
 #include "app/splash.h"
 #include "app/start.h"
 #include "app/tip.h"
+#include "base/files.h"
 #include "config/configuration_pages.h"
 #include "config/secondary_tax.h"
 #include "invoicing/current_invoice.h"
-#include "platform/files.h"
 
 #include <QDir>
 #include <QFile>

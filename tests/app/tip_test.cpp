@@ -1,7 +1,7 @@
 #include "app/app_test.h"
 #include "app/tip.h"
 #include "app/tips.h"
-#include "platform/files.h"
+#include "base/files.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
+#include "base/runtime_error.h"
 #include "chart/chart.h"
-#include "platform/runtime_error.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>

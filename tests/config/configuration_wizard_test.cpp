@@ -1,8 +1,8 @@
+#include "base/numbers.h"
+#include "base/settings_store.h"
 #include "config/configuration_pages.h"
 #include "config/configuration_wizard.h"
 #include "config/secondary_tax.h"
-#include "platform/numbers.h"
-#include "platform/settings_store.h"
 #include "support/form_test.h"
 
 #include <QDir>

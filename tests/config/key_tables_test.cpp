@@ -249,4 +249,4 @@ TEST_P(KeyTablesTest, ARowThatHasGoneIsReportedAndNotWrittenAnew)
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, KeyTablesTest,
     ::testing::Values(TaxRatesDialog, WarehousesDialog, LocationsDialog, CategoriesDialog, SubCategoriesDialog),
-    [](const auto& info) { return std::string(info.param.table); });
+    [](const auto& table) { return std::string(table.param.table); });

@@ -1,6 +1,6 @@
 #include "config/secondary_tax.h"
 
-#include "platform/runtime_error.h"
+#include "base/runtime_error.h"
 #include "support/temporary_database.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
+#include "base/guard.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection_private.h"
 #include "db/engine_errors.h"
 #include "db/make_database.h"
-#include "platform/guard.h"
 #include "support/temporary_database.h"
 
 #include <QDir>
@@ -138,13 +138,12 @@ TEST_F(Writing, ABatchKeepsWhatRanBeforeAFailure)
 {
     const int item = Item("Screws").Stock(10).Add();
     const auto act = [&] {
-        Batch batch(*gConnection);
-        {
-            Batch inner(*gConnection);
-            gConnection->Execute("UPDATE item SET noinstock = 7");
-        }
-        EXPECT_EQ(Stock(item), 10) << "the inner batch must not commit";
-        gConnection->Execute("UPDATE item SET noinstock = abc");
+        InBatch(*gConnection, [&] {
+            InBatch(*gConnection, [&] { gConnection->Execute("UPDATE item SET noinstock = 7"); });
+
+            EXPECT_EQ(Stock(item), 10) << "the inner batch must not commit";
+            gConnection->Execute("UPDATE item SET noinstock = abc");
+        });
     };
     EXPECT_THROW(act(), RuntimeError);
     EXPECT_EQ(Stock(item), 7);
@@ -159,15 +158,16 @@ TEST_F(Writing, AKilledProcessLeavesTheOldRows)
         Connection connection;
         connection.Open(path);
         connection.Private().RunPlain("PRAGMA cache_size = 1");
-        Batch batch(connection);
-        connection.Execute("UPDATE item SET noinstock = 1");
-        for (int i = 0; i < 200; ++i) {
-            AddRow row(connection, "invoice");
-            row.AddNew();
-            row.Set("Notes", QString(5000, u'x'));
-            row.Update();
-        }
-        kill(getpid(), SIGKILL);
+        InBatch(connection, [&] {
+            connection.Execute("UPDATE item SET noinstock = 1");
+            for (int i = 0; i < 200; ++i) {
+                AddRow row(connection, "invoice");
+                row.AddNew();
+                row.Set("Notes", QString(5000, u'x'));
+                row.Update();
+            }
+            kill(getpid(), SIGKILL);
+        });
     }
     int status = 0;
     waitpid(child, &status, 0);
@@ -185,9 +185,10 @@ TEST_F(Writing, AFullDiskUndoesTheActAndLeavesTheFileUsable)
     gConnection->Private().RunPlain("PRAGMA max_page_count = 100");
     const QString text(1000000, u'x');
     const auto fill = [&] {
-        Batch batch(*gConnection);
-        gConnection->Execute("UPDATE item SET noinstock = 7");
-        gConnection->Execute(Sql("UPDATE item SET description = '{text}'").Text("text", text));
+        InBatch(*gConnection, [&] {
+            gConnection->Execute("UPDATE item SET noinstock = 7");
+            gConnection->Execute(Sql("UPDATE item SET description = '{text}'").Text("text", text));
+        });
     };
     EXPECT_THROW(fill(), RuntimeError);
     EXPECT_EQ(Stock(item), 10);
@@ -207,7 +208,7 @@ TEST_F(Writing, NothingIsWrittenOnceTheProgramHasEnded)
     SetProgramEnd([](const RuntimeError&) {});
     EndProgram(TypeMismatch());
     EXPECT_THROW(gConnection->Execute("UPDATE warehouse SET name = 'x'"), RuntimeError);
-    EXPECT_THROW(Batch batch(*gConnection), RuntimeError);
+    EXPECT_THROW(InBatch(*gConnection, [] {}), RuntimeError);
     EXPECT_THROW(AddRow(*gConnection, "warehouse"), RuntimeError);
     SetProgramEnd({});
     EXPECT_EQ(Single("SELECT name FROM warehouse"), "Default Warehouse");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/new_row.h"
+#include "db/new_row.h"
 #include "inventory/edit_item.h"
 #include "inventory/item_details.h"
 #include "support/form_test.h"

@@ -1,6 +1,6 @@
 #include "invoicing/invoice_history.h"
 
-#include "config/lists.h"
+#include "records/lists.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_database.h"

@@ -1,7 +1,7 @@
 #include "invoice_page_fixture.h"
 
 #include "invoicing/item_quantity.h"
-#include "platform/preview_window.h"
+#include "paper/preview_window.h"
 
 #include <QApplication>
 

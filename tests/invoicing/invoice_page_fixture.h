@@ -1,9 +1,9 @@
 #pragma once
 
-#include "config/lists.h"
 #include "config/secondary_tax.h"
 #include "invoicing/current_invoice.h"
 #include "invoicing/invoice_page.h"
+#include "records/lists.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_database.h"

@@ -1,7 +1,7 @@
 #include "invoicing/config_invoice.h"
 
+#include "base/settings_store.h"
 #include "invoicing/invoice_report_style.h"
-#include "platform/settings_store.h"
 #include "support/form_check.h"
 #include "support/screen.h"
 #include "support/temporary_database.h"

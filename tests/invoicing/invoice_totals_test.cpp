@@ -1,9 +1,9 @@
 #include "invoicing/invoice_totals.h"
 
+#include "base/numbers.h"
+#include "base/regional.h"
+#include "base/runtime_error.h"
 #include "config/secondary_tax.h"
-#include "platform/numbers.h"
-#include "platform/regional.h"
-#include "platform/runtime_error.h"
 #include "support/temporary_database.h"
 
 #include <random>

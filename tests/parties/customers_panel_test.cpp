@@ -1,7 +1,7 @@
+#include "base/runtime_error.h"
 #include "parties/customer_texts.h"
 #include "parties/customers_panel.h"
 #include "parties_test.h"
-#include "platform/runtime_error.h"
 
 namespace {
 

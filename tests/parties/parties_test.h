@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/new_row.h"
+#include "db/new_row.h"
 #include "parties/customer_record.h"
 #include "support/form_test.h"
 

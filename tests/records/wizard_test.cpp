@@ -1,7 +1,7 @@
 #include "records/wizard.h"
 
-#include "platform/layout.h"
-#include "platform/text_box.h"
+#include "controls/layout.h"
+#include "controls/text_box.h"
 #include "support/form_test.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "reports/reports_panel.h"
 
-#include "platform/clock.h"
-#include "platform/regional.h"
+#include "base/clock.h"
+#include "base/regional.h"
 #include "support/form_test.h"
 
 namespace {

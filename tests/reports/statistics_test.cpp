@@ -1,7 +1,7 @@
 #include "reports/statistics.h"
 
-#include "platform/clock.h"
-#include "platform/runtime_error.h"
+#include "base/clock.h"
+#include "base/runtime_error.h"
 #include "reports/graph_rows.h"
 #include "support/temporary_database.h"
 

@@ -1,8 +1,8 @@
 #include "reports/stock_reports.h"
 
-#include "db/data_environment.h"
-#include "platform/dialogs.h"
-#include "platform/preview_window.h"
+#include "controls/dialogs.h"
+#include "paper/preview_window.h"
+#include "records/data_environment.h"
 #include "reports/reorder_filter.h"
 #include "support/form_check.h"
 #include "support/golden.h"

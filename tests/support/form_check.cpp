@@ -1,6 +1,6 @@
 #include "support/form_check.h"
 
-#include "platform/flex_grid.h"
+#include "controls/flex_grid.h"
 #include "support/screen.h"
 
 #include <gtest/gtest.h>

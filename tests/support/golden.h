@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/report_layout.h"
-#include "platform/report_text.h"
+#include "paper/report_layout.h"
+#include "paper/report_text.h"
 
 #include <gtest/gtest.h>
 

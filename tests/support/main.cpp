@@ -1,4 +1,4 @@
-#include "platform/regional.h"
+#include "base/regional.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 

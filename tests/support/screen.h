@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/combo_box.h"
-#include "platform/flex_grid.h"
+#include "controls/combo_box.h"
+#include "controls/flex_grid.h"
 
 #include <QDialog>
 #include <QWidget>

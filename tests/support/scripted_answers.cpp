@@ -1,6 +1,6 @@
 #include "support/scripted_answers.h"
 
-#include "platform/guard.h"
+#include "base/guard.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/dialogs.h"
-#include "platform/message_box.h"
-#include "platform/runtime_error.h"
+#include "base/runtime_error.h"
+#include "controls/dialogs.h"
+#include "controls/message_box.h"
 
 #include <QStringList>
 

@@ -1,11 +1,11 @@
 #include "support/temporary_database.h"
 
+#include "base/clock.h"
+#include "base/files.h"
+#include "base/regional.h"
+#include "base/settings_store.h"
 #include "db/connection_private.h"
 #include "db/make_database.h"
-#include "platform/clock.h"
-#include "platform/files.h"
-#include "platform/regional.h"
-#include "platform/settings_store.h"
 
 #include <QDir>
 #include <QFile>

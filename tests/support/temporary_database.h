@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/currency.h"
 #include "db/connection.h"
-#include "platform/currency.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>

@@ -267,4 +267,4 @@ INSTANTIATE_TEST_SUITE_P(MakeDatabase, DemoShopFlaws,
         Flaw{"CustomValueThatIsNoOption",
             "ItemCustomFieldData JOIN ItemCustomField ON ItemCustomField.id = ItemCustomFieldID WHERE "
             "type = 'combobox' AND data NOT IN (SELECT option FROM itemCustomFieldOption)"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });

@@ -1,6 +1,6 @@
 #include "arguments.h"
 
-#include "platform/clock.h"
+#include "base/clock.h"
 
 #include <QCommandLineParser>
 

@@ -2,7 +2,7 @@
 
 #include "people.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "ean13.h"
 #include "people.h"
 
-#include "db/schema.h"
-#include "platform/numbers.h"
+#include "base/numbers.h"
+#include "sql/schema.h"
 
 #include <vector>
 

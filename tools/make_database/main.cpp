@@ -1,7 +1,7 @@
 #include "arguments.h"
 #include "database_maker.h"
 
-#include "platform/runtime_error.h"
+#include "base/runtime_error.h"
 
 #include <QCoreApplication>
 

@@ -6,10 +6,10 @@
 
 #include "app/image_lists.h"
 #include "app/start.h"
+#include "base/clock.h"
+#include "base/files.h"
+#include "base/settings_store.h"
 #include "make_database/database_maker.h"
-#include "platform/clock.h"
-#include "platform/files.h"
-#include "platform/settings_store.h"
 #include "support/screen.h"
 
 #include <gtest/gtest.h>

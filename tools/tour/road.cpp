@@ -4,7 +4,7 @@
 #include "steps.h"
 
 #include "app/start.h"
-#include "platform/preview_window.h"
+#include "paper/preview_window.h"
 #include "support/screen.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "steps.h"
 
 #include "app/start.h"
-#include "platform/files.h"
+#include "base/files.h"
 #include "support/screen.h"
 
 #include <QCheckBox>

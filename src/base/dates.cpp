@@ -1,0 +1,75 @@
+#include "base/dates.h"
+
+#include "base/date_mask.h"
+#include "base/regional_formats.h"
+
+#include <array>
+#include <charconv>
+
+namespace {
+
+/// The day on which the count of days starts: a time of day alone has it as its date.
+const QDate DayZero(1899, 12, 30);
+
+QString GeneralMask(const QDateTime& value)
+{
+    const RegionalFormats& formats = Formats();
+    const bool hasTime = value.time() != QTime(0, 0);
+    if (hasTime && value.date() == DayZero)
+        return formats.time;
+    return hasTime ? formats.shortDate + QLatin1Char(' ') + formats.time : formats.shortDate;
+}
+
+} // namespace
+
+QString FormatDate(const QDateTime& value, const QString& mask)
+{
+    if (!value.isValid())
+        return {};
+    return CompiledMask(mask.isEmpty() ? GeneralMask(value) : mask).Write(value.date(), value.time());
+}
+
+QString ShortDateMask()
+{
+    return Formats().shortDate;
+}
+
+QString ShortDate(const QDateTime& value)
+{
+    return value.isValid() ? CompiledMask(Formats().shortDate).Write(value.date(), value.time()) : QString();
+}
+
+std::string_view ShortDateWriter::operator()(std::string_view stored)
+{
+    if (stored == m_stored)
+        return m_text;
+    m_stored = stored;
+    m_text.clear();
+    const auto number = [&](size_t at, size_t length) {
+        int value = 0;
+        if (at + length <= stored.size())
+            std::from_chars(stored.data() + at, stored.data() + at + length, value);
+        return value;
+    };
+    const QDate date(number(0, 4), number(5, 2), number(8, 2));
+    if (date.isValid())
+        m_text = CompiledMask(Formats().shortDate).Write(date, QTime()).toStdString();
+    return m_text;
+}
+
+QString DateToYmd(const std::optional<QDateTime>& date)
+{
+    if (!date || !date->isValid())
+        return {};
+    return QStringLiteral("%1-%2-%3").arg(date->date().year()).arg(date->date().month()).arg(date->date().day());
+}
+
+QString DateToIso(const QDateTime& date)
+{
+    return date.date().toString(Qt::ISODate);
+}
+
+int LastDayOfMonth(const QDate& date)
+{
+    return date.daysInMonth();
+}

@@ -1,0 +1,97 @@
+#include "base/files.h"
+
+#include "base/runtime_error.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QTemporaryFile>
+
+namespace {
+
+QString gProgramFolder;
+
+bool EndsInSeparator(const QString& folder)
+{
+    return folder.endsWith(QLatin1Char('/')) || folder.endsWith(QLatin1Char('\\'));
+}
+
+} // namespace
+
+QString ProgramFolder()
+{
+    return gProgramFolder.isEmpty() ? QCoreApplication::applicationDirPath() : gProgramFolder;
+}
+
+void SetProgramFolder(const QString& folder)
+{
+    gProgramFolder = folder;
+    // A root keeps its separator.
+    while (gProgramFolder.size() > 1 && EndsInSeparator(gProgramFolder))
+        gProgramFolder.chop(1);
+}
+
+QString NativePath(const QString& folder, const QString& file)
+{
+    if (folder.isEmpty())
+        return file;
+    return (EndsInSeparator(folder) ? folder.chopped(1) : folder) + QLatin1Char('/') + file;
+}
+
+bool FileExists(const QString& path)
+{
+    const QFileInfo info(path);
+    // A link that leads nowhere is still a name that is taken.
+    return info.exists() || info.isSymLink();
+}
+
+QString MakeUniqueFileName(const QString& folder, const QString& extension)
+{
+    constexpr quint32 NameCount = 65535;
+    const quint32 start = QRandomGenerator::global()->bounded(NameCount);
+    // Going on from a random name instead of drawing again ends also when the folder has all the names.
+    for (quint32 step = 0; step < NameCount; ++step) {
+        const QString name = QString::number((start + step) % NameCount, 16).toUpper();
+        QString path = NativePath(folder, name + extension);
+        if (!FileExists(path))
+            return path;
+    }
+    throw RuntimeError(75, QStringLiteral("Path/File access error"));
+}
+
+QString MakeTempFile(const QString& folder, const QString& prefix)
+{
+    const QString place = folder.isEmpty() ? QDir::tempPath() : folder;
+    QTemporaryFile file(NativePath(place, TrimAtNull(prefix) + QStringLiteral("XXXXXX.tmp")));
+    file.setAutoRemove(false);
+    return file.open() ? file.fileName() : QString();
+}
+
+QString TrimAtNull(const QString& text)
+{
+    return text.left(text.indexOf(QChar::Null));
+}
+
+void DeleteFile(const QString& path)
+{
+    if (const QFileInfo info(path); info.isFile() || info.isSymLink())
+        QFile::remove(path);
+}
+
+bool WriteWholeFile(const QString& path, const QByteArray& bytes)
+{
+    // A pipe would keep the writer waiting for ever.
+    if (const QFileInfo info(path); info.exists() && !info.isFile())
+        return false;
+    QFile file(path);
+    if (!file.open(QFile::WriteOnly))
+        return false;
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    file.close();
+    if (!written || file.error() != QFile::NoError) {
+        DeleteFile(path);
+        return false;
+    }
+    return true;
+}

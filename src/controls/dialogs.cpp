@@ -1,0 +1,166 @@
+#include "controls/dialogs.h"
+
+#include "base/regional.h"
+#include "controls/message_box.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QPageSetupDialog>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <QSet>
+#include <QUrl>
+
+#include <cmath>
+
+namespace {
+constexpr qreal ScreenDotsPerInch = 96;
+
+std::function<void(HelpCommand, int)> gHelpViewer;
+
+QWidget* OwnerWindow()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : QApplication::activeWindow();
+}
+
+/// "csv" for "CSV files (*.csv *.txt)"; "" for "All (*)".
+QString FirstExtension(const QString& filter)
+{
+    static const QRegularExpression pattern(QStringLiteral(R"(\*\.(\w+))"));
+    return pattern.match(filter).captured(1);
+}
+
+QString PickedFile(QFileDialog& dialog)
+{
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return QString();
+    return dialog.selectedFiles().constFirst();
+}
+
+bool NoPrinterInstalled()
+{
+    return QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+/// The paper of the user's country: Letter in most of the Americas, A4 elsewhere.
+QPageSize::PageSizeId CountryPaper()
+{
+    static const QSet<QLocale::Country> letter{QLocale::UnitedStates, QLocale::Canada, QLocale::Mexico,
+        QLocale::PuertoRico, QLocale::Guatemala, QLocale::ElSalvador, QLocale::Nicaragua, QLocale::CostaRica,
+        QLocale::Panama, QLocale::Belize, QLocale::Colombia, QLocale::Venezuela, QLocale::Chile, QLocale::Philippines};
+    return letter.contains(Regional().territory()) ? QPageSize::Letter : QPageSize::A4;
+}
+
+bool AskPageSetup(QPrinter& printer, QWidget* owner)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->PageSetup(printer);
+    if (NoPrinterInstalled())
+        return false;
+    QPageSetupDialog dialog(&printer, owner);
+    return dialog.exec() == QDialog::Accepted;
+}
+} // namespace
+
+QString OpenFileName(const QString& title, const QString& filter)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->OpenFileName(title, filter);
+    QFileDialog dialog(OwnerWindow(), title, QString(), filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return PickedFile(dialog);
+}
+
+QString SaveFileName(const QString& title, const QString& filter, const QString& suggested)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->SaveFileName(title, filter, suggested);
+    QFileDialog dialog(OwnerWindow(), title, QString(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(FirstExtension(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+        [&dialog](const QString& chosen) { dialog.setDefaultSuffix(FirstExtension(chosen)); });
+    dialog.selectFile(suggested);
+    return PickedFile(dialog);
+}
+
+QPrinter& CurrentPrinter()
+{
+    static QPrinter* printer = nullptr;
+    if (!printer) {
+        printer = new QPrinter(QPrinter::HighResolution);
+        if (NoPrinterInstalled())
+            printer->setPageSize(QPageSize(CountryPaper()));
+        // A printer must not outlive the application object.
+        qAddPostRoutine([] {
+            delete printer;
+            printer = nullptr;
+        });
+    }
+    return *printer;
+}
+
+bool PrintDialog(QPrinter& printer)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->Print(printer);
+    if (NoPrinterInstalled())
+        return false;
+    QPrintDialog dialog(&printer, OwnerWindow());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+bool ShowPageSetup(QWidget* owner, PageMargins& margins)
+{
+    QPrinter& printer = CurrentPrinter();
+    if (!AskPageSetup(printer, owner))
+        return false;
+    const QMarginsF inches = printer.pageLayout().margins(QPageLayout::Inch);
+    const auto thousandths = [](qreal value) { return int(std::lround(value * 1000)); };
+    margins = {thousandths(inches.left()), thousandths(inches.top()), thousandths(inches.right()),
+        thousandths(inches.bottom())};
+    return true;
+}
+
+void PrintWindowImage(QWidget* window)
+{
+    QPrinter& printer = CurrentPrinter();
+    if (!PrintDialog(printer))
+        return;
+    const QPixmap picture = window->grab();
+    QPainter painter;
+    if (picture.isNull() || !painter.begin(&printer))
+        return;
+    const QSizeF natural = QSizeF(window->size()) * printer.resolution() / ScreenDotsPerInch;
+    const QSizeF page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
+    const bool fits = natural.width() <= page.width() && natural.height() <= page.height();
+    const QSizeF size = fits ? natural : natural.scaled(page, Qt::KeepAspectRatio);
+    painter.drawPixmap(QRectF(QPointF(), size), picture, QRectF(picture.rect()));
+}
+
+void OpenLink(const QString& target)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->OpenLink(target);
+    QDesktopServices::openUrl(QUrl::fromUserInput(target));
+}
+
+void OpenHelp(HelpCommand command, int data)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->Help(int(command), data);
+    if (gHelpViewer)
+        return gHelpViewer(command, data);
+    MsgBox(QObject::tr("The help pages are not available."), Icon::Information);
+}
+
+void SetHelpViewer(std::function<void(HelpCommand command, int data)> viewer)
+{
+    gHelpViewer = std::move(viewer);
+}

@@ -1,0 +1,156 @@
+#include "controls/form.h"
+
+#include "controls/layout.h"
+
+#include <QKeyEvent>
+#include <QTimer>
+
+namespace {
+bool IsEnter(const QKeyEvent* event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+QPushButton* DefaultButtonOf(const QWidget* screen)
+{
+    for (QPushButton* button : screen->findChildren<QPushButton*>())
+        if (button->isDefault() && button->isVisible())
+            return button;
+    return nullptr;
+}
+
+// Qt alone gives Enter to the default button even when another button has the focus.
+void RunButtonForEnter(QWidget* screen, QKeyEvent* event)
+{
+    event->accept();
+    auto* button = qobject_cast<QPushButton*>(screen->window()->focusWidget());
+    if (!button || !screen->isAncestorOf(button))
+        button = DefaultButtonOf(screen);
+    if (button && button->isEnabled() && !event->isAutoRepeat())
+        button->click();
+}
+
+// A button that takes over as default by having the focus would outrank the form's own default button.
+void SwitchAutoDefaultOff(QWidget* screen)
+{
+    for (QPushButton* button : screen->findChildren<QPushButton*>())
+        button->setAutoDefault(false);
+}
+} // namespace
+
+Form::Form(const char* name, const QString& title, QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(QLatin1String(name));
+    setWindowTitle(title);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void Form::ShowModal()
+{
+    exec();
+}
+
+void Form::SetCancelButton(QPushButton* button)
+{
+    m_cancelButton = button;
+    On(button, &QPushButton::clicked, this, [this] {
+        if (isVisible())
+            reject();
+    });
+}
+
+void Form::done(int result)
+{
+    QDialog::done(result);
+    // The second click of a double click on OK may be under way; it would save once more.
+    setEnabled(false);
+}
+
+void Form::showEvent(QShowEvent* event)
+{
+    if (!m_prepared) {
+        m_prepared = true;
+        SwitchAutoDefaultOff(this);
+        ApplyTabOrder(this);
+    }
+    setEnabled(true);
+    QDialog::showEvent(event);
+    if (QWidget* first = FirstToFocus(); first && !focusWidget())
+        first->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void Form::keyPressEvent(QKeyEvent* event)
+{
+    if (IsEnter(event))
+        return RunButtonForEnter(this, event);
+    if (event->matches(QKeySequence::Cancel) && m_cancelButton) {
+        if (m_cancelButton->isEnabled())
+            m_cancelButton->click();
+        return event->accept();
+    }
+    QDialog::keyPressEvent(event);
+}
+
+Panel::Panel(const char* name, QWidget* parent)
+    : QWidget(parent)
+    , m_topIcon(new QLabel(this))
+    , m_title(heading(QString()))
+{
+    setObjectName(QLatin1String(name));
+    m_title->setParent(this);
+    m_title->setObjectName(QStringLiteral("lblTitle"));
+    m_topIcon->setObjectName(QStringLiteral("picTopIcon"));
+    m_topIcon->hide();
+    m_title->hide();
+}
+
+void Panel::SetTitle(const QString& title)
+{
+    m_title->setText(title);
+}
+
+QString Panel::Title() const
+{
+    return m_title->text();
+}
+
+QLayout* Panel::head(const QString& title, const QString& instructionText)
+{
+    SetTitle(title);
+    m_topIcon->show();
+    m_title->show();
+    return column({
+        row({m_topIcon, m_title, stretch()}),
+        instructions(instructionText),
+    });
+}
+
+void Panel::showEvent(QShowEvent* event)
+{
+    if (!m_prepared) {
+        m_prepared = true;
+        SwitchAutoDefaultOff(this);
+        ApplyTabOrder(this);
+    }
+    QWidget::showEvent(event);
+}
+
+void Panel::keyPressEvent(QKeyEvent* event)
+{
+    if (IsEnter(event) && !(event->modifiers() & ~Qt::KeypadModifier))
+        return RunButtonForEnter(this, event);
+    QWidget::keyPressEvent(event);
+}
+
+void SetDefaultButton(QPushButton* button, bool on)
+{
+    const QWidget* screen = button;
+    while (screen && !dynamic_cast<const Panel*>(screen) && !screen->isWindow())
+        screen = screen->parentWidget();
+    if (on && screen)
+        for (QPushButton* other : screen->findChildren<QPushButton*>())
+            if (other != button)
+                other->setDefault(false);
+    button->setDefault(on);
+}

@@ -1,0 +1,222 @@
+#include "controls/layout.h"
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QRegularExpression>
+
+namespace {
+template <typename... Handlers>
+struct Overloaded : Handlers... {
+    using Handlers::operator()...;
+};
+template <typename... Handlers>
+Overloaded(Handlers...) -> Overloaded<Handlers...>;
+
+constexpr int InstructionsWidth = 320;
+
+template <typename BoxLayout>
+BoxLayout* Filled(BoxLayout* box, std::initializer_list<LayoutItem> items)
+{
+    for (const LayoutItem& item : items)
+        std::visit(Overloaded{
+                       [&](QWidget* widget) { box->addWidget(widget); },
+                       [&](QLayout* layout) { box->addLayout(layout); },
+                       [&](Stretch stretch) { box->addStretch(stretch.factor); },
+                       [&](Gap gap) { box->addSpacing(gap.pixels); },
+                   },
+            item);
+    return box;
+}
+
+QWidget* FirstControl(QLayout* layout)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem* item = layout->itemAt(i);
+        if (QWidget* widget = item->widget(); widget && widget->focusPolicy() != Qt::NoFocus)
+            return widget;
+        if (item->layout())
+            if (QWidget* widget = FirstControl(item->layout()))
+                return widget;
+    }
+    return nullptr;
+}
+
+QWidget* ControlOf(const LayoutItem& field)
+{
+    if (auto* const* widget = std::get_if<QWidget*>(&field))
+        return *widget;
+    if (auto* const* layout = std::get_if<QLayout*>(&field))
+        return FirstControl(*layout);
+    return nullptr;
+}
+
+// Beside a tall control a label centred in height would stand far from the text that it names.
+bool IsTall(const QWidget* control)
+{
+    return control && control->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+}
+
+void AddLine(QGridLayout* grid, int line, int column, const FieldLine& field)
+{
+    QWidget* control = ControlOf(field.field);
+    if (control)
+        SetLabelOf(field.label, control);
+    grid->addWidget(field.label, line, column, Qt::AlignLeft | (IsTall(control) ? Qt::AlignTop : Qt::AlignVCenter));
+    std::visit(Overloaded{
+                   [&](QWidget* widget) { grid->addWidget(widget, line, column + 1); },
+                   [&](QLayout* layout) { grid->addLayout(layout, line, column + 1); },
+                   [](auto) {},
+               },
+        field.field);
+}
+
+QLabel* PlainLabel(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QString WithoutMnemonic(QString text)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("&(.)"));
+    return text.replace(mnemonic, QStringLiteral("\\1"));
+}
+} // namespace
+
+Stretch stretch(int factor)
+{
+    return {factor};
+}
+
+Gap gap(int pixels)
+{
+    return {pixels};
+}
+
+QVBoxLayout* column(std::initializer_list<LayoutItem> items)
+{
+    return Filled(new QVBoxLayout, items);
+}
+
+QHBoxLayout* row(std::initializer_list<LayoutItem> items)
+{
+    return Filled(new QHBoxLayout, items);
+}
+
+FieldLine::FieldLine(const QString& labelText, LayoutItem item)
+    : label(PlainLabel(labelText))
+    , field(item)
+{
+}
+
+FieldLine::FieldLine(QLabel* labelControl, LayoutItem item)
+    : label(labelControl)
+    , field(item)
+{
+}
+
+QGridLayout* fields(std::initializer_list<FieldLine> lines)
+{
+    return fieldColumns({lines});
+}
+
+void AddFieldLine(QGridLayout* fields, const FieldLine& line)
+{
+    AddLine(fields, fields->rowCount(), 0, line);
+}
+
+QGridLayout* fieldColumns(std::initializer_list<std::initializer_list<FieldLine>> blocks)
+{
+    // Each block takes two columns; an empty one between blocks keeps a label off the block before it.
+    constexpr int BlockColumns = 3;
+    constexpr int BlockGap = 12;
+    auto* grid = new QGridLayout;
+    int column = 0;
+    for (const auto& block : blocks) {
+        int line = 0;
+        for (const FieldLine& field : block)
+            AddLine(grid, line++, column, field);
+        grid->setColumnStretch(column + 1, 1);
+        if (column > 0)
+            grid->setColumnMinimumWidth(column - 1, BlockGap);
+        column += BlockColumns;
+    }
+    return grid;
+}
+
+QWidget* group(const QString& title, QLayout* content)
+{
+    auto* box = new QGroupBox(title);
+    box->setLayout(content);
+    return box;
+}
+
+QScrollArea* scrolling(QWidget* content)
+{
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    // What lies behind, such as the tint of a titled frame, shows through.
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    return area;
+}
+
+QLabel* instructions(const QString& text)
+{
+    auto* label = new QLabel;
+    MakeInstructions(label, text);
+    return label;
+}
+
+void MakeInstructions(QLabel* label, const QString& text)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setWordWrap(true);
+    label->setFrameStyle(QFrame::StyledPanel);
+    label->setMargin(6);
+    label->setMinimumWidth(InstructionsWidth);
+    // Without this the line would keep the height that it needs at its narrowest.
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    label->setSizePolicy(policy);
+}
+
+QLabel* heading(const QString& text)
+{
+    QLabel* label = PlainLabel(text);
+    QFont font = label->font();
+    font.setBold(true);
+    font.setPointSizeF(font.pointSizeF() * 1.3);
+    label->setFont(font);
+    return label;
+}
+
+void SetLabelOf(QLabel* label, QWidget* control)
+{
+    QString name = WithoutMnemonic(label->text()).trimmed();
+    if (name.endsWith(u':'))
+        name.chop(1);
+    label->setBuddy(control);
+    control->setAccessibleName(name);
+    // A control made of parts takes the focus by a part, and that part is what a screen reader speaks.
+    if (control->focusPolicy() & Qt::TabFocus)
+        return;
+    for (QWidget* part : control->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (part->focusPolicy() & Qt::TabFocus)
+            part->setAccessibleName(name);
+}
+
+int TwipsToPixels(int twips)
+{
+    return twips / 15;
+}
+
+int PixelsToTwips(int pixels)
+{
+    return pixels * 15;
+}

@@ -1,0 +1,18 @@
+#include "paper/report_picture.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+QImage ReadPicture(const QString& path, QSize most)
+{
+    // A pipe or a device would keep the reader waiting for ever.
+    if (!QFileInfo(path).isFile())
+        return {};
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.width() > most.width() || size.height() > most.height())
+        reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    return reader.read();
+}

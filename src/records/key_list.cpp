@@ -1,0 +1,51 @@
+#include "records/key_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+KeyList::KeyList(QWidget* parent)
+    : QListWidget(parent)
+{
+    setUniformItemSizes(true);
+}
+
+void KeyList::ShowEntries(const KeyTable& table, const Sql& entries)
+{
+    clear();
+    for (Recordset rs = gConnection->Execute(entries); !rs.Eof(); rs.MoveNext()) {
+        auto* entry = new QListWidgetItem(EntryText(table, rs), this);
+        entry->setData(Qt::UserRole, rs["id"].ToLong());
+    }
+    if (count() > 0)
+        setCurrentRow(0);
+}
+
+std::optional<qint64> KeyList::SelectedId() const
+{
+    const QList<QListWidgetItem*> selected = selectedItems();
+    if (selected.isEmpty())
+        return std::nullopt;
+    return selected.constFirst()->data(Qt::UserRole).toLongLong();
+}
+
+void KeyList::mousePressEvent(QMouseEvent* event)
+{
+    if (indexAt(event->pos()).isValid())
+        QListWidget::mousePressEvent(event);
+}
+
+void KeyList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit Opened();
+}
+
+void KeyList::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QListWidget::keyPressEvent(event);
+    event->accept();
+    if (!event->isAutoRepeat())
+        emit Opened();
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "base/runtime_error.h"
+#include "sql/dialect_names.h"
+#include "sql/dialect_tokens.h"
+
+#include <string>
+
+/// An expression in the engine's own SQL, and what is known of its value.
+struct Expression {
+    std::string sql;
+    Value::Kind kind = Value::Kind::Null; ///< Null when it has none of its own
+    ColumnReference column; ///< of a plain column
+    int literal = -1; ///< of a plain literal
+};
+
+/// Reads expressions from a statement's tokens and writes them in the engine's own SQL.
+class ExpressionReader {
+public:
+    ExpressionReader(TokenStream& tokens, const NameScope& scope, std::vector<Coercion>& coercions);
+
+    /// Reads one expression and leaves the stream behind it. Throws RuntimeError for what is no expression.
+    Expression Read();
+    /// An error for the stream's place, whose expression began at `start`.
+    RuntimeError MissingOperator(size_t start) const;
+
+private:
+    Expression ReadOr();
+    Expression ReadAnd();
+    Expression ReadNot();
+    Expression ReadComparison();
+    Expression ReadJoined();
+    Expression ReadSum();
+    Expression ReadProduct();
+    Expression ReadSigned();
+    Expression ReadPrimary();
+    Expression ReadWord();
+    Expression ReadName();
+    Expression ReadFunction();
+    Expression ReadLiteral();
+    Expression ReadAggregate(const std::string& name);
+
+    Expression Compare(Expression left, const std::string& sign, Expression right) const;
+    Expression ReadIs(const Expression& left);
+    Expression ReadIn(const Expression& left, const std::string& negation);
+    Expression ReadBetween(const Expression& left, const std::string& negation);
+    Expression ReadLike(const Expression& left, const std::string& negation);
+    Expression Arithmetic(Expression left, const std::string& sign, Expression right);
+    Expression AsNumber(Expression operand);
+    bool HasOtherLetters(const Expression& expression) const;
+
+    TokenStream& m_tokens;
+    const NameScope& m_scope;
+    std::vector<Coercion>& m_coercions;
+    std::vector<LiteralMark> m_marks; ///< of the literals read so far, by index
+    size_t m_start = 0;
+    int m_depth = 0;
+};
+
+/// The expression as it sorts: texts in the order of the user's locale.
+std::string SortSql(const Expression& expression);

@@ -1,0 +1,9 @@
+#pragma once
+
+/// What translated statements call beyond the engine's own functions. The engine's room registers them on each
+/// connection; nothing of it stands in the file.
+
+inline constexpr const char* LikeFunction = "tavrin_like"; ///< (pattern, text)
+inline constexpr const char* FoldFunction = "tavrin_fold"; ///< text for a comparison without regard to case
+inline constexpr const char* ConvertFunction = "tavrin_convert"; ///< (number of a Value::Kind, value)
+inline constexpr const char* LocaleCollation = "tavrin_locale"; ///< the order of the user's locale

@@ -1,0 +1,107 @@
+#include "sql/sql.h"
+
+#include <stdexcept>
+
+namespace {
+
+bool IsNameCharacter(QChar c)
+{
+    return c.unicode() < 128 && (c.isLetterOrNumber() || c == u'_');
+}
+
+} // namespace
+
+Sql::Sql(const QString& statement)
+    : m_statement(statement)
+{
+    FindMarkers(0);
+}
+
+Sql::Sql(const char* statement)
+    : Sql(QString::fromUtf8(statement))
+{
+}
+
+void Sql::FindMarkers(qsizetype from)
+{
+    for (qsizetype open = m_statement.indexOf(u'{', from); open >= 0; open = m_statement.indexOf(u'{', open + 1)) {
+        qsizetype end = open + 1;
+        while (end < m_statement.size() && IsNameCharacter(m_statement[end]))
+            ++end;
+        if (end > open + 1 && end < m_statement.size() && m_statement[end] == u'}')
+            m_markers.append({open, end + 1 - open, -1});
+    }
+}
+
+Sql& Sql::Fill(const char* name, const QString& value)
+{
+    const QLatin1StringView wanted(name);
+    bool found = false;
+    for (Marker& marker : m_markers) {
+        if (QStringView(m_statement).mid(marker.start + 1, marker.length - 2) != wanted)
+            continue;
+        marker.value = m_values.size();
+        found = true;
+    }
+    if (!found)
+        throw std::logic_error("No marker {" + std::string(name) + "} in: " + m_statement.toStdString());
+    m_values.append(value);
+    return *this;
+}
+
+Sql& Sql::Text(const char* name, const QString& value)
+{
+    return Fill(name, SqlText(value));
+}
+
+Sql& Sql::Raw(const char* name, const QString& value)
+{
+    return Fill(name, value);
+}
+
+Sql& Sql::Number(const char* name, qint64 value)
+{
+    return Fill(name, QString::number(value));
+}
+
+Sql& Sql::Bool(const char* name, bool value)
+{
+    return Fill(name, value ? QStringLiteral("true") : QStringLiteral("false"));
+}
+
+Sql& Sql::Date(const char* name, const QDate& value)
+{
+    return Fill(name, value.toString(Qt::ISODate));
+}
+
+Sql& Sql::Append(const QString& clause)
+{
+    const qsizetype end = m_statement.size();
+    m_statement += clause;
+    FindMarkers(end);
+    return *this;
+}
+
+const QString& Sql::Filled() const
+{
+    m_filled.clear();
+    m_filled.reserve(m_statement.size() * 2);
+    qsizetype done = 0;
+    for (const Marker& marker : m_markers) {
+        if (marker.value < 0)
+            throw std::logic_error("A marker is not filled in: " + m_statement.toStdString());
+        m_filled.append(QStringView(m_statement).mid(done, marker.start - done));
+        m_filled.append(m_values[marker.value]);
+        done = marker.start + marker.length;
+    }
+    m_filled.append(QStringView(m_statement).mid(done));
+    return m_filled;
+}
+
+QString SqlText(const QString& value)
+{
+    if (!value.contains(u'\''))
+        return value;
+    QString doubled = value;
+    return doubled.replace(QLatin1Char('\''), QLatin1String("''"));
+}

@@ -1,0 +1,276 @@
+#include "sql/statement_shape.h"
+
+#include "sql/date_literal.h"
+#include "sql/statement_errors.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace {
+
+bool IsDigit(char16_t c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool IsBlank(char16_t c)
+{
+    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+}
+
+bool IsWord(char16_t c)
+{
+    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || c > 127 || IsDigit(c);
+}
+
+/// Appends the character at `at` as UTF-8 and returns what follows it; half a surrogate pair becomes U+FFFD.
+const char16_t* AppendUtf8(std::string& out, const char16_t* at, const char16_t* end)
+{
+    char32_t c = *at++;
+    if (c < 0x80) {
+        out.push_back(char(c));
+        return at;
+    }
+    if (c >= 0xD800 && c <= 0xDFFF) {
+        const bool paired = c < 0xDC00 && at < end && *at >= 0xDC00 && *at <= 0xDFFF;
+        c = paired ? 0x10000 + ((c - 0xD800) << 10) + (*at++ - 0xDC00) : U'\xFFFD';
+    }
+    if (c < 0x800) {
+        out.push_back(char(0xC0 | (c >> 6)));
+    } else if (c < 0x10000) {
+        out.push_back(char(0xE0 | (c >> 12)));
+        out.push_back(char(0x80 | ((c >> 6) & 0x3F)));
+    } else {
+        out.push_back(char(0xF0 | (c >> 18)));
+        out.push_back(char(0x80 | ((c >> 12) & 0x3F)));
+        out.push_back(char(0x80 | ((c >> 6) & 0x3F)));
+    }
+    out.push_back(char(0x80 | (c & 0x3F)));
+    return at;
+}
+
+class Reader {
+public:
+    Reader(const QString& statement, StatementShape& shape)
+        : m_statement(statement)
+        , m_begin(reinterpret_cast<const char16_t*>(statement.utf16()))
+        , m_at(m_begin)
+        , m_end(m_begin + statement.size())
+        , m_shape(shape)
+    {
+        m_shape.text.clear();
+        m_shape.literals.clear();
+    }
+
+    void Read()
+    {
+        while (m_at < m_end)
+            ReadToken(*m_at);
+    }
+
+private:
+    void ReadToken(char16_t c)
+    {
+        if (IsBlank(c)) {
+            m_shape.text.push_back(' ');
+            ++m_at;
+        } else if (IsDigit(c) || (c == u'.' && m_at + 1 < m_end && IsDigit(m_at[1]))) {
+            ReadNumber();
+        } else if (IsWord(c)) {
+            ReadWord();
+        } else {
+            ReadSign(c);
+        }
+    }
+
+    void ReadSign(char16_t c)
+    {
+        switch (c) {
+        case u'\'':
+        case u'"':
+            return ReadText(c);
+        case u'#':
+            return ReadDate();
+        case u'[':
+            return ReadBrackets();
+        case u';':
+            return ReadEnd();
+        case u'(':
+        case u')':
+        case u',':
+        case u'.':
+        case u'=':
+        case u'<':
+        case u'>':
+        case u'+':
+        case u'-':
+        case u'*':
+        case u'/':
+        case u'&':
+            m_shape.text.push_back(char(c));
+            ++m_at;
+            return;
+        default:
+            throw MissingOperatorError(Expression(m_at));
+        }
+    }
+
+    void ReadWord()
+    {
+        const char16_t* start = m_at;
+        while (m_at < m_end && IsWord(*m_at))
+            m_at = AppendUtf8(m_shape.text, m_at, m_end);
+        m_afterTop = m_at - start == 3 && (start[0] | 32) == u't' && (start[1] | 32) == u'o' && (start[2] | 32) == u'p';
+    }
+
+    void ReadNumber()
+    {
+        const char16_t* start = m_at;
+        bool whole = true;
+        SkipDigits();
+        if (m_at < m_end && *m_at == u'.') {
+            ++m_at;
+            SkipDigits();
+            whole = false;
+        }
+        whole = !SkipExponent() && whole;
+        AddNumber(start, whole);
+    }
+
+    void SkipDigits()
+    {
+        while (m_at < m_end && IsDigit(*m_at))
+            ++m_at;
+    }
+
+    bool SkipExponent()
+    {
+        const char16_t* at = m_at;
+        if (at == m_end || (*at | 32) != u'e')
+            return false;
+        ++at;
+        if (at < m_end && (*at == u'+' || *at == u'-'))
+            ++at;
+        if (at == m_end || !IsDigit(*at))
+            return false;
+        m_at = at;
+        SkipDigits();
+        return true;
+    }
+
+    void AddNumber(const char16_t* start, bool whole)
+    {
+        m_digits.assign(start, m_at);
+        const char* first = m_digits.data();
+        const char* last = first + m_digits.size();
+        if (m_afterTop) {
+            m_afterTop = false;
+            m_shape.text.append(m_digits);
+            return;
+        }
+        qint64 number = 0;
+        if (whole && std::from_chars(first, last, number).ec == std::errc())
+            return Add(LiteralMark::Whole, number);
+        double fraction = 0;
+        if (std::from_chars(first, last, fraction).ec != std::errc() && m_digits.find('-') == std::string::npos)
+            throw NumericOverflowError();
+        Add(LiteralMark::Fraction, fraction);
+    }
+
+    void ReadText(char16_t quote)
+    {
+        const char16_t* start = m_at++;
+        std::string text;
+        bool ascii = true;
+        for (;; m_at = AppendUtf8(text, m_at, m_end)) {
+            if (m_at == m_end)
+                throw OpenText(start);
+            if (*m_at == quote && (++m_at == m_end || *m_at != quote))
+                break;
+            ascii = ascii && *m_at < 128;
+        }
+        Add(ascii ? LiteralMark::AsciiText : LiteralMark::OtherText, std::move(text));
+    }
+
+    void ReadDate()
+    {
+        const char16_t* start = m_at++;
+        while (m_at < m_end && *m_at != u'#')
+            ++m_at;
+        const QStringView inner(start + 1, m_at);
+        const std::optional<std::string> iso = m_at < m_end ? ReadDateLiteral(inner) : std::nullopt;
+        if (!iso)
+            throw DateLiteralError(Expression(start));
+        ++m_at;
+        Add(LiteralMark::Date, DateLiteral{*iso});
+    }
+
+    void ReadBrackets()
+    {
+        const char16_t* start = m_at;
+        do {
+            m_at = AppendUtf8(m_shape.text, m_at, m_end);
+            if (m_at == m_end || *m_at < u' ' || *m_at == u'[')
+                throw MissingOperatorError(Expression(start));
+        } while (*m_at != u']');
+        m_shape.text.push_back(']');
+        ++m_at;
+    }
+
+    void ReadEnd()
+    {
+        while (++m_at < m_end) {
+            if (!IsBlank(*m_at))
+                throw SyntaxError(QStringLiteral("Characters found after end of SQL statement."));
+        }
+    }
+
+    template <typename Value>
+    void Add(LiteralMark mark, Value&& value)
+    {
+        m_shape.text.push_back(char(mark));
+        m_shape.literals.emplace_back(std::forward<Value>(value));
+    }
+
+    /// A quote that never closes: the end of a text with a quote of its own, when a name follows the text before it.
+    RuntimeError OpenText(const char16_t* start) const
+    {
+        const std::string& text = m_shape.text;
+        size_t word = text.size();
+        while (word > 0 && (IsWord(char16_t(uchar(text[word - 1]))) || text[word - 1] == ' '))
+            --word;
+        const bool afterText = word > 0 && word < text.size()
+            && (text[word - 1] == char(LiteralMark::AsciiText) || text[word - 1] == char(LiteralMark::OtherText));
+        return afterText ? MissingOperatorError(Expression(start)) : OpenTextError(Expression(start));
+    }
+
+    /// The expression around a place, from the word that opens its clause on.
+    QStringView Expression(const char16_t* place) const
+    {
+        const QStringView statement(m_statement);
+        const QStringView before = statement.left(place - m_begin);
+        qsizetype start = 0;
+        for (const QLatin1StringView opening : {QLatin1StringView(" where "), QLatin1StringView(" set "),
+                 QLatin1StringView(" having "), QLatin1StringView(" by "), QLatin1StringView("select ")}) {
+            const qsizetype found = before.lastIndexOf(opening, -1, Qt::CaseInsensitive);
+            if (found >= 0)
+                start = std::max(start, found + opening.size());
+        }
+        return statement.mid(start);
+    }
+
+    const QString& m_statement;
+    const char16_t* m_begin;
+    const char16_t* m_at;
+    const char16_t* m_end;
+    StatementShape& m_shape;
+    std::string m_digits;
+    bool m_afterTop = false;
+};
+
+} // namespace
+
+void ReadStatement(const QString& statement, StatementShape& shape)
+{
+    Reader(statement, shape).Read();
+}

@@ -1,0 +1,69 @@
+#include "base/settings_store.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+class SettingsStore : public testing::Test {
+protected:
+    void SetUp() override { SetSettingsFolder(m_folder.path()); }
+    void TearDown() override { SetSettingsFolder(QString()); }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SettingsStore, AnAbsentKeyGivesTheFallbackAndAStoredEmptyTextDoesNot)
+{
+    EXPECT_EQ(GetConfig("DBPath", "/opt/tavrin/"), "/opt/tavrin/");
+    SaveConfig("DBPath", "");
+    EXPECT_EQ(GetConfig("DBPath", "/opt/tavrin/"), "");
+}
+
+TEST_F(SettingsStore, TextsComeBackAsTheyWereSaved)
+{
+    const QStringList texts = {"a,b", "say \"hello\"", "two\nlines\r\n", QStringLiteral("nul\0nul"), "Ünïcödé 😀",
+        "@Variant(", "@", "a;b=c", " blanks ", "C:\\Data\\", "%20", "True", "8.25", QString(100000, 'x')};
+    for (const QString& text : texts) {
+        SaveConfig("Text", text);
+        EXPECT_EQ(GetConfig("Text", "absent"), text);
+    }
+}
+
+TEST_F(SettingsStore, EachAddressIsItsOwn)
+{
+    SaveConfig("Current Tip", "config");
+    SaveOption("Current Tip", "option");
+    SaveSetting("Tavrin Inventory", "Other", "Current Tip", "section");
+    EXPECT_EQ(GetConfig("Current Tip", ""), "config");
+    EXPECT_EQ(GetOption("Current Tip", ""), "option");
+    EXPECT_EQ(GetSetting("TavrinInventory", "Options", "Current Tip", ""), "option");
+    EXPECT_EQ(GetSetting("Tavrin Inventory", "Config", "Current Tip", ""), "config");
+}
+
+TEST_F(SettingsStore, AValueIsOnDiskAtOnce)
+{
+    SaveConfig("FirstRun", "False");
+    const QDir folder(m_folder.path());
+    QByteArray all;
+    for (const QString& name : folder.entryList(QDir::Files)) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        all += file.readAll();
+    }
+    EXPECT_TRUE(all.contains("FirstRun=False"));
+}
+
+TEST_F(SettingsStore, AStoreThatCannotBeReadCountsAsEmpty)
+{
+    // Folders stand where the files would be.
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath("Tavrin Inventory.ini"));
+    EXPECT_EQ(GetConfig("FirstRun", "True"), "True");
+    SaveConfig("FirstRun", "False");
+    EXPECT_EQ(GetConfig("FirstRun", "True"), "True");
+}
+
+} // namespace

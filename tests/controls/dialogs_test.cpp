@@ -1,0 +1,96 @@
+#include "controls/dialogs.h"
+#include "controls/message_box.h"
+#include "support/printing.h"
+#include "support/screen.h"
+#include "support/scripted_answers.h"
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+TEST(Dialogs, WithoutAPrinterPrintingAndPageSetupEndQuietly)
+{
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        GTEST_SKIP() << "a printer is installed here";
+    PageMargins margins{1, 2, 3, 4};
+    EXPECT_FALSE(ShowPageSetup(nullptr, margins));
+    EXPECT_EQ(margins.left, 1);
+    EXPECT_FALSE(PrintDialog(CurrentPrinter()));
+    QWidget window;
+    PrintWindowImage(&window);
+}
+
+TEST(Dialogs, PageSetupGivesItsMarginsAndACancelGivesNone)
+{
+    const QPageLayout before = CurrentPrinter().pageLayout();
+    CurrentPrinter().setPageMargins(QMarginsF(0.5, 0.75, 1, 1.25), QPageLayout::Inch);
+    ScriptedAnswers answers;
+    answers.ExpectPageSetup(false);
+    answers.ExpectPageSetup(true);
+    PageMargins margins;
+    EXPECT_FALSE(ShowPageSetup(nullptr, margins));
+    EXPECT_EQ(margins.bottom, 0);
+    EXPECT_TRUE(ShowPageSetup(nullptr, margins));
+    EXPECT_EQ(std::make_tuple(margins.left, margins.top, margins.right, margins.bottom),
+        std::make_tuple(500, 750, 1000, 1250));
+    CurrentPrinter().setPageLayout(before);
+}
+
+TEST(Dialogs, TheWindowsPictureIsPrintedAfterTheDialogAlone)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath("window.pdf");
+    CurrentPrinter().setOutputFormat(QPrinter::PdfFormat);
+    CurrentPrinter().setOutputFileName(file);
+    QWidget window;
+    window.resize(3000, 2000);
+    ScriptedAnswers answers;
+    answers.ExpectPrint(false);
+    answers.ExpectPrint(true);
+    PrintWindowImage(&window);
+    EXPECT_FALSE(QFileInfo::exists(file));
+    PrintWindowImage(&window);
+    EXPECT_GT(QFileInfo(file).size(), 500);
+    // A folder that is gone, as a printer that fails, is not worth a word.
+    CurrentPrinter().setOutputFileName(folder.filePath("gone/window.pdf"));
+    answers.ExpectPrint(true);
+    PrintWindowImage(&window);
+    CurrentPrinter().setOutputFileName(QString());
+}
+
+TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)
+{
+    WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    OpenHelp(HelpCommand::Tab, -2);
+    QList<int> opened;
+    SetHelpViewer([&](HelpCommand command, int data) { opened = {int(command), data}; });
+    OpenHelp(HelpCommand::Context, 1003);
+    SetHelpViewer({});
+    EXPECT_EQ(opened, QList<int>({1, 1003}));
+}
+
+TEST(Dialogs, TheScriptAnswersEveryDoor)
+{
+    ScriptedAnswers answers;
+    answers.ExpectOpenFile("/home/ann/in.csv");
+    answers.ExpectSaveFile("");
+    answers.ExpectLink("https://example.invalid/");
+    answers.ExpectHelp(HelpCommand::Context, 7);
+    answers.Expect("Go on?", Icon::Question, Buttons::YesNo, Answer::No);
+    EXPECT_EQ(OpenFileName("Open", "CSV (*.csv)"), "/home/ann/in.csv");
+    EXPECT_EQ(SaveFileName("Save", "CSV (*.csv)", "out.csv"), "");
+    OpenLink("https://example.invalid/");
+    OpenHelp(HelpCommand::Context, 7);
+    EXPECT_EQ(MsgBox("Go on?", Icon::Question, Buttons::YesNo), Answer::No);
+    EXPECT_TRUE(answers.Done());
+    EXPECT_EQ(answers.Asked().last(), "Go on?");
+}
+
+} // namespace

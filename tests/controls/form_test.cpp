@@ -1,0 +1,214 @@
+#include "controls/combo_box.h"
+#include "controls/date_picker.h"
+#include "controls/form.h"
+#include "controls/layout.h"
+#include "controls/text_box.h"
+#include "support/form_check.h"
+#include "support/printing.h"
+#include "support/screen.h"
+#include "support/scripted_answers.h"
+
+#include <gtest/gtest.h>
+
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// Its controls are laid out in another order than they are declared in.
+class frmSample : public Form {
+public:
+    CONTROL(TextBox, txtName);
+    CONTROL_AT(ComboBox, cboField, 3);
+    CONTROL(DatePicker, dtDue);
+    CONTROL(MultiLineTextBox, txtNotes);
+    CONTROL(QCheckBox, chkTaxed);
+    CONTROL(QPushButton, cmdOther);
+    CONTROL(QPushButton, cmdOK);
+    CONTROL(QPushButton, cmdCancel);
+
+    frmSample()
+        : Form("frmSample", "Sample", nullptr)
+    {
+        chkTaxed->setText("&Taxed");
+        cmdOther->setText("&Other");
+        cmdOK->setText("OK");
+        cmdCancel->setText("Cancel");
+        dtDue->SetCheckBox(true);
+        setLayout(column({
+            instructions("Instructions - fill in the form and then click OK."),
+            row({stretch(), cmdOK, cmdCancel, cmdOther}),
+            fields({
+                {"Not&es:", txtNotes},
+                {"&Due:", dtDue},
+                {"&Name:", txtName},
+                {"&Field:", row({cboField_3, chkTaxed})},
+            }),
+        }));
+        cmdOK->setDefault(true);
+        SetCancelButton(cmdCancel);
+        On(cmdOK, &QPushButton::clicked, this, [this] { done << "ok"; });
+        On(cmdOther, &QPushButton::clicked, this, [this] { done << "other"; });
+        On(cmdCancel, &QPushButton::clicked, this, [this] { done << "cancel"; });
+    }
+
+    QStringList done;
+};
+
+TEST(Forms, AClickThatComesAfterTheFormHasClosedDoesNothing)
+{
+    frmSample form;
+    Shown(&form);
+    const auto clickLate = [&form] {
+        const QPointF middle = QRectF(form.cmdOK->rect()).center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(form.cmdOK,
+                new QMouseEvent(
+                    type, middle, form.cmdOK->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+        QCoreApplication::processEvents();
+    };
+    clickLate();
+    form.accept();
+    clickLate();
+    EXPECT_EQ(form.done, QStringList{"ok"});
+    Shown(&form);
+    EXPECT_TRUE(form.txtName->hasFocus());
+    clickLate();
+    EXPECT_EQ(form.done, QStringList({"ok", "ok"}));
+}
+
+TEST(Forms, TabFollowsTheOrderOfDeclaration)
+{
+    frmSample form;
+    form.dtDue->SetValue(QDateTime(QDate(2003, 7, 4), QTime(0, 0)));
+    Shown(&form);
+    QStringList order;
+    for (int i = 0; i < 9; ++i) {
+        order << QApplication::focusWidget()->objectName();
+        Tab();
+    }
+    EXPECT_EQ(order.join(' '), "txtName cboField_3 dtDue_check dtDue_date txtNotes chkTaxed cmdOther cmdOK cmdCancel");
+    EXPECT_TRUE(form.txtName->hasFocus());
+    CheckForm(form);
+}
+
+TEST(Forms, EnterRunsTheDefaultButtonOrTheButtonWithTheFocus)
+{
+    frmSample form;
+    Shown(&form);
+    Press(form.txtName, Qt::Key_Return);
+    Press(form.cboField_3, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(form.done, QStringList({"ok", "ok"}));
+    Press(form.cmdOther, Qt::Key_Return);
+    EXPECT_EQ(form.done.last(), "other");
+    Press(form.txtNotes, Qt::Key_Return);
+    EXPECT_EQ(form.done.size(), 3) << "a box of several lines keeps Enter for itself";
+    SetDefaultButton(form.cmdOther, true);
+    Press(form.txtName, Qt::Key_Return);
+    EXPECT_EQ(form.done.last(), "other");
+    SetDefaultButton(form.cmdOther, false);
+    Press(form.txtName, Qt::Key_Return);
+    EXPECT_EQ(form.done.size(), 4) << "no default button: Enter runs none";
+}
+
+TEST(Forms, EscClicksTheCancelButtonAndTheFormCloses)
+{
+    frmSample form;
+    WhenFormShows<frmSample>([](frmSample& shown) { Press(shown.txtName, Qt::Key_Escape); });
+    form.ShowModal();
+    EXPECT_EQ(form.done, QStringList({"cancel"}));
+    EXPECT_EQ(form.result(), QDialog::Rejected);
+    WhenFormShows<frmSample>([](frmSample& shown) { shown.close(); });
+    form.ShowModal();
+    EXPECT_EQ(form.done.size(), 1) << "the window's close button does not run it";
+    WhenFormShows<frmSample>([](frmSample& shown) { Click(shown.cmdCancel); });
+    form.ShowModal();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST(Forms, AnErrorInAHandlerEndsTheProgramAndNothingElseRuns)
+{
+    frmSample form;
+    ExpectedEnd end;
+    On(form.cmdOther, &QPushButton::clicked, form.cmdOther, [] { throw TypeMismatch(); });
+    WhenFormShows<frmSample>([](frmSample& shown) { Click(shown.cmdOther); });
+    form.ShowModal();
+    EXPECT_EQ(end.Number(), 13);
+    form.show();
+    form.cmdOK->click();
+    EXPECT_EQ(form.done, QStringList({"other"}));
+}
+
+class SamplePanel : public Panel {
+public:
+    CONTROL(TextBox, txtBarCode);
+    CONTROL(QPushButton, cmdAdd);
+    CONTROL(QPushButton, cmdFind);
+
+    explicit SamplePanel(QWidget* parent)
+        : Panel("picSample", parent)
+    {
+        cmdAdd->setText("&Add");
+        cmdFind->setText("&Find");
+        setLayout(column({head("Sample", "Instructions - you are currently viewing a sample."), row({cmdFind, cmdAdd}),
+            fields({{"&Bar code:", txtBarCode}})}));
+    }
+};
+
+TEST(Panels, EnterRunsTheirDefaultButton)
+{
+    QMainWindow window;
+    auto* panel = new SamplePanel(&window);
+    window.setCentralWidget(panel);
+    QSignalSpy added(panel->cmdAdd, &QPushButton::clicked), found(panel->cmdFind, &QPushButton::clicked);
+    Shown(&window);
+    Press(panel->txtBarCode, Qt::Key_Return);
+    EXPECT_EQ(added.size(), 0);
+    SetDefaultButton(panel->cmdFind, true);
+    SetDefaultButton(panel->cmdAdd, true);
+    Press(panel->txtBarCode, Qt::Key_Return);
+    EXPECT_EQ(added.size(), 1);
+    EXPECT_FALSE(panel->cmdFind->isDefault());
+    Press(panel->cmdFind, Qt::Key_Return);
+    EXPECT_EQ(found.size(), 1);
+    SetDefaultButton(panel->cmdAdd, false);
+    Press(panel->txtBarCode, Qt::Key_Return);
+    EXPECT_EQ(added.size(), 1);
+    CheckForm(*panel);
+    EXPECT_EQ(panel->Title(), "Sample");
+    EXPECT_TRUE(panel->TopIcon()->isVisible());
+}
+
+TEST(MessageBoxes, AYesNoQuestionMustBeAnswered)
+{
+    WhenFormShows<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.objectName(), "MsgBox");
+        EXPECT_EQ(box.windowTitle(), "Tavrin Inventory");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
+        QTest::keyClick(&box, Qt::Key_Escape);
+        box.close();
+        EXPECT_TRUE(box.isVisible());
+        Click(box.button(QMessageBox::No));
+    });
+    EXPECT_EQ(MsgBox("Delete <b>item</b>?", Icon::Question, Buttons::YesNo), Answer::No);
+}
+
+TEST(MessageBoxes, EscCancelsWhereThereIsACancel)
+{
+    const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+    WhenFormShows<QMessageBox>(escape);
+    EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, Buttons::YesNoCancel), Answer::Cancel);
+    WhenFormShows<QMessageBox>(escape);
+    EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, Buttons::OkCancel), Answer::Cancel);
+    WhenFormShows<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Backup");
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    MsgBox("Done.", Icon::Information, "Backup");
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+#include "controls/layout.h"
+#include "controls/text_box.h"
+#include "support/printing.h"
+#include "support/screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QGroupBox>
+#include <QTest>
+
+namespace {
+
+TEST(Layouts, AFieldsLabelIsItsBuddyAndItsName)
+{
+    QWidget screen;
+    auto* name = new TextBox;
+    auto* first = new TextBox;
+    auto* second = new TextBox;
+    auto* label = new QLabel("R && D:");
+    screen.setLayout(fields({{"&Business Name:", name}, {label, row({new QLabel("from"), first, second})}}));
+    EXPECT_EQ(name->accessibleName(), "Business Name");
+    EXPECT_EQ(label->buddy(), first);
+    EXPECT_EQ(first->accessibleName(), "R & D");
+    EXPECT_EQ(second->accessibleName(), "");
+    Shown(&screen);
+    QTest::keyClick(&screen, Qt::Key_B, Qt::AltModifier);
+    EXPECT_TRUE(name->hasFocus());
+}
+
+TEST(Layouts, TheControlsOfABlockShareTheirEdgesAndTakeTheWidth)
+{
+    QWidget screen;
+    auto* name = new TextBox;
+    auto* zip = new TextBox;
+    auto* phone = new TextBox;
+    auto* text = new QLabel("This text is far too long for one line of a form, so it goes on in the next one, and on.");
+    auto* hint = instructions("Instructions - enter the name and the telephone number and then click OK to go on.");
+    auto* box = group("Address", fieldColumns({{{"Name:", name}, {"Zip/Postcode:", zip}}, {{"Phone:", phone}}}));
+    screen.setLayout(column({hint, box, gap(10), row({stretch(), text}), stretch(2)}));
+    text->hide();
+    screen.resize(500, 300);
+    Shown(&screen);
+    EXPECT_EQ(name->geometry().left(), zip->geometry().left());
+    EXPECT_EQ(name->geometry().top(), phone->geometry().top());
+    EXPECT_GT(phone->geometry().left(), name->geometry().right() + 12);
+    EXPECT_GT(name->width(), 120);
+    EXPECT_GT(hint->height(), hint->fontMetrics().lineSpacing() * 2 - 4) << "the instructions wrap";
+    EXPECT_EQ(qobject_cast<QGroupBox*>(box)->title(), "Address");
+}
+
+TEST(Layouts, FifteenTwipsAreAPixel)
+{
+    EXPECT_EQ(TwipsToPixels(960), 64);
+    EXPECT_EQ(TwipsToPixels(800), 53);
+    EXPECT_EQ(PixelsToTwips(53), 795);
+}
+
+} // namespace

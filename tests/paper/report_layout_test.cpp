@@ -1,0 +1,277 @@
+#include "paper/report_layout.h"
+
+#include "paper/report_text.h"
+#include "support/report_designs.h"
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+
+namespace {
+const ReportItem* ItemOf(const ReportPage& page, const QString& control)
+{
+    for (const ReportItem& item : page.items)
+        if (item.control->name == control)
+            return &item;
+    return nullptr;
+}
+
+QStringList LinesOf(const ReportPage& page, const QString& control)
+{
+    QStringList lines;
+    for (const ReportItem& item : page.items)
+        if (item.control->name == control)
+            for (const ReportLine& line : item.lines)
+                lines.append(line.text);
+    return lines;
+}
+
+/// What every page owes its reader: nothing overlaps, nothing leaves the space between the margins.
+void CheckPage(const ReportPage& page, QSizeF space)
+{
+    const QRectF inside(QPointF(), space + QSizeF(1, 1));
+    for (size_t i = 0; i < page.items.size(); ++i) {
+        const ReportItem& item = page.items[i];
+        EXPECT_TRUE(inside.contains(item.place)) << item.control->name.toStdString();
+        for (const ReportLine& line : item.lines) {
+            const qreal right = line.baseline.x() + item.typeface->metrics.horizontalAdvance(line.text);
+            EXPECT_LE(right, item.place.right() + 1) << line.text.toStdString();
+            EXPECT_LE(line.baseline.y(), item.place.bottom()) << line.text.toStdString();
+        }
+        for (size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(page.items[j].place.adjusted(1, 1, -1, -1).intersects(item.place.adjusted(1, 1, -1, -1)))
+                << item.control->name.toStdString() << " over " << page.items[j].control->name.toStdString();
+    }
+}
+
+const ReportPaper A4{11906, 16838};
+const QSizeF A4Space(9026, 16838 - 2 * 1440);
+} // namespace
+
+TEST(ReportLayout, BreaksBetweenLinesAndRepeatsThePageHeader)
+{
+    ReportLayout layout(NameList(Numbered(130)), A4);
+
+    QStringList names;
+    for (int page = 0; layout.HasPage(page); ++page) {
+        const ReportPage sheet = layout.Page(page);
+        EXPECT_EQ(LinesOf(sheet, "Title").size(), page == 0 ? 1 : 0);
+        EXPECT_EQ(LinesOf(sheet, "Column"), QStringList("Name"));
+        CheckPage(sheet, A4Space);
+        names += LinesOf(sheet, "Name");
+    }
+
+    EXPECT_EQ(names, Numbered(130)) << "each line on one page, none twice";
+    EXPECT_EQ(layout.PageCount(), 3);
+}
+
+TEST(ReportLayout, TheFirstPageNeedsNoMoreThanItsOwnRows)
+{
+    ReportLayout layout(NameList(Numbered(5000)), A4);
+    layout.Page(0);
+    EXPECT_FALSE(layout.KnownPageCount());
+    EXPECT_FALSE(layout.CountOn(10));
+    EXPECT_EQ(LinesOf(layout.Page(3), "Name").size(), 54);
+    EXPECT_EQ(layout.PageCount(), 93);
+    EXPECT_FALSE(layout.HasPage(93));
+}
+
+TEST(ReportLayout, AReportWithoutRowsPrintsItsHeadersOnOnePage)
+{
+    ReportLayout list(NameList({}), A4);
+    EXPECT_EQ(PageText(list.Page(0)), "ReportHeader\n  Title: All the names\nPageHeader\n  Column: Name\n");
+    EXPECT_EQ(list.PageCount(), 1);
+
+    ReportLayout groups(TwoGroups(0), A4);
+    EXPECT_EQ(LinesOf(groups.Page(0), "Sum").size(), 2) << "a parent without children has its header and footer";
+    EXPECT_EQ(LinesOf(groups.Page(0), "Line"), QStringList());
+    EXPECT_EQ(LinesOf(groups.Page(0), "Number"), QStringList()) << "one page needs no number";
+}
+
+TEST(ReportLayout, GroupsRepeatTheirTitlesAndCountTheirPages)
+{
+    ReportLayout layout(TwoGroups(60), A4);
+    ASSERT_EQ(layout.PageCount(), 3);
+
+    const ReportPage second = layout.Page(1);
+    EXPECT_EQ(second.items.front().control->name, "Titles");
+    EXPECT_EQ(second.items.front().place.top(), 0);
+    EXPECT_EQ(LinesOf(second, "Group"), QStringList("B")) << "the group's own header comes once";
+    EXPECT_EQ(LinesOf(second, "OfGroup").last(), "third of B");
+    EXPECT_EQ(LinesOf(second, "Number"), QStringList("Page 2 of 3"));
+    for (int page = 0; page < 3; ++page)
+        CheckPage(layout.Page(page), A4Space);
+}
+
+TEST(ReportLayout, EmptyCollapsingFieldsPullUpWhatStandsBelow)
+{
+    ReportLayout layout(TwoGroups(1), A4);
+    const ReportPage page = layout.Page(0);
+    EXPECT_EQ(ItemOf(page, "Third")->place.top(), 230);
+    EXPECT_EQ(ItemOf(page, "Titles")->place.top(), 470);
+}
+
+TEST(ReportLayout, LongTextsWrapAndPushDownWhatStandsBelow)
+{
+    ReportLayout layout(NameList({"Short", QString("long words in a row ").repeated(500), QString(10'000, 'W'),
+                            "First\r\nSecond\n\nlost", "Last"}),
+        A4);
+    const ReportPage page = layout.Page(0);
+    CheckPage(page, A4Space);
+
+    QList<QStringList> names;
+    qreal bottom = 0;
+    for (const ReportItem& item : page.items) {
+        if (item.control->name != "Name")
+            continue;
+        EXPECT_GE(item.place.top(), bottom);
+        bottom = item.place.bottom();
+        QStringList lines;
+        for (const ReportLine& line : item.lines)
+            lines.append(line.text);
+        names.append(lines);
+    }
+    ASSERT_EQ(names.size(), 5);
+    EXPECT_EQ(names[1].size(), 3);
+    EXPECT_TRUE(names[1][2].endsWith(QChar(0x2026))) << "what does not fit is marked";
+    EXPECT_EQ(names[2].size(), 3);
+    EXPECT_EQ(names[3], QStringList({"First", "Second", ""}));
+}
+
+TEST(ReportLayout, AmountsArePrintedSmallerAndNeverCut)
+{
+    Report report = NameList({"One"});
+    auto rows = std::make_shared<ReportRows>();
+    rows->parents = ReportTable({"name", "amount"});
+    rows->parents.Add(QString("Much"));
+    rows->parents.Add(Currency::FromTenThousandths(std::numeric_limits<qint64>::max()));
+    rows->parents.EndRow();
+    report.rows = rows;
+    ReportLayout layout(report, A4);
+    const ReportPage page = layout.Page(0);
+    CheckPage(page, A4Space);
+    EXPECT_EQ(LinesOf(page, "Amount"), QStringList("$922,337,203,685,477.58"));
+    EXPECT_LT(ItemOf(page, "Amount")->typeface->key.points, 9);
+}
+
+TEST(ReportLayout, RulesAreSeenHoweverSmallThePageIsShown)
+{
+    Report report = NameList({});
+    report.Section(ReportSectionKind::PageHeader).controls.clear();
+    for (int i = 0; i < 10; ++i)
+        report.Section(ReportSectionKind::PageHeader).AddLine("Rule", 0, 33 * i, 4000);
+    report.Control("Title").visible = false;
+    ReportLayout layout(report, A4);
+    QImage picture(A4.width / 60, A4.height / 60, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.scale(1 / 60.0, 1 / 60.0);
+    layout.Paint(painter, layout.Page(0));
+    painter.end();
+    int dark = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        dark += qGray(picture.pixel(40, y)) < 128;
+    EXPECT_GE(dark, 5) << "ten rules, each half a pixel from the next";
+}
+
+TEST(ReportLayout, TextsThatCannotBeShownAreMarkedAndNeverShrinkOutOfSight)
+{
+    Report report = NameList({QString("Tea \U000F0000\u0301 caf\u0065\u0301")});
+    report.Control("Name").overflow = ReportOverflow::Shrink;
+    report.Control("Title").caption = QString(2000, 'W');
+    report.Control("Title").overflow = ReportOverflow::Shrink;
+    ReportLayout layout(report, A4);
+    const ReportPage page = layout.Page(0);
+    const QString name = LinesOf(page, "Name").value(0);
+    EXPECT_TRUE(name.contains("? caf\u0065\u0301")) << "no font has a character of the private planes";
+    EXPECT_GE(ItemOf(page, "Title")->typeface->key.points, 4);
+    CheckPage(page, A4Space);
+}
+
+TEST(ReportLayout, AmountsEndInOneColumn)
+{
+    ReportLayout layout(NameList(Numbered(12)), A4);
+    const ReportPage page = layout.Page(0);
+    for (const ReportItem& item : page.items) {
+        if (item.control->name != "Amount")
+            continue;
+        const ReportLine& line = item.lines[0];
+        EXPECT_NEAR(line.baseline.x() + item.typeface->metrics.horizontalAdvance(line.text), 5600, 2);
+    }
+}
+
+TEST(ReportLayout, HiddenControlsLeaveTheirSpace)
+{
+    Report report = NameList(Numbered(3));
+    report.Control("Title").visible = false;
+    report.Control("Amount").visible = false;
+    ReportLayout layout(report, A4);
+    EXPECT_EQ(ItemOf(layout.Page(0), "Title"), nullptr);
+    EXPECT_EQ(LinesOf(layout.Page(0), "Amount"), QStringList());
+    EXPECT_EQ(ItemOf(layout.Page(0), "Column")->place.top(), 400);
+}
+
+TEST(ReportLayout, ColumnsSpreadOverAWiderPageAndShrinkWithANarrowOne)
+{
+    Report wide = NameList(Numbered(100));
+    wide.width = 2 * 9026;
+    ReportLayout spread(wide, {30000, 16838});
+    EXPECT_NEAR(ItemOf(spread.Page(0), "Amount")->place.left(), 8200, 1);
+
+    // A6: all of the design is there, smaller, on more pages.
+    const ReportPaper postcard{5953, 8391};
+    ReportLayout narrow(wide, postcard);
+    CheckPage(narrow.Page(0), QSizeF(9026, 1e9));
+    QImage picture(postcard.width / 15, postcard.height / 15, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.scale(1 / 15.0, 1 / 15.0);
+    narrow.Paint(painter, narrow.Page(0));
+    painter.end();
+    const int margin = 1440 / 15;
+    int dark = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (qGray(picture.pixel(x, y)) < 128) {
+                ++dark;
+                EXPECT_TRUE(
+                    x >= margin && x < picture.width() - margin && y >= margin && y < picture.height() - margin);
+            }
+    EXPECT_GT(dark, 100) << "something is printed";
+}
+
+TEST(ReportLayout, APageTooSmallForALineStillEnds)
+{
+    ReportLayout layout(NameList(Numbered(7)), {2900, 2900});
+    EXPECT_LE(layout.PageCount(), 7);
+    EXPECT_GE(layout.PageCount(), 1);
+}
+
+TEST(ReportLayout, ChangingThePaperKeepsTheWholeWidthInUse)
+{
+    Report report = NameList(Numbered(3));
+    report.FillPaper(A4);
+    ReportLayout layout(report, A4);
+    layout.SetPaper({16838, 11906}, {720, 720, 720, 720});
+    EXPECT_EQ(layout.Design().width, 16838 - 1440);
+    EXPECT_EQ(layout.PageCount(), 1);
+}
+
+struct ValueText {
+    ReportValue value;
+    const char* mask;
+    const char* text;
+};
+class ReportValues : public testing::TestWithParam<ValueText> { };
+
+TEST_P(ReportValues, ReadByTheirMask)
+{
+    EXPECT_EQ(ReportValueText(GetParam().value, GetParam().mask).toStdString(), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ReportValues,
+    testing::Values(ValueText{{}, "Currency", ""}, ValueText{2.675, "Currency", "$2.68"},
+        ValueText{-1234.5, "Currency", "($1,234.50)"}, ValueText{8.25, "00.0\"%\"", "08.3%"},
+        ValueText{12.5, "", "12.5"}, ValueText{Currency::FromTenThousandths(15000), "", "$1.50"},
+        ValueText{QDateTime(QDate(2003, 7, 4), QTime(9, 0)), "d/MM/yyyy", "4/07/2003"},
+        ValueText{QString("$1.50"), "", "$1.50"}, ValueText{QString("n/a"), "Currency", "n/a"}));

@@ -1,0 +1,98 @@
+#include "paper/report_output.h"
+
+#include "paper/report_picture.h"
+#include "support/report_designs.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+namespace {
+const ReportPaper Letter{12240, 15840};
+
+QByteArray Bytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray Utf16(const QString& text)
+{
+    QByteArray bytes("\xFE\xFF");
+    for (const QChar character : text)
+        bytes.append(static_cast<char>(character.unicode() >> 8)).append(static_cast<char>(character.unicode()));
+    return bytes;
+}
+
+class ReportOutput : public testing::Test {
+protected:
+    QString Path(const QString& name) const { return m_folder.filePath(name); }
+    QStringList Files() const { return QDir(m_folder.path()).entryList(QDir::Files); }
+    QTemporaryDir m_folder;
+};
+} // namespace
+
+TEST_F(ReportOutput, APdfHasItsPagesItsTitleItsLanguageAndReadableText)
+{
+    ReportLayout layout(NameList(Numbered(200)), Letter);
+    ASSERT_TRUE(SaveReportAsPdf(layout, Path("names.pdf")));
+
+    const QByteArray pdf = Bytes(Path("names.pdf"));
+    EXPECT_TRUE(pdf.startsWith("%PDF-1."));
+    EXPECT_TRUE(pdf.endsWith("%%EOF\n"));
+    EXPECT_TRUE(pdf.contains("/Count " + QByteArray::number(layout.PageCount())));
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 612 792]") || pdf.contains("612.000000 792.000000")) << "Letter";
+    EXPECT_TRUE(pdf.contains("/ToUnicode")) << "the text can be searched";
+    EXPECT_TRUE(pdf.contains("/Title (" + Utf16("Names")));
+    EXPECT_EQ(pdf.count("/Lang (en"), 1);
+
+    // The last cross reference leads to the catalog that has the language.
+    const qsizetype place = pdf.mid(pdf.lastIndexOf("startxref\n") + 10).split('\n').front().toLongLong();
+    EXPECT_TRUE(pdf.mid(place).startsWith("xref\n"));
+    const qint64 catalog = pdf.mid(place).split('\n').at(2).left(10).toLongLong();
+    EXPECT_TRUE(pdf.mid(catalog, 60).contains("/Lang (en"));
+}
+
+TEST_F(ReportOutput, AFileThatCannotBeWrittenLeavesNothingBehind)
+{
+    ReportLayout layout(NameList(Numbered(3)), Letter);
+    EXPECT_FALSE(SaveReportAsPdf(layout, Path("missing/names.pdf")));
+    EXPECT_FALSE(SaveReportAsPdf(layout, m_folder.path())) << "a folder";
+    EXPECT_EQ(Files(), QStringList());
+}
+
+TEST_F(ReportOutput, PrintsThePagesThatWereChosenOnThePrintersPaper)
+{
+    ReportLayout layout(NameList(Numbered(200)), {});
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(Path("printed.pdf"));
+    printer.setPageSize(QPageSize(QPageSize::Letter));
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 3);
+    ASSERT_TRUE(PrintReport(layout, printer));
+    EXPECT_TRUE(Bytes(Path("printed.pdf")).contains("/Count 2"));
+    EXPECT_EQ(layout.Paper(), ReportPaper()) << "the preview stays as it was";
+    EXPECT_FALSE(printer.fullPage());
+}
+
+TEST_F(ReportOutput, PicturesThatCannotBeReadAreLeftOut)
+{
+    QImage picture(300, 100, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(Path("logo.png")));
+    QFile(Path("text.png")).open(QIODevice::WriteOnly);
+    QFile cut(Path("cut.png"));
+    ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
+    cut.write(Bytes(Path("logo.png")).left(40));
+    cut.close();
+
+    EXPECT_EQ(ReadPicture(Path("logo.png"), {1000, 1000}).size(), QSize(300, 100));
+    EXPECT_EQ(ReadPicture(Path("logo.png"), {150, 150}).size(), QSize(150, 50)) << "in its own shape";
+    EXPECT_TRUE(ReadPicture(Path("missing.png"), {150, 150}).isNull());
+    EXPECT_TRUE(ReadPicture(Path("text.png"), {150, 150}).isNull());
+    EXPECT_TRUE(ReadPicture(Path("cut.png"), {150, 150}).isNull());
+    EXPECT_TRUE(ReadPicture(m_folder.path(), {150, 150}).isNull());
+}
