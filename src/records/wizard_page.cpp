@@ -6,9 +6,13 @@
 
 namespace {
 
-/// One size for all pages, in lines of text, so that the buttons stay in place from page to page.
-constexpr int PageWidth = 36;
-constexpr int PageHeight = 29;
+/// One size for all pages, so that the buttons stay in place from page to page.
+QSize PageSize(int lineHeight)
+{
+    constexpr QSize Frames(200, 200);
+    constexpr QSize Lines(22, 15);
+    return Frames + Lines * lineHeight;
+}
 
 QFrame* Rule()
 {
@@ -48,8 +52,7 @@ void WizardPage::SetContent(QLayout* content)
     });
     page->setStretch(0, 1);
     setLayout(page);
-    const int line = fontMetrics().lineSpacing();
-    resize(QSize(PageWidth * line, PageHeight * line).expandedTo(sizeHint()));
+    resize(PageSize(fontMetrics().lineSpacing()).expandedTo(sizeHint()));
 
     const QList<QWidget*> controls = Controls();
     for (QWidget* control : controls.sliced(3))
