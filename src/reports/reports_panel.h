@@ -25,11 +25,11 @@ public:
     /// What the window starts with: the first style, the first graph.
     void SelectFirstGraph();
 
-    CONTROL(QPushButton, cmdExpand);
     CONTROL(ComboBox, cboGraphType);
     CONTROL(ComboBox, cboGraphStyle);
     CONTROL(ComboBox, cboReportFirstProduct);
     CONTROL(ComboBox, cboReportSecondProduct);
+    CONTROL(QPushButton, cmdExpand);
     CONTROL(Chart, c);
 
     QFrame* Label1_2; ///< the frame around all of it

@@ -8,6 +8,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <functional>
+
 namespace {
 
 constexpr int FirstWeekdayLabel = 52;
@@ -31,10 +33,9 @@ QGridLayout* Compact(QGridLayout* lines)
     constexpr int CaptionSpacing = 5;
     lines->setVerticalSpacing(LineSpacing);
     lines->setHorizontalSpacing(CaptionSpacing);
-    for (int line = 0; line < lines->rowCount(); ++line)
-        if (QLayoutItem* figure = lines->itemAtPosition(line, 1))
-            // A screen reader is to speak the figure itself; its caption stands in a label of its own.
-            figure->widget()->setAccessibleName(QString());
+    // A screen reader is to speak the figure itself; its caption stands in a label of its own.
+    for (int item = 0; item < lines->count(); ++item)
+        lines->itemAt(item)->widget()->setAccessibleName(QString());
     return lines;
 }
 
@@ -78,17 +79,23 @@ QLayout* StatisticsFrame::BuildFigures()
     lblResThisMonth = Figure(QStringLiteral("lblResThisMonth"), count);
     lblResThisMonthYTD = Figure(QStringLiteral("lblResThisMonthYTD"), count);
     lblTotRes = Figure(QStringLiteral("lblTotRes"), QStringLiteral("0"));
-    return Compact(fields({
+    QGridLayout* figures = fields({
         {tr("Total invoices today:"), lblTotalResToday},
         {tr("Most invoices on:"), lblMostResDate},
         {tr("Least invoices on:"), lblLeastResDate},
         {tr("Most popular month:"), lblMostPopMonth},
         {tr("Least popular month:"), lblLeastPopMonth},
         {tr("Most repeating customer:"), lblRecCust},
-        {tr("Invoices this month:"), lblResThisMonth},
-        {tr("Invoices this month YTD:"), lblResThisMonthYTD},
-        {tr("Total invoices:"), lblTotRes},
-    }));
+    });
+    // A name takes the whole width, below its caption.
+    figures->removeWidget(lblRecCust);
+    figures->addWidget(lblRecCust, figures->rowCount(), 0, 1, 2);
+    lblRecCust->setIndent(2 * BlockGap);
+    for (const FieldLine& line :
+        {FieldLine(tr("Invoices this month:"), lblResThisMonth),
+            FieldLine(tr("Invoices this month YTD:"), lblResThisMonthYTD), FieldLine(tr("Total invoices:"), lblTotRes)})
+        AddFieldLine(figures, line);
+    return Compact(figures);
 }
 
 QWidget* StatisticsFrame::BuildWeek()
