@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <cstring>
 
-/// usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out | --statistics]
-/// FOLDER
+/// usage: bench_tavrin [SUBJECT] FOLDER, with SUBJECT one of
+///     --start --memory --statements --lists --scans --reports --fan-out --statistics --charts
 /// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
 /// subject, or all. Adds lines to that file. Exit status 1: something was above its limit.
 
@@ -26,6 +26,7 @@ constexpr Subject Subjects[] = {
     {"--reports", MeasureReports},
     {"--fan-out", MeasureFanOut},
     {"--statistics", MeasureStatistics},
+    {"--charts", MeasureCharts},
 };
 
 bool IsAsked(const char* task, const char* subject)
@@ -42,7 +43,7 @@ int main(int argc, char* argv[])
     if (argc != 2 && argc != 3) {
         std::fputs(
             "usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out | "
-            "--statistics] FOLDER\n",
+            "--statistics | --charts] FOLDER\n",
             stderr);
         return 2;
     }

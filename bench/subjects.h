@@ -12,6 +12,7 @@ void MeasureScans(RunningProgram& program);
 void MeasureReports(RunningProgram& program);
 void MeasureFanOut(RunningProgram& program);
 void MeasureStatistics(RunningProgram& program);
+void MeasureCharts(RunningProgram& program);
 /// In processes of their own, since a start happens once in a process.
 void MeasureStart(const QString& folder);
 void MeasureMemory(const QString& folder);

@@ -1,18 +1,33 @@
 #include "chart/chart.h"
 
 #include "base/numbers.h"
+#include "base/regional.h"
 #include "base/runtime_error.h"
+#include "chart/chart_accessible.h"
+#include "chart/chart_colors.h"
+#include "chart/chart_painter.h"
+#include "chart/chart_scene.h"
 
+#include <QAccessible>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QMenu>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
 Chart::Chart(QWidget* parent)
     : QFrame(parent)
+    , m_menu(new QMenu(this))
 {
+    MakeChartsAccessible();
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    BuildMenu();
 }
 
 Chart::~Chart() = default;
@@ -113,19 +128,7 @@ void Chart::SetColumnLabel(const QString& label)
 
 QColor Chart::SeriesColor(int column) const
 {
-    return column == 1 ? QColor(0xc6, 0x28, 0x28) : QColor(0x43, 0xa0, 0x47);
-}
-
-QString Chart::TableText() const
-{
-    QStringList lines;
-    for (int row = 0; row < RowCount(); ++row) {
-        QStringList values;
-        for (int column = 0; column < ColumnCount(); ++column)
-            values.append(m_data.Value(row, column) ? CStr(*m_data.Value(row, column)) : QString());
-        lines.append(m_data.RowLabel(row) + QLatin1String(": ") + values.join(QLatin1String(", ")));
-    }
-    return lines.join(u'\n');
+    return ChartColors(palette()).Series(column - 1);
 }
 
 QSize Chart::sizeHint() const
@@ -135,25 +138,109 @@ QSize Chart::sizeHint() const
 
 QSize Chart::minimumSizeHint() const
 {
-    return {200, 140};
+    const int line = fontMetrics().height();
+    return {12 * line, 9 * line};
 }
 
 void Chart::Changed()
 {
-    update();
+    m_scene.reset();
+    if (m_redrawPending)
+        return;
+    m_redrawPending = true;
+    QMetaObject::invokeMethod(this, &Chart::Redraw, Qt::QueuedConnection);
 }
 
-void Chart::paintEvent(QPaintEvent* event)
+void Chart::Redraw()
 {
-    QFrame::paintEvent(event);
+    m_redrawPending = false;
+    Hover(std::nullopt, QPoint());
+    if (m_marked && PointRect(*m_marked).isEmpty())
+        m_marked.reset();
+    update();
+    QAccessibleTableModelChangeEvent tableEvent(this, QAccessibleTableModelChangeEvent::ModelReset);
+    QAccessible::updateAccessibility(&tableEvent);
+    if (QAccessible::isActive()) {
+        QAccessibleValueChangeEvent valueEvent(this, TableText());
+        QAccessible::updateAccessibility(&valueEvent);
+    }
+}
+
+QFont Chart::PictureFont() const
+{
+    // In pixels, so that the texts keep their proportion to the picture on every device.
+    QFont font = this->font();
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    return font;
+}
+
+ChartScene Chart::BuildSceneFor(QSize size, double pixel) const
+{
+    const QFontMetricsF metrics(PictureFont());
+    ChartRequest request;
+    request.type = m_type;
+    request.size = size;
+    request.pixel = pixel;
+    request.showLegend = m_showLegend;
+    request.rightToLeft = isRightToLeft();
+    request.locale = Regional();
+    request.ruler.lineHeight = metrics.height();
+    request.ruler.width = [&](const QString& text) { return metrics.horizontalAdvance(text); };
+    request.ruler.elided = [&](const QString& text, double width) {
+        return metrics.elidedText(text, Qt::ElideRight, width);
+    };
+    if (!m_showLegend)
+        return BuildScene(m_data, request);
+    ChartData named = m_data;
+    for (int column = 0; column < ColumnCount(); ++column)
+        named.SetColumnLabel(column, SeriesName(column));
+    return BuildScene(named, request);
+}
+
+const ChartScene& Chart::Scene() const
+{
+    const double pixel = 1 / devicePixelRatioF();
+    if (!m_scene || m_scene->room.pixel != pixel)
+        m_scene = std::make_unique<ChartScene>(BuildSceneFor(contentsRect().size(), pixel));
+    return *m_scene;
+}
+
+QString Chart::NoDataText() const
+{
+    return m_data.HasValues() ? QString() : tr("No data");
+}
+
+void Chart::paintEvent(QPaintEvent*)
+{
     QPainter painter(this);
-    const QRectF plot = contentsRect();
-    const double slot = plot.width() / std::max(1, RowCount() * ColumnCount());
-    const double range = std::max(1e-300, m_data.Most());
-    for (int row = 0; row < RowCount(); ++row)
-        for (int column = 0; column < ColumnCount(); ++column) {
-            const double height = plot.height() * m_data.Value(row, column).value_or(0) / range;
-            const double left = plot.left() + (row * ColumnCount() + column) * slot;
-            painter.fillRect(QRectF(left, plot.bottom() - height, slot * 0.7, height), SeriesColor(column + 1));
-        }
+    painter.save();
+    painter.translate(contentsRect().topLeft());
+    painter.setFont(PictureFont());
+    const ChartColors colors(palette());
+    PaintChart(painter, Scene(), colors, NoDataText());
+    const std::optional<ChartPoint> shown = m_hovered ? m_hovered : hasFocus() ? m_marked : std::nullopt;
+    if (shown)
+        PaintMark(painter, Scene(), colors, *shown);
+    painter.restore();
+    drawFrame(&painter);
+    if (hasFocus()) {
+        constexpr int Inset = 2;
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.rect = contentsRect().adjusted(Inset, Inset, -Inset, -Inset);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}
+
+void Chart::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    m_scene.reset();
+}
+
+void Chart::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    m_scene.reset();
+    update();
 }
