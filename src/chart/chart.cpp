@@ -3,7 +3,6 @@
 #include "base/numbers.h"
 #include "base/regional.h"
 #include "base/runtime_error.h"
-#include "chart/chart_accessible.h"
 #include "chart/chart_colors.h"
 #include "chart/chart_painter.h"
 #include "chart/chart_scene.h"
@@ -21,12 +20,10 @@ Chart::Chart(QWidget* parent)
     : QFrame(parent)
     , m_menu(new QMenu(this))
 {
-    MakeChartsAccessible();
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
-    setFocusPolicy(Qt::StrongFocus);
-    setMouseTracking(true);
+    SetUpReading();
     BuildMenu();
 }
 

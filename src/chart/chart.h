@@ -107,6 +107,7 @@ private:
     /// Something that shows has changed: lets the chart be drawn anew when the event loop comes round.
     void Changed();
     void Redraw();
+    void SetUpReading();
     void BuildMenu();
 
     ChartScene BuildSceneFor(QSize size, double pixel) const;

@@ -1,6 +1,7 @@
 #include "chart/chart.h"
 
 #include "base/regional.h"
+#include "chart/chart_accessible.h"
 #include "chart/chart_scene.h"
 
 #include <QAccessible>
@@ -9,6 +10,13 @@
 #include <QToolTip>
 
 // How the user reads values from the chart: by the mouse, by the arrow keys and as text.
+
+void Chart::SetUpReading()
+{
+    MakeChartsAccessible();
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+}
 
 std::optional<ChartPoint> Chart::PointAt(QPoint place) const
 {
