@@ -14,8 +14,8 @@ namespace {
 QStringList SeedStatements()
 {
     return {
-        QStringLiteral("INSERT INTO settings (SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage) "
-                       "VALUES (0, '2nd Sales Tax', 10)"),
+        QStringLiteral("INSERT INTO settings (SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage, "
+                       "webbookingproviderindex) VALUES (0, '2nd Sales Tax', 10, 0)"),
         QStringLiteral("INSERT INTO nextinvoiceno (invoiceno) VALUES (1)"),
         QStringLiteral("INSERT INTO nextitemno (itemnumber) VALUES (1)"),
         QStringLiteral("INSERT INTO warehouse (id, name) VALUES (1, 'Default Warehouse')"),
