@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPageSetupDialog>
 #include <QPainter>
 #include <QPrintDialog>
@@ -87,7 +89,12 @@ QString SaveFileName(const QString& title, const QString& filter, const QString&
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
         [&dialog](const QString& chosen) { dialog.setDefaultSuffix(FirstExtension(chosen)); });
     dialog.selectFile(suggested);
-    return PickedFile(dialog);
+    QString path = PickedFile(dialog);
+    while (!path.isEmpty() && !QFileInfo(path).dir().exists()) {
+        MsgBox(QObject::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
+        path = PickedFile(dialog);
+    }
+    return path;
 }
 
 QPrinter& CurrentPrinter()

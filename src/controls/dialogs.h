@@ -9,6 +9,7 @@ class QPrinter;
 
 /// The platform's file pickers; "" when the user cancelled. `filter` is Qt's form: "Pictures (*.png *.jpg);;All (*)".
 QString OpenFileName(const QString& title, const QString& filter);
+/// Asks before a file that exists is chosen, and again while the folder does not exist.
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested);
 
 /// The printer that Page Setup and Print share for the run; made on first use.

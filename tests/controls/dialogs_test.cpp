@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -63,6 +65,26 @@ TEST(Dialogs, TheWindowsPictureIsPrintedAfterTheDialogAlone)
     answers.ExpectPrint(true);
     PrintWindowImage(&window);
     CurrentPrinter().setOutputFileName(QString());
+}
+
+TEST(Dialogs, AFolderThatIsMissingIsToldAndTheFileAskedForAgain)
+{
+    QTemporaryDir folder;
+    const QString missing = folder.filePath("gone/page.html");
+    const auto name = [](const QString& path) {
+        return [path](QFileDialog& dialog) {
+            auto* box = Find<QLineEdit>(&dialog, "fileNameEdit");
+            box->setText(path);
+            QTest::keyClick(box, Qt::Key_Return);
+        };
+    };
+    WhenFormShows<QFileDialog>(name(missing));
+    WhenFormShows<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_TRUE(box.text().startsWith(missing)) << box.text().toStdString();
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    WhenFormShows<QFileDialog>(name(folder.filePath("page")));
+    EXPECT_EQ(SaveFileName("Save", "HTML (*.html);;HTM (*.htm)", ""), folder.filePath("page.html"));
 }
 
 TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)
