@@ -14,6 +14,8 @@
 #include "invoicing/set_next_invoice_no.h"
 #include "parties/find_customer.h"
 #include "reports/stock_reports.h"
+#include "web/web_orders_page.h"
+#include "web/web_orders_wizard.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
@@ -98,8 +100,8 @@ const QList<MenuRow>& MenuTable()
         Entry("mnuEditSelectAll", "Select &All", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_A); }),
 
         MenuSwitchedOff("mnuWeb", "&Web Orders"),
-        SwitchedOff("mnuWebConfig", "&Configure Web Orders...", nullptr),
-        SwitchedOff("mnuWebCreatePage", "&Create Web Orders Page...", nullptr),
+        SwitchedOff("mnuWebConfig", "&Configure Web Orders...", [](Window& window) { RunWebOrdersWizard(&window); }),
+        SwitchedOff("mnuWebCreatePage", "&Create Web Orders Page...", [](Window&) { CreateWebOrdersPage(); }),
 
         Menu("mnuReservations", "Inv&oices"),
         Entry("mnuListInvoices", "Invoice &History", [](Window& window) { window.ListInvoices(); }),

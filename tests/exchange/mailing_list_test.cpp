@@ -1,14 +1,12 @@
 #include "exchange/mailing_list.h"
 #include "exchange/mailing_list_wizard.h"
+#include "support/file_size_limit.h"
 #include "support/form_test.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
-
-#include <csignal>
 
 namespace {
 
@@ -53,22 +51,6 @@ protected:
     }
 
     ScriptedAnswers answers;
-};
-
-/// The file size that the process may not pass.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before{};
 };
 
 } // namespace

@@ -1,0 +1,233 @@
+#include "support/form_test.h"
+#include "web/web_orders_wizard.h"
+
+namespace {
+
+const QString Columns =
+    QStringLiteral("SELECT webbookingemail, webbookingproviderindex, webbookingprovidercustom FROM settings");
+const QString Offer = QStringLiteral("Would you like to create a booking web page now?");
+
+class WebOrdersWizardTest : public DatabaseTest {
+protected:
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        ShowAllWelcomePages();
+        Store("shop@harbour.example", "0", "");
+    }
+
+    void Store(const QString& email, const QString& index, const QString& custom) const
+    {
+        Run(QStringLiteral("UPDATE settings SET webbookingemail = '%1', webbookingproviderindex = %2, "
+                           "webbookingprovidercustom = '%3'")
+                .arg(email, index, custom));
+    }
+    Table Stored() const { return Rows(Columns); }
+
+    template <typename PageForm>
+    static void On(const std::function<void(PageForm&)>& visit)
+    {
+        WhenFormShows<PageForm>(visit);
+    }
+    template <typename PageForm>
+    static void Next()
+    {
+        WhenFormShows<PageForm>([](PageForm& page) { Click(page.cmdNext); });
+    }
+    void Start() const
+    {
+        Guarded([] { RunWebOrdersWizard(nullptr); });
+    }
+    /// The whole wizard with these entries, as far as the offer.
+    void Enter(const QString& email, const QString& custom)
+    {
+        Next<frmWizOConfig_Welcome>();
+        On<frmWizOConfig_Email>([email](auto& page) {
+            Type(page.txtName, email);
+            Click(page.cmdNext);
+        });
+        On<frmWizOConfig_Provider>([custom](auto& page) {
+            Type(page.txtCustom, custom);
+            Click(page.cmdNext);
+        });
+        Next<frmWizOConfig_Complete>();
+    }
+    void Finish(Answer toTheOffer)
+    {
+        WhenFormShows<frmWizOConfig_Complete>([this, toTheOffer](auto& page) {
+            answers.Expect(Offer, toTheOffer);
+            Click(page.cmdNext);
+        });
+    }
+
+    ScriptedAnswers answers;
+};
+
+} // namespace
+
+TEST_F(WebOrdersWizardTest, ItsPagesSayWhatTheyAreFor)
+{
+    const auto check = [](auto& page, const QString& title, QLabel* message, const QString& text) {
+        CheckForm(page);
+        EXPECT_EQ(page.windowTitle(), title);
+        EXPECT_EQ(message->text(), text);
+        Click(page.cmdNext);
+    };
+    On<frmWizOConfig_Welcome>([&](auto& page) {
+        check(page, "Web Booking Configuration Wizard", page.lblWelcomeMessage,
+            "Using this wizard you can configure your website to accept online bookings.");
+    });
+    On<frmWizOConfig_Email>([&](auto& page) {
+        EXPECT_EQ(page.txtName->accessibleName(), "Booking email address");
+        check(page, "Enter your email booking address", page.lblMessage,
+            "Enter the email address that should recieve the bookings made from the website.");
+    });
+    On<frmWizOConfig_Provider>([&](auto& page) {
+        EXPECT_EQ(Entries(page.cboProvider), QStringList({"Response-o-Matic (default)", "Custom..."}));
+        EXPECT_EQ(page.cboProvider->accessibleName(), "Email provider");
+        EXPECT_EQ(page.txtCustom->accessibleName(), "Custom provider");
+        check(page, "Choose your email provider", page.lblMessage,
+            "Select the email provider to use to send your email confirmations. If you are not sure then leave the "
+            "default setting.");
+    });
+    On<frmWizOConfig_Complete>([&](auto& page) {
+        EXPECT_EQ(page.cmdNext->text(), "&Finish");
+        check(page, "Finished", page.lblMessage, "Click Finish to complete your configuration.");
+    });
+    answers.Expect(Offer, Icon::Question, Buttons::YesNoCancel, Answer::Cancel);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", ""}}));
+}
+
+TEST_F(WebOrdersWizardTest, StoresItsAnswersAndCreatesThePageOnYes)
+{
+    const QString page = Folder() + "/orders.html";
+    Enter("orders@harbour.example", "https://own.example");
+    answers.Expect(Offer, Answer::Yes);
+    answers.ExpectSaveFile(page);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"orders@harbour.example", "1", "https://own.example"}}));
+    EXPECT_TRUE(QFile::exists(page));
+}
+
+TEST_F(WebOrdersWizardTest, CancelOnAnyPageStoresNothing)
+{
+    for (int last = 2; last <= 4; ++last) {
+        Next<frmWizOConfig_Welcome>();
+        On<frmWizOConfig_Email>([last](auto& page) {
+            Type(page.txtName, "other@harbour.example");
+            Click(last == 2 ? page.cmdCancel : page.cmdNext);
+        });
+        if (last > 2)
+            On<frmWizOConfig_Provider>([last](auto& page) {
+                Type(page.txtCustom, "https://own.example");
+                Click(last == 3 ? page.cmdCancel : page.cmdNext);
+            });
+        if (last > 3)
+            On<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdCancel); });
+        Start();
+    }
+    EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", ""}}));
+}
+
+TEST_F(WebOrdersWizardTest, AsksForWhatIsMissing)
+{
+    Next<frmWizOConfig_Welcome>();
+    On<frmWizOConfig_Email>([this](auto& page) {
+        Type(page.txtName, "");
+        answers.ExpectMessage(
+            "No email address has been entered. Please enter an email address to continue.", Icon::Critical);
+        Click(page.cmdNext);
+        EXPECT_TRUE(page.txtName->hasFocus());
+        Type(page.txtName, "no address");
+        Click(page.cmdNext);
+    });
+    On<frmWizOConfig_Provider>([this](auto& page) {
+        const QString question = "No custom provider has been entered. Continue anyway?";
+        Pick(page.cboProvider, "Custom...");
+        for (const Answer stay : {Answer::No, Answer::Cancel}) {
+            answers.Expect(question, Icon::None, Buttons::YesNoCancel, stay);
+            Click(page.cmdNext);
+            EXPECT_TRUE(page.isVisible());
+        }
+        answers.Expect(question, Answer::Yes);
+        Click(page.cmdNext);
+    });
+    Finish(Answer::No);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"no address", "1", ""}}));
+}
+
+TEST_F(WebOrdersWizardTest, TypingAnAddressChoosesTheCustomProviderAndTheDefaultKeepsIt)
+{
+    Next<frmWizOConfig_Welcome>();
+    Next<frmWizOConfig_Email>();
+    On<frmWizOConfig_Provider>([](auto& page) {
+        EXPECT_EQ(page.cboProvider->ListIndex(), BuiltInProvider);
+        Type(page.txtCustom, "https://own.example");
+        EXPECT_EQ(page.cboProvider->ListIndex(), CustomProvider);
+        Pick(page.cboProvider, "Response-o-Matic (default)");
+        Click(page.cmdNext);
+    });
+    On<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdBack); });
+    // What is stored is shown, although an address stands there.
+    On<frmWizOConfig_Provider>([](auto& page) {
+        EXPECT_EQ(page.cboProvider->ListIndex(), BuiltInProvider);
+        EXPECT_EQ(page.txtCustom->text(), "https://own.example");
+        Click(page.cmdNext);
+    });
+    Finish(Answer::No);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", "https://own.example"}}));
+}
+
+TEST_F(WebOrdersWizardTest, WithoutASettingsRowItEndsInSilence)
+{
+    Run("DELETE FROM settings");
+    Start();
+    EXPECT_EQ(Count("settings"), 0);
+}
+
+TEST_F(WebOrdersWizardTest, AnApostropheEndsTheProgramAfterTheStatementsBeforeIt)
+{
+    const struct {
+        QString email, custom;
+        Table stored;
+    } cases[] = {
+        {"o'neil@harbour.example", "https://own.example", {{"shop@harbour.example", "0", ""}}},
+        {"orders@harbour.example", "https://o'neil.example", {{"orders@harbour.example", "1", ""}}},
+    };
+    for (const auto& [email, custom, stored] : cases) {
+        const ExpectedEnd end;
+        Enter(email, custom);
+        Start();
+        EXPECT_TRUE(end.Ended());
+        EXPECT_EQ(Stored(), stored);
+    }
+}
+
+TEST_F(WebOrdersWizardTest, AnUnknownProviderIsARunTimeErrorAndMinusOneIsNone)
+{
+    for (const char* index : {"2", "99", "40000", "NULL"}) {
+        const ExpectedEnd end;
+        Store("shop@harbour.example", QLatin1String(index), "");
+        const bool readable = QLatin1String(index).size() <= 2;
+        if (readable) {
+            Next<frmWizOConfig_Welcome>();
+            Next<frmWizOConfig_Email>();
+        }
+        Start();
+        EXPECT_EQ(end.Number(), readable ? 380 : index[0] == 'N' ? 94 : 6) << index;
+    }
+
+    Store("shop@harbour.example", "-1", "");
+    Next<frmWizOConfig_Welcome>();
+    Next<frmWizOConfig_Email>();
+    On<frmWizOConfig_Provider>([](auto& page) {
+        EXPECT_EQ(page.cboProvider->ListIndex(), -1);
+        Click(page.cmdNext);
+    });
+    Finish(Answer::No);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "-1", ""}}));
+}
