@@ -4,11 +4,14 @@
 #include "app/main_grids.h"
 #include "app/splash.h"
 #include "app/tip.h"
+#include "base/guard.h"
 #include "base/numbers.h"
 #include "base/settings_store.h"
+#include "controls/message_box.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QWindow>
 
 namespace {
@@ -24,12 +27,21 @@ void WaitUntilPlaced(const QWidget& window)
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+QString DamagedText(const QString& path)
+{
+    return MainWindow::tr(
+        "The database file %1 is damaged. Close the program and restore a backup of the file: what is "
+        "entered from now on may be lost.")
+        .arg(QDir::toNativeSeparators(path));
+}
+
 } // namespace
 
 Program::Program() = default;
 
 Program::~Program()
 {
+    m_fileCheck.reset();
     m_window.reset();
     if (gConnection == &m_connection)
         gConnection = nullptr;
@@ -42,11 +54,21 @@ bool Program::Main()
         return false;
     m_window->show();
     WaitUntilPlaced(*m_window);
+    CheckFile();
     if (frmTip::ShowAtStartup())
         frmTip(m_window.get()).ShowModal();
     RunFirstRunPrompts();
     RestoreMainGridWidths(*m_window);
     return true;
+}
+
+void Program::CheckFile()
+{
+    const QString path = m_connection.Path();
+    m_fileCheck = std::make_unique<FileCheck>(path, [path, window = m_window.get()] {
+        QMetaObject::invokeMethod(
+            window, [path] { Guarded([&] { MsgBox(DamagedText(path), Icon::Critical); }); }, Qt::QueuedConnection);
+    });
 }
 
 bool Program::LoadMainWindow()

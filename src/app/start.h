@@ -2,6 +2,7 @@
 
 #include "app/main_window.h"
 #include "db/connection.h"
+#include "db/file_check.h"
 
 #include <memory>
 
@@ -20,11 +21,14 @@ public:
 
 private:
     bool LoadMainWindow();
+    /// Looks through the file in the background and says so when it is damaged.
+    void CheckFile();
     void RunFirstRunPrompts();
 
     enum class Load { NotYet, Done, Failed };
 
     Connection m_connection;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<FileCheck> m_fileCheck;
     Load m_load = Load::NotYet;
 };

@@ -1,16 +1,43 @@
 #include "db/database_file.h"
 
 #include "db/engine_errors.h"
+#include "db/left_journal.h"
 
+#include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
 #include <memory>
+#include <thread>
 
 #include <sqlite3.h>
 
 namespace {
 
-constexpr int BusyMilliseconds = 5000;
+using namespace std::chrono_literals;
+
+/// A file in use is asked for again and again, for five seconds.
+constexpr std::array WaitsForAFile{1ms, 2ms, 5ms, 10ms, 15ms, 20ms, 25ms, 50ms, 100ms};
+constexpr std::chrono::milliseconds LongestWait = 5s;
+
+std::atomic<void (*)()> gGiveWay = nullptr;
+
+/// The engine's question whether to try once more; `tries` were in vain. A check of the file is asked to give way.
+int WaitForFile(void*, int tries)
+{
+    std::chrono::milliseconds waited{};
+    for (int i = 0; i < tries; ++i)
+        waited += WaitsForAFile[std::min(size_t(i), WaitsForAFile.size() - 1)];
+    if (waited >= LongestWait)
+        return 0;
+    if (const auto giveWay = gGiveWay.load())
+        giveWay();
+    std::this_thread::sleep_for(WaitsForAFile[std::min(size_t(tries), WaitsForAFile.size() - 1)]);
+    return 1;
+}
 
 struct HandleCloser {
     void operator()(sqlite3* handle) const { sqlite3_close(handle); }
@@ -24,8 +51,10 @@ void RequireFile(const QString& path)
         throw RuntimeError(GeneralFailure, QStringLiteral("Could not find file '%1'.").arg(path));
     if (!file.isFile())
         throw CannotOpen(path, QStringLiteral("It is not a file."));
-    // The engine would take an empty file for a new database.
-    if (file.size() == 0)
+    // The engine would take a file shorter than its first page's head for a new database.
+    constexpr QByteArrayView Head("SQLite format 3", 16);
+    QFile bytes(path);
+    if (bytes.open(QIODevice::ReadOnly) && bytes.read(Head.size()) != Head.toByteArray())
         throw CannotOpen(path, QStringLiteral("Unrecognized database format."));
 }
 
@@ -79,16 +108,24 @@ void RequireWhole(const QString& path, sqlite3* handle)
 sqlite3* OpenDatabaseFile(const QString& path, FileUse use)
 {
     RequireFile(path);
+    if (use == FileUse::ReadAndWrite)
+        SetAsideForeignJournal(path);
     Handle handle = OpenHandle(path, use);
     sqlite3_extended_result_codes(handle.get(), 1);
-    sqlite3_busy_timeout(handle.get(), BusyMilliseconds);
+    sqlite3_busy_handler(handle.get(), WaitForFile, nullptr);
     // A name in double quotes that is no column is a mistake, not a text.
     sqlite3_db_config(handle.get(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     RequireWhole(path, handle.get());
     if (use == FileUse::ReadAndWrite)
         Run(path, handle.get(), "PRAGMA journal_mode = DELETE");
-    Run(path, handle.get(), "PRAGMA synchronous = FULL");
+    // The removal of the journal is what commits: it has to be on the disk, too, before an act counts as done.
+    Run(path, handle.get(), "PRAGMA synchronous = EXTRA");
     Run(path, handle.get(), "PRAGMA temp_store = MEMORY");
     Run(path, handle.get(), "PRAGMA cache_size = -32000");
     return handle.release();
+}
+
+void SetGiveWay(void (*giveWay)())
+{
+    gGiveWay = giveWay;
 }

@@ -9,7 +9,7 @@ QString Message(sqlite3* handle)
     return QString::fromUtf8(sqlite3_errmsg(handle));
 }
 
-QString GeneralText(sqlite3* handle, int code)
+QString GeneralText(int code)
 {
     if (code == SQLITE_READONLY_DBMOVED)
         return QStringLiteral("The database file was moved or deleted while it was open.");
@@ -26,13 +26,19 @@ QString GeneralText(sqlite3* handle, int code)
     case SQLITE_NOTADB:
         return QStringLiteral("Unrecognized database format.");
     case SQLITE_CORRUPT:
-        return QStringLiteral("The database is damaged: %1.").arg(Message(handle));
+        return QStringLiteral("The database is damaged.");
+    case SQLITE_CANTOPEN:
+        return QStringLiteral("Cannot open the database file or the journal beside it.");
+    case SQLITE_NOMEM:
+        return QStringLiteral("Not enough memory.");
+    case SQLITE_TOOBIG:
+        return QStringLiteral("The text is too long for the database.");
     default:
-        return Message(handle);
+        return QStringLiteral("The database engine failed (%1).").arg(code);
     }
 }
 
-RuntimeError ConstraintError(sqlite3* handle, int code)
+RuntimeError ConstraintError(int code)
 {
     if (code == SQLITE_CONSTRAINT_CHECK)
         return {TooLongFailure,
@@ -42,7 +48,7 @@ RuntimeError ConstraintError(sqlite3* handle, int code)
         return {GeneralFailure,
             QStringLiteral("The changes you requested to the table were not successful because they would create "
                            "duplicate values in the index, primary key, or relationship.")};
-    return {GeneralFailure, Message(handle)};
+    return {GeneralFailure, QStringLiteral("The table does not accept the row (%1).").arg(code)};
 }
 
 /// A failure while a statement is prepared, of a file that lacks what the program expects.
@@ -59,7 +65,9 @@ RuntimeError StatementError(sqlite3* handle)
         return NumericOverflowError();
     if (message == TypeMismatch().Description())
         return CriteriaMismatchError();
-    return {SyntaxFailure, message};
+    if (message == QLatin1String("parser stack overflow") || message.startsWith(QLatin1String("Expression tree")))
+        return {SyntaxFailure, QStringLiteral("Expression too complex in query expression.")};
+    return {SyntaxFailure, QStringLiteral("Syntax error in query.")};
 }
 
 } // namespace
@@ -71,8 +79,8 @@ RuntimeError EngineError(sqlite3* handle)
     case SQLITE_ERROR:
         return StatementError(handle);
     case SQLITE_CONSTRAINT:
-        return ConstraintError(handle, code);
+        return ConstraintError(code);
     default:
-        return {GeneralFailure, GeneralText(handle, code)};
+        return {GeneralFailure, GeneralText(code)};
     }
 }

@@ -23,6 +23,9 @@ TableDefinition Table(const char* name, const QList<ColumnDefinition>& columns)
     return {QString::fromLatin1(name), columns};
 }
 
+/// The longest text of a lookup column: what an import writes there may come from anywhere.
+constexpr int LongestName = 255;
+
 const auto AddressNames = {"Address1", "Address2", "City", "State", "PostCode", "Country", "Phone", "Fax", "Email"};
 
 TableDefinition CustomerTable()
@@ -63,8 +66,8 @@ TableDefinition ItemTable()
 TableDefinition VendorTable()
 {
     return Table("vendor",
-        Columns(AutoNumber, {"id"}) + Columns(Text, {"BusinessName", "ContactName"}) + Columns(Text, AddressNames)
-            + Columns(Memo, {"Notes"}));
+        Columns(AutoNumber, {"id"}) + QList{Column("BusinessName", Text, LongestName), Column("ContactName", Text)}
+            + Columns(Text, AddressNames) + Columns(Memo, {"Notes"}));
 }
 
 TableDefinition SettingsTable()
@@ -89,7 +92,7 @@ TableDefinition BookingTable()
 
 TableDefinition NamedTable(const char* name, const QList<ColumnDefinition>& further)
 {
-    return Table(name, Columns(AutoNumber, {"id"}) + Columns(Text, {"name"}) + further);
+    return Table(name, Columns(AutoNumber, {"id"}) + QList{Column("name", Text, LongestName)} + further);
 }
 
 QList<TableDefinition> MakeTables()

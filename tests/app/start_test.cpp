@@ -208,6 +208,29 @@ INSTANTIATE_TEST_SUITE_P(Files, BadDatabaseTest,
         BadFile{"text", [](const QString& path) { WriteFile(path, QByteArray(5000, 'x')); }},
         BadFile{"cut short", [](const QString& path) { WriteFile(path, QByteArray("SQLite format 3\0", 16)); }}));
 
+TEST_F(StartTest, ADamagedFileIsToldOfOnceWithItsName)
+{
+    NotTheFirstRun();
+    for (int i = 0; i < 30; ++i)
+        Item("Screws").Description(QString(3000, u'x')).Add();
+    QFile file(DatabasePath());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    constexpr int Page = 4096;
+    for (qint64 page = file.size() / Page - 8; page < file.size() / Page; ++page) {
+        file.seek(page * Page);
+        file.write(QByteArray(100, '\x77'));
+    }
+    file.close();
+
+    ScriptedAnswers answers;
+    answers.ExpectMessage("The database file " + DatabasePath()
+            + " is damaged. Close the program and restore a backup of the file: what is entered from now on may be "
+              "lost.",
+        Icon::Critical);
+    ASSERT_TRUE(Start());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return answers.Done(); }));
+}
+
 TEST_F(StartTest, ASplashThatIsLeftAloneLoadsAndGoesWhenTheLoadFailed)
 {
     SaveConfig("DBPath", Folder() + "/nowhere/");

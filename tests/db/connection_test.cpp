@@ -3,11 +3,15 @@
 #include "db/batch.h"
 #include "db/connection_private.h"
 #include "db/engine_errors.h"
+#include "db/file_check.h"
 #include "db/make_database.h"
 #include "support/temporary_database.h"
 
 #include <QDir>
 #include <QFile>
+#include <QThread>
+
+#include <atomic>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -223,11 +227,21 @@ protected:
         file.write(content);
         return file.fileName();
     }
-    QByteArray DatabaseBytes() const
+    static QByteArray Bytes(const QString& path)
     {
-        QFile file(DatabasePath());
+        QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
+    }
+    QByteArray DatabaseBytes() const { return Bytes(DatabasePath()); }
+    QString FileWithJournal(const QString& name, const QByteArray& content, const QByteArray& journal) const
+    {
+        for (const auto& [suffix, bytes] : {std::pair("", content), std::pair("-journal", journal)}) {
+            QFile file(Folder() + "/" + name + suffix);
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(bytes);
+        }
+        return Folder() + "/" + name;
     }
     void ExpectRefused(const QString& path) const
     {
@@ -244,9 +258,68 @@ TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndNothingIsCreated)
     ExpectRefused(Folder() + "/missing.mdb");
     ExpectRefused(Folder());
     ExpectRefused(File(""));
+    ExpectRefused(File("x"));
+    ExpectRefused(File("S"));
     ExpectRefused(File(QByteArray("This is a letter, not a database. ").repeated(50)));
     ExpectRefused(File(DatabaseBytes().left(4096 * 5)));
     ExpectRefused(File(DatabaseBytes().left(50)));
+}
+
+/// The journal of a crash, kept while a backup came over the file: rolling it back would put foreign pages into the
+/// backup.
+TEST_F(Opening, AJournalOfAnotherFileIsSetAside)
+{
+    const QByteArray backup = DatabaseBytes();
+    Run("UPDATE warehouse SET name = 'moved'");
+    Run("UPDATE warehouse SET name = 'moved again'");
+    QByteArray crashedFile, crashedJournal;
+    InBatch(*gConnection, [&] {
+        gConnection->Private().RunPlain("PRAGMA cache_size = 1");
+        for (int i = 0; i < 50; ++i) {
+            AddRow row(*gConnection, "item");
+            row.AddNew();
+            row.Set("Description", QString(5000, u'x'));
+            row.Update();
+        }
+        crashedFile = Bytes(DatabasePath());
+        crashedJournal = Bytes(DatabasePath() + "-journal");
+    });
+    ASSERT_GT(crashedJournal.size(), 0);
+
+    const QString own = FileWithJournal("own.mdb", crashedFile, crashedJournal);
+    Connection connection;
+    connection.Open(own);
+    EXPECT_EQ(connection.Execute("SELECT name FROM warehouse").Text(0), "moved again");
+    EXPECT_EQ(connection.Execute("SELECT COUNT(*) FROM item").Long(0), 0) << "its own journal rolls back";
+    EXPECT_FALSE(QFile::exists(own + "-journal-of-another-file"));
+
+    const QString restored = FileWithJournal("restored.mdb", backup, crashedJournal);
+    connection.Open(restored);
+    EXPECT_EQ(connection.Execute("SELECT name FROM warehouse").Text(0), "Default Warehouse");
+    connection.Close();
+    EXPECT_EQ(Bytes(restored), backup);
+    EXPECT_EQ(Bytes(restored + "-journal-of-another-file"), crashedJournal);
+}
+
+TEST_F(Opening, ACheckInTheBackgroundFindsDamageAndLetsWritersPass)
+{
+    for (int i = 0; i < 200; ++i)
+        Item(QStringLiteral("Screws %1").arg(i)).Description(QString(3000, u'x')).Add();
+    std::atomic<int> found = 0;
+    const auto damaged = [&] { ++found; };
+    const auto checked = [&](const QString& path) {
+        const FileCheck check(path, damaged);
+        for (int i = 0; i < 200 && found == 0; ++i) {
+            gConnection->Execute("UPDATE warehouse SET name = 'x'");
+            QThread::msleep(1);
+        }
+        return found.load();
+    };
+    EXPECT_EQ(checked(DatabasePath()), 0);
+    QByteArray bytes = DatabaseBytes();
+    for (qsizetype page = bytes.size() / 2; page < bytes.size() - 4096; page += 4096)
+        bytes.replace(page - page % 4096, 100, QByteArray(100, '\x77'));
+    EXPECT_EQ(checked(File(bytes)), 1);
 }
 
 TEST_F(Opening, AReadOnlyFileOpensForReadingAlone)
