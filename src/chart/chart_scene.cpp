@@ -136,14 +136,16 @@ private:
         m_free.setBottom(m_free.bottom() - LabelGap() - (longest + m_line) * Sine);
     }
 
-    /// What the first and the last label reach beyond their slots still lies in the picture.
+    /// What the first and the last label reach beyond their slots still lies in the picture. Where not all labels
+    /// stand, the last one that would reach beyond is left out instead.
     void MakeRoomBeside(double widest)
     {
         const double beyond = widest / 2 - m_free.width() / Rows() / 2 + EdgeGap();
         const double most = m_free.width() / 5;
         m_free.setLeft(m_free.left() + std::clamp(beyond - m_free.left(), 0.0, most));
         const double behind = m_request.size.width() - m_free.right() + m_depth.x();
-        m_free.setRight(m_free.right() - std::clamp(beyond - behind, 0.0, most));
+        if (m_plan.every == 1)
+            m_free.setRight(m_free.right() - std::clamp(beyond - behind, 0.0, most));
     }
 
     double EdgeGap() const { return m_line * 0.7; }
@@ -185,7 +187,8 @@ private:
             } else {
                 const double width = m_request.ruler.width(m_labels[size_t(row)]);
                 const QRectF box(centre - width / 2, top, width, m_line);
-                AddText(TextRole::Category, m_labels[size_t(row)], box, box.center(), 0, row);
+                if (m_plan.every == 1 || box.right() + EdgeGap() / 2 <= m_request.size.width())
+                    AddText(TextRole::Category, m_labels[size_t(row)], box, box.center(), 0, row);
             }
         }
     }

@@ -190,7 +190,7 @@ struct Meeting {
 
 Meeting Nearest(const ChartScene& scene, QPointF place)
 {
-    constexpr int Steps = 80;
+    constexpr int Steps = 150;
     Meeting nearest;
     for (const Face& front : scene.shapes.faces) {
         if (front.kind != FaceKind::Front)
@@ -224,13 +224,17 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(SolidType, WhatIsNearerIsPaintedOverWhatIsFurther)
 {
-    // Falls that the depth reaches across, so that sides of one solid overlap.
-    const ChartScene scene = Scene(Data({{4.0, 6.0}, {-3.0, 2.0}, {8.0, 1.0}, {1.0, -5.0}, {-2.0, 7.0}, {-6.0, 6.0},
-                                       {-1.0, 3.0}, {9.0, 1.0}, {5.0, 0.5}, {2.0, 4.0}, {8.0, -3.0}, {3.0, 2.0}}),
-        GetParam(), {300, 300});
+    Values rows;
+    for (int row = 0; row < 24; ++row)
+        rows.push_back({(row * 7) % 13 - 4.5, -0.3 - (row * 5) % 11});
+    const ChartData data = Data(rows);
+    ChartScene scene = Scene(data, GetParam(), {500, 400});
+    // So deep that the sides of one solid reach across several rows and over each other.
+    scene.room.depth = {110, -55};
+    scene.shapes = BuildShapes(data, GetParam(), scene.room);
     int compared = 0;
-    for (double y = 5; y < 300; y += 4.7)
-        for (double x = 5; x < 300; x += 5.1) {
+    for (double y = 5; y < 400; y += 8.9)
+        for (double x = 5; x < 620; x += 10.7) {
             const Face* painted = Painted(scene, {x, y});
             bool isEdge = false;
             for (const QPointF beside : {QPointF(1.5, 0), QPointF(-1.5, 0), QPointF(0, 1.5), QPointF(0, -1.5)})
