@@ -2,13 +2,25 @@
 
 set(TAVRIN_WARNINGS -Wall -Wextra -Wpedantic -Wshadow)
 
+# tavrin_sources(VARIABLE FOLDER): the sources of the folder. Their list is also written to a file that the configuration
+# depends on: otherwise a class in a new header would be compiled, but get no meta object until the next change here.
+function(tavrin_sources variable folder)
+    cmake_path(ABSOLUTE_PATH folder NORMALIZE)
+    cmake_path(GET folder FILENAME name)
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}-sources.txt)
+    file(CONFIGURE OUTPUT ${list} CONTENT "${sources}" @ONLY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+    set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
 # tavrin_room(ROOM [ON ROOM...] [LINKS LIBRARY...] [SCREENLESS NAME...]): the folder's sources as the library ROOM. It may
 # include its own headers and those of the rooms that it stands on, and nothing else: no other folder is on its path.
 # SCREENLESS names the sources that compute, read or write text. They are compiled as ROOM_logic, out of sight of every
 # widget. A room that links no windows is one such library as a whole.
 function(tavrin_room room)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ON;LINKS;SCREENLESS")
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    tavrin_sources(sources ${CMAKE_CURRENT_SOURCE_DIR})
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     # Headers are included as "room/header.h" through a folder that holds this one room.
     set(include_folder ${PROJECT_BINARY_DIR}/rooms/${room})
@@ -81,7 +93,7 @@ endfunction()
 
 # tavrin_test(FOLDER LIBRARIES...): one test program for each folder under tests/.
 function(tavrin_test folder)
-    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    tavrin_sources(sources ${folder})
     set(name test_${folder})
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE test_support ${ARGN})
