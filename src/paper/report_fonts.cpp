@@ -48,6 +48,20 @@ QStringList Paragraphs(const QString& text, int most)
     return paragraphs;
 }
 
+// The character as the face can show it: itself, or a compatible form such as a plain yen sign for one of full width,
+// or nothing.
+QString Shown(char32_t character, const ReportTypeface& face)
+{
+    QString text = QString::fromUcs4(&character, 1);
+    if (face.Has(character))
+        return text;
+    const QString compatible = text.normalized(QString::NormalizationForm_KC);
+    const QList<uint> characters = compatible.toUcs4();
+    const bool isShown =
+        compatible != text && std::ranges::all_of(characters, [&face](char32_t each) { return face.Has(each); });
+    return isShown ? compatible : QString();
+}
+
 // Control characters have no place on paper, and what no font has would print as a black bar.
 QString OneLine(const QString& text, const ReportTypeface& face)
 {
@@ -56,13 +70,13 @@ QString OneLine(const QString& text, const ReportTypeface& face)
     for (const char32_t character : text.left(LongestParagraph).toUcs4()) {
         if (isMissing && QChar::isMark(character))
             continue;
-        isMissing = !face.Has(character);
-        if (isMissing)
-            line += u'?';
-        else if (QChar::category(character) == QChar::Other_Control)
+        if (QChar::category(character) == QChar::Other_Control) {
             line += u' ';
-        else
-            line += QString::fromUcs4(&character, 1);
+            continue;
+        }
+        const QString shown = Shown(character, face);
+        isMissing = shown.isEmpty();
+        line += isMissing ? QStringLiteral("?") : shown;
     }
     return line;
 }

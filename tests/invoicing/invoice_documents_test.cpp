@@ -181,8 +181,7 @@ TEST_F(InvoiceDocuments, ACurrencyWithoutCentsHasNoneInAnyColumn)
     const int invoice = Invoice(Customer("Aki", "Ito").Add()).No("00001").Add();
     Line(invoice, Item("Tea").TaxRate(m_gst).Add(), 2, "1234.5");
     const QString text = TextOf(PrepareInvoice(invoice, false));
-    for (const char* amount :
-        {"txtAmount: ￥1,235\n", "txttaxsubtotal: ￥2,716\n", "Text1: ￥247\n", "Text2: ￥2,716\n"})
+    for (const char* amount : {"txtAmount: ¥1,235\n", "txttaxsubtotal: ¥2,716\n", "Text1: ¥247\n", "Text2: ¥2,716\n"})
         EXPECT_TRUE(text.contains(amount)) << amount << text.toStdString();
 }
 

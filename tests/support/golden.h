@@ -2,6 +2,7 @@
 
 #include "paper/report_layout.h"
 #include "paper/report_text.h"
+#include "support/text_difference.h"
 
 #include <gtest/gtest.h>
 
@@ -27,5 +28,6 @@ inline void ExpectGolden(const QString& text, const char* name)
         return;
     }
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file " << name;
-    EXPECT_EQ(text.toStdString(), file.readAll().toStdString());
+    const std::string difference = Difference(QString::fromUtf8(file.readAll()), text);
+    EXPECT_TRUE(difference.empty()) << "not as in golden/" << name << ":\n" << difference;
 }

@@ -8,16 +8,32 @@
 #include <QLocale>
 #include <QTimeZone>
 
+#include <cstdio>
+
 namespace {
+/// What Qt had to say during a test. It matters only where the test fails.
+QStringList gMessages;
+
+void Collect(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    gMessages.append(qFormatLogMessage(type, context, message));
+}
+
 /// What each test starts and ends with: the program alive, United States formats, no form left waited for.
 class EveryTest : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override
     {
+        gMessages.clear();
         SetRegional(QLocale(QLocale::English, QLocale::UnitedStates));
         FailOnProgramEnd();
         StartWatchingForms();
     }
-    void OnTestEnd(const testing::TestInfo&) override { CheckAwaitedForms(); }
+    void OnTestEnd(const testing::TestInfo& test) override
+    {
+        CheckAwaitedForms();
+        if (test.result()->Failed() && !gMessages.isEmpty())
+            std::printf("Qt: %s\n", qPrintable(gMessages.join(QStringLiteral("\nQt: "))));
+    }
 };
 } // namespace
 
@@ -26,7 +42,11 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "UTC");
+    qputenv("FONTCONFIG_FILE", TEST_FONTS);
+    // Only failing tests speak; --gtest_brief=0 lets all of them.
+    GTEST_FLAG_SET(brief, true);
     testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(Collect);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("TavrinInventory"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
