@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QWidget>
 
@@ -61,6 +63,30 @@ void PaintWindow(QPainter& painter, QWidget& window)
     painter.drawRect(place.adjusted(0, 0, -1, -1));
 }
 
+QString CaptionOf(const QString& name)
+{
+    static const QRegularExpression words(QStringLiteral("^[a-z0-9]+(-[a-z0-9]+)*$"));
+    if (!words.match(name).hasMatch())
+        throw std::runtime_error("a picture's name is made of words with hyphens, not " + name.toStdString());
+    QString caption = name;
+    caption.replace(QLatin1Char('-'), QLatin1Char(' '));
+    caption[0] = caption[0].toUpper();
+    return caption;
+}
+
+constexpr auto IndexHead = R"(<!DOCTYPE html>
+<html lang="en">
+<meta charset="utf-8">
+<title>Tavrin Inventory, a tour</title>
+<style>
+body { font-family: sans-serif; margin: 2em; background: #f4f5f7; color: #222 }
+figure { display: inline-block; margin: 0 1.5em 1.5em 0; vertical-align: top }
+img { width: 30em; border: 1px solid #889 }
+figcaption { margin-top: 0.3em }
+</style>
+<h1>Tavrin Inventory, a tour</h1>
+)";
+
 } // namespace
 
 Album::Album(const QString& folder)
@@ -70,8 +96,14 @@ Album::Album(const QString& folder)
         throw std::runtime_error("cannot write to " + folder.toStdString());
 }
 
+void Album::Chapter(const char* heading)
+{
+    m_index << QStringLiteral("<h2>%1</h2>").arg(QString::fromUtf8(heading).toHtmlEscaped());
+}
+
 void Album::Take(const char* name)
 {
+    const QString caption = CaptionOf(QLatin1String(name));
     QApplication::processEvents();
     const QScreen* screen = QApplication::primaryScreen();
     QPixmap picture(screen->size() * screen->devicePixelRatio());
@@ -84,4 +116,16 @@ void Album::Take(const char* name)
     const QString file = QStringLiteral("%1-%2.png").arg(++m_number, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
     if (!picture.save(QDir(m_folder).filePath(file)))
         throw std::runtime_error("cannot write " + file.toStdString());
+    m_index << QStringLiteral(
+        R"(<figure><a href="%1"><img src="%1" alt="%2"></a><figcaption>%3. %2</figcaption></figure>)")
+                   .arg(file, caption)
+                   .arg(m_number);
+}
+
+void Album::WriteIndex() const
+{
+    QFile index(QDir(m_folder).filePath(QStringLiteral("index.html")));
+    const QByteArray page = IndexHead + m_index.join(QLatin1Char('\n')).toUtf8() + "\n</html>\n";
+    if (!index.open(QFile::WriteOnly) || index.write(page) != page.size() || !index.flush())
+        throw std::runtime_error("cannot write " + index.fileName().toStdString());
 }

@@ -1,17 +1,23 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
-/// Numbered pictures of the screen, in a folder: "07-item-record.png".
+/// Numbered pictures of the screen, in a folder, "07-item-record.png", and the page that shows them, "index.html".
 class Album {
 public:
-    /// Makes the folder. Throws std::runtime_error when it cannot be written.
+    /// Makes the folder. Throws std::runtime_error, as all of these do, when it cannot be written.
     explicit Album(const QString& folder);
 
-    /// The windows that show now, each above the other as they opened, with a caption where a frame would be.
+    /// The pictures that follow stand under this heading.
+    void Chapter(const char* heading);
+    /// The windows that show now, each above the other as they opened, with a caption where a frame would be. The name
+    /// is the picture's caption too: small letters with hyphens between the words.
     void Take(const char* name);
+    void WriteIndex() const;
 
 private:
     QString m_folder;
     int m_number = 0;
+    QStringList m_index;
 };

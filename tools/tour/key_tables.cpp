@@ -10,11 +10,11 @@
 namespace {
 
 /// At the next form of this name, types the name, takes a picture and clicks OK.
-void Name(Album& album, const char* form, const QString& name)
+void Name(Album& album, const char* form, const QString& name, const char* picture)
 {
-    At(form, [&album, form, name](QDialog& details) {
+    At(form, [&album, name, picture](QDialog& details) {
         Type(Find<QWidget>(&details, "txtName"), name);
-        album.Take(form);
+        album.Take(picture);
         Click(Find<QPushButton>(&details, "cmdOK"));
     });
 }
@@ -25,42 +25,42 @@ void SetTaxes(MainWindow& window, Album& album)
         At("frmAddTaxRate", [&album](QDialog& details) {
             Type(Find<QWidget>(&details, "txtName"), QStringLiteral("Reduced"));
             Type(Find<QWidget>(&details, "txtPercentage"), QStringLiteral("2.5"));
-            album.Take("tax-rate-details");
+            album.Take("new-tax-rate");
             Click(Find<QPushButton>(&details, "cmdOK"));
         });
         Click(Find<QPushButton>(&form, "cmdAdd"));
         album.Take("tax-rates");
         Click(Find<QPushButton>(&form, "cmdCancel"));
     });
-    ChooseFromMenu(window, "mnuConfigure", "mnuInvTaxRates", album, "configure-menu-tax-rates");
+    ChooseFromMenu(window, "mnuConfigure", "mnuInvTaxRates", album, "tax-rates-in-the-configure-menu");
 }
 
 void AddALocation(MainWindow& window, Album& album)
 {
     At("frmLocations", [&album](QDialog& form) {
-        Name(album, "frmAddWarehouse", QStringLiteral("Boat Shed"));
+        Name(album, "frmAddWarehouse", QStringLiteral("Boat Shed"), "new-warehouse");
         Click(Find<QPushButton>(&form, "cmdCatAdd"));
-        Name(album, "frmAddLocation", QStringLiteral("Loft, left"));
+        Name(album, "frmAddLocation", QStringLiteral("Loft, left"), "new-location");
         Click(Find<QPushButton>(&form, "cmdAdd"));
         album.Take("locations");
-        AnswerBox(album, "warehouse-in-use", QMessageBox::Ok);
+        AnswerBox(album, "a-warehouse-in-use-cannot-be-deleted", QMessageBox::Ok);
         Click(Find<QPushButton>(&form, "cmdCatRemove"));
         Click(Find<QPushButton>(&form, "cmdCancel"));
     });
-    ChooseFromMenu(window, "mnuConfigure", "mnuInvLocations", album, "configure-menu-locations");
+    ChooseFromMenu(window, "mnuConfigure", "mnuInvLocations", album, "locations-in-the-configure-menu");
 }
 
 void AddACategory(MainWindow& window, Album& album)
 {
     At("frmCategories", [&album](QDialog& form) {
-        Name(album, "frmAddCategory", QStringLiteral("Ship's Supplies"));
+        Name(album, "frmAddCategory", QStringLiteral("Ship's Supplies"), "new-category");
         Click(Find<QPushButton>(&form, "cmdCatAdd"));
-        Name(album, "frmAddSubCategory", QStringLiteral("Lamps & Oil"));
+        Name(album, "frmAddSubCategory", QStringLiteral("Lamps & Oil"), "new-sub-category");
         Click(Find<QPushButton>(&form, "cmdAdd"));
         album.Take("categories");
         Click(Find<QPushButton>(&form, "cmdCancel"));
     });
-    ChooseFromMenu(window, "mnuConfigure", "mnuInvCats", album, "configure-menu-categories");
+    ChooseFromMenu(window, "mnuConfigure", "mnuInvCats", album, "categories-in-the-configure-menu");
 }
 
 } // namespace

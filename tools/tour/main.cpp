@@ -21,8 +21,8 @@
 #include <cstdio>
 
 /// usage: tour PROGRAM_FOLDER PICTURE_FOLDER
-/// Walks the real windows, from the stock to the printed invoice, and leaves a picture of each station. It works on a
-/// demo shop and a settings store of its own, which it throws away.
+/// Walks the real windows, from the stock to the printed invoice, and leaves a picture of each station and a page that
+/// shows them. It works on a demo shop and a settings store of its own, which it throws away.
 
 namespace {
 
@@ -62,16 +62,26 @@ void Walk(const QString& folder, const QString& pictureFolder)
 {
     Album album(pictureFolder);
     Program program;
+    album.Chapter("The first start");
     StartForTheFirstTime(program, album);
+    album.Chapter("A look around");
     LookAround(program, album);
+    album.Chapter("A new item");
     const QString barCode = AddAnItem(program, album);
+    album.Chapter("Groups, goods received and price lists");
     KeepTheStock(program, album, barCode);
+    album.Chapter("Taxes, locations and categories");
     ConfigureKeyTables(program, album);
+    album.Chapter("Customers and vendors");
     KeepPeople(program, album);
+    album.Chapter("The wizards");
     RunTheWizards(program, album, folder);
+    album.Chapter("An invoice");
     WriteAnInvoice(program, album, barCode);
+    album.Chapter("The invoice, found again");
     FindTheInvoice(program, album);
     program.Window()->close();
+    album.WriteIndex();
 }
 
 bool WentWell()

@@ -23,7 +23,7 @@ void AddACustomer(MainWindow& window, Album& album)
         album.Take("customer-record");
         Click(Find<QPushButton>(&form, "cmdOk"));
     });
-    ChooseFromMenu(window, "mnuCustomers", "mnuCustomerAdd", album, "customers-menu");
+    ChooseFromMenu(window, "mnuCustomers", "mnuCustomerAdd", album, "add-customer-in-the-customers-menu");
     ClickToolbar(window, "Customers");
     ClickTitle(window.picCustomers->gcust, 1);
     album.Take("customers-by-address");
@@ -46,7 +46,7 @@ void FindThem(MainWindow& window, Album& album)
 
 void AddAVendor(MainWindow& window, Album& album)
 {
-    ChooseFromMenu(window, "mnuVendors", "mnuVendorsView", album, "vendors-menu");
+    ChooseFromMenu(window, "mnuVendors", "mnuVendorsView", album, "back-to-the-vendors");
     At("frmVendor", [&album](QDialog& form) {
         Type(Find<QWidget>(&form, "txtContactName"), QStringLiteral("Ødegård"));
         Type(Find<QWidget>(&form, "txtBusinessName"), QStringLiteral("Northern Lamps"));
@@ -57,7 +57,7 @@ void AddAVendor(MainWindow& window, Album& album)
     Click(window.picVendors->cmdVendorNew);
     album.Take("vendors-with-the-new-one");
     ClickRow(window.picVendors->gVendors, 1);
-    AnswerBox(album, "vendor-in-use", QMessageBox::Ok);
+    AnswerBox(album, "a-vendor-in-use-cannot-be-deleted", QMessageBox::Ok);
     Click(window.picVendors->cmdVendorDelete);
 }
 

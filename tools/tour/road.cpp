@@ -40,7 +40,7 @@ void VisitTips(Album& album)
 
 void FillItemRecord(QDialog& form, Album& album, const QString& barCode)
 {
-    album.Take("item-record-new");
+    album.Take("new-item-record");
     Type(Find<QWidget>(&form, "txtFields_5"), QStringLiteral("Ship's Lantern, Brass \"Pilot\""));
     Type(Find<QWidget>(&form, "txtFields_1"), QStringLiteral("Burns lamp oil for twelve hours."));
     Type(Find<QWidget>(&form, "txtFields_0"), barCode);
@@ -52,7 +52,7 @@ void FillItemRecord(QDialog& form, Album& album, const QString& barCode)
     Pick(Find<QComboBox>(&form, "cboCategory"), QStringLiteral("Household"));
     Pick(Find<QComboBox>(&form, "cboVendor"), QStringLiteral("Tidewell Household Supplies"));
     Pick(Find<QComboBox>(&form, "cboTaxRate"), QStringLiteral("Standard"));
-    album.Take("item-record-filled");
+    album.Take("item-record-filled-in");
     Click(Find<QPushButton>(&form, "cmdOk"));
 }
 
@@ -140,7 +140,7 @@ void EditQuantity(InvoicePage& page, Album& album)
 void DeleteLine(InvoicePage& page, Album& album)
 {
     ClickRow(page.gNewInvoice, 2);
-    AnswerBox(album, "delete-line-question", QMessageBox::Yes);
+    AnswerBox(album, "delete-the-line-or-not", QMessageBox::Yes);
     Click(page.cmdDeleteOrderItem);
 }
 
@@ -150,11 +150,11 @@ void Complete(InvoicePage& page, Album& album)
     Type(page.txtNotes, QStringLiteral("Deliver to the side door."));
     Click(page.chkPaid);
     album.Take("ready-to-complete");
-    AnswerBox(album, "print-question", QMessageBox::Yes);
+    AnswerBox(album, "print-the-invoice-or-not", QMessageBox::Yes);
     Click(page.cmdCompleteInvoice);
     album.Take("invoice-document");
     ClosePreviews();
-    album.Take("history-with-the-invoice");
+    album.Take("invoice-history-with-the-new-invoice");
 }
 
 } // namespace
@@ -163,8 +163,8 @@ void StartForTheFirstTime(Program& program, Album& album)
 {
     VisitSplash(album);
     VisitTips(album);
-    AnswerBox(album, "first-start-tutorial", QMessageBox::No);
-    AnswerBox(album, "first-start-wizard", QMessageBox::No);
+    AnswerBox(album, "first-start-offers-the-tutorial", QMessageBox::No);
+    AnswerBox(album, "first-start-offers-the-wizard", QMessageBox::No);
     program.Main();
     album.Take("invoice-history");
 }
@@ -192,7 +192,7 @@ QString AddAnItem(Program& program, Album& album)
     album.Take("inventory-by-stock");
     At("frmItemDetails", [&](QDialog& form) { FillItemRecord(form, album, barCode); });
     Click(window.picInventory->cmdAddInventory);
-    album.Take("inventory-with-the-item");
+    album.Take("inventory-with-the-new-item");
     return barCode;
 }
 
@@ -223,7 +223,7 @@ void FindTheInvoice(Program& program, Album& album)
         album.Take("find-invoice");
         Click(Find<QPushButton>(&form, "cmdEditCustomer"));
     });
-    ChooseFromMenu(window, "mnuReservations", "mnuReservationFind", album, "invoices-menu");
+    ChooseFromMenu(window, "mnuReservations", "mnuReservationFind", album, "find-invoice-in-the-invoices-menu");
     album.Take("edit-invoice");
     Click(window.picNewInvoice->cmdCloseInvoice);
 }

@@ -11,7 +11,7 @@ namespace {
 
 void PutAGroupTogether(MainWindow& window, Album& album)
 {
-    ChooseFromMenu(window, "mnuInventory", "mnuInventoryViewItemGroup", album, "inventory-menu");
+    ChooseFromMenu(window, "mnuInventory", "mnuInventoryViewItemGroup", album, "item-groups-in-the-inventory-menu");
     album.Take("item-groups");
     At("frmItemGroup", [&album](QDialog& form) {
         Type(Find<QWidget>(&form, "txtName"), QStringLiteral("Lantern Evening"));
@@ -19,7 +19,7 @@ void PutAGroupTogether(MainWindow& window, Album& album)
             Pick(Find<QComboBox>(&form, "cboItems"), QString::fromUtf8(item));
             Click(Find<QPushButton>(&form, "cmdAdd"));
         }
-        album.Take("item-group");
+        album.Take("new-item-group");
         Click(Find<QPushButton>(&form, "cmdOk"));
     });
     Click(window.picItemGroups->cmdItemGroupNew);
@@ -39,7 +39,7 @@ void ReceiveGoods(MainWindow& window, Album& album, const QString& barCode)
         album.Take("goods-received");
         Click(Find<QPushButton>(&form, "cmdCancel"));
     });
-    ChooseFromMenu(window, "mnuInventory", "mnuInventoryReceive", album, "inventory-menu-receive");
+    ChooseFromMenu(window, "mnuInventory", "mnuInventoryReceive", album, "receive-stock-in-the-inventory-menu");
 }
 
 void AddAPriceList(MainWindow& window, Album& album)
@@ -47,14 +47,14 @@ void AddAPriceList(MainWindow& window, Album& album)
     At("frmMultiplePricing", [&album](QDialog& lists) {
         At("frmAddPriceList", [&album](QDialog& form) {
             Type(Find<QWidget>(&form, "txtName"), QStringLiteral("Winter Market"));
-            album.Take("price-list-details");
+            album.Take("new-price-list");
             Click(Find<QPushButton>(&form, "cmdOK"));
         });
         Click(Find<QPushButton>(&lists, "cmdAdd"));
         album.Take("price-lists");
         Click(Find<QPushButton>(&lists, "cmdCancel"));
     });
-    ChooseFromMenu(window, "mnuConfigure", "mnuConfigMultipleItemPricing", album, "configure-menu");
+    ChooseFromMenu(window, "mnuConfigure", "mnuConfigMultipleItemPricing", album, "price-lists-in-the-configure-menu");
     ClickToolbar(window, "Inventory");
     Pick(window.picInventory->cboInvoicePriceList, QStringLiteral("Winter Market"));
     album.Take("inventory-in-the-new-price-list");

@@ -61,7 +61,7 @@ void Configure(MainWindow& window, Album& album, const QString& logo)
     Turn(album, "frmWizConfig_PickingList", "configuration-picking-lists");
     Turn(album, "frmWizConfig_Cats", "configuration-categories");
     Turn(album, "frmWizConfig_Complete", "configuration-finish");
-    ChooseFromMenu(window, "mnuConfigure", "mnuConfigureWizard", album, "configure-menu-wizard");
+    ChooseFromMenu(window, "mnuConfigure", "mnuConfigureWizard", album, "configuration-wizard-in-the-configure-menu");
 }
 
 void ListAddresses(MainWindow& window, Album& album, const QString& file)
@@ -70,7 +70,7 @@ void ListAddresses(MainWindow& window, Album& album, const QString& file)
     Turn(album, "frmWizMailList_File", "mailing-list-file",
         [file](QDialog& page) { Type(Find<QWidget>(&page, "txtName"), file); });
     Turn(album, "frmWizMailList_Complete", "mailing-list-finish");
-    ChooseFromMenu(window, "mnuCustomers", "mnuCustMailingList", album, "customers-menu-mailing-list");
+    ChooseFromMenu(window, "mnuCustomers", "mnuCustMailingList", album, "mailing-list-in-the-customers-menu");
 }
 
 } // namespace
