@@ -1,12 +1,15 @@
 #include "sql/statement_shape.h"
 
+#include "base/regional_formats.h"
 #include "sql/date_literal.h"
 #include "sql/statement_errors.h"
 
 #include <charconv>
-#include <cmath>
+#include <cstring>
 
 namespace {
+
+constexpr int GroupOfDigits = 3;
 
 bool IsDigit(char16_t c)
 {
@@ -74,6 +77,8 @@ private:
         if (IsBlank(c)) {
             m_shape.text.push_back(' ');
             ++m_at;
+        } else if (m_inAssignments && AtAssignedValue(c) && SkipNumberAsTyped()) {
+            AddNumberAsTyped();
         } else if (IsDigit(c) || (c == u'.' && m_at + 1 < m_end && IsDigit(m_at[1]))) {
             ReadNumber();
         } else if (IsWord(c)) {
@@ -97,6 +102,8 @@ private:
             return ReadEnd();
         case u'(':
         case u')':
+            m_brackets += c == u'(' ? 1 : -1;
+            [[fallthrough]];
         case u',':
         case u'.':
         case u'=':
@@ -120,7 +127,64 @@ private:
         const char16_t* start = m_at;
         while (m_at < m_end && IsWord(*m_at))
             m_at = AppendUtf8(m_shape.text, m_at, m_end);
-        m_afterTop = m_at - start == 3 && (start[0] | 32) == u't' && (start[1] | 32) == u'o' && (start[2] | 32) == u'p';
+        const QStringView word(start, m_at);
+        m_afterTop = IsKeyword(word, u"top");
+        if (m_isFirstWord)
+            m_isUpdate = IsKeyword(word, u"update");
+        else if (m_isUpdate)
+            m_inAssignments = (m_inAssignments || IsKeyword(word, u"set")) && !IsKeyword(word, u"where");
+        m_isFirstWord = false;
+    }
+
+    static bool IsKeyword(QStringView word, QStringView keyword)
+    {
+        return word.size() == keyword.size() && word.compare(keyword, Qt::CaseInsensitive) == 0;
+    }
+
+    /// True where a value of a SET list begins, which is no place for a comma between two values.
+    bool AtAssignedValue(char16_t c) const
+    {
+        if (m_brackets != 0 || !(IsDigit(c) || Formats().decimal == QChar(c)))
+            return false;
+        const size_t last = m_shape.text.find_last_not_of(' ');
+        return last != std::string::npos && std::strchr("=<>+-*/&", m_shape.text[last]) != nullptr;
+    }
+
+    /// Moves behind a number with the user's decimal sign where that is no point: "7,5", ",5", "1.234,5". Behind a
+    /// comma in a SET list only an assignment can stand, so that it means nothing else. Its digits go to m_digits.
+    bool SkipNumberAsTyped()
+    {
+        const RegionalFormats& formats = Formats();
+        if (formats.decimal.size() != 1 || formats.decimal == QLatin1Char('.'))
+            return false;
+        const char16_t* at = m_at;
+        m_digits.clear();
+        const auto digits = [&] {
+            const char16_t* first = at;
+            for (; at < m_end && IsDigit(*at); ++at)
+                m_digits.push_back(char(*at));
+            return at - first;
+        };
+        if (digits() > 0)
+            while (at < m_end && formats.group == QChar(*at) && !IsBlank(*at) && at + 1 < m_end && IsDigit(at[1]))
+                if (++at; digits() != GroupOfDigits)
+                    return false;
+        if (at == m_end || formats.decimal != QChar(*at))
+            return false;
+        ++at;
+        m_digits.push_back('.');
+        if (digits() == 0)
+            return false;
+        m_at = at;
+        return true;
+    }
+
+    void AddNumberAsTyped()
+    {
+        const char16_t* behindDigits = m_at;
+        if (SkipExponent())
+            m_digits.append(behindDigits, m_at);
+        AddDigits(false);
     }
 
     void ReadNumber()
@@ -161,6 +225,11 @@ private:
     void AddNumber(const char16_t* start, bool whole)
     {
         m_digits.assign(start, m_at);
+        AddDigits(whole);
+    }
+
+    void AddDigits(bool whole)
+    {
         const char* first = m_digits.data();
         const char* last = first + m_digits.size();
         if (m_afterTop) {
@@ -266,6 +335,10 @@ private:
     StatementShape& m_shape;
     std::string m_digits;
     bool m_afterTop = false;
+    bool m_isFirstWord = true;
+    bool m_isUpdate = false;
+    bool m_inAssignments = false;
+    int m_brackets = 0;
 };
 
 } // namespace

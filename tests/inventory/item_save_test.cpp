@@ -1,3 +1,4 @@
+#include "base/regional.h"
 #include "inventory_test.h"
 
 namespace {
@@ -64,6 +65,18 @@ TEST_F(ItemSave, AllFieldsOfAnEditedItemAreWritten)
             QString::number(vat), "-2.5", "0.0", "100.0", "0.0"}}));
     EXPECT_EQ(Prices(),
         Table({{"1", QString::number(item), "1234.5000"}, {QString::number(trade), QString::number(item), "0.0000"}}));
+}
+
+TEST_F(ItemSave, WhatTheRecordShowsUnderADecimalCommaIsSavedAgain)
+{
+    SetRegional(QLocale("de_DE"));
+    const int item = Item("Draht").Stock(2.5).Price("1.25").Add();
+    Open(item);
+    EXPECT_EQ(form->txtFields_6->text(), "2,5");
+    Type(form->txtFields_7, "1.000,75");
+    SaveAndClose();
+    EXPECT_EQ(Rows("SELECT NoInStock, ReorderLevel FROM item"), Table({{"2.5", "1000.75"}}));
+    EXPECT_EQ(Prices(), Table({{"1", QString::number(item), "1.2500"}}));
 }
 
 TEST_F(ItemSave, NumberBarCodeAndNameInUseAreAskedForInThisOrder)

@@ -203,6 +203,36 @@ INSTANTIATE_TEST_SUITE_P(Forms, DialectAssigned,
         std::tuple("1/8", "0.125", "0", "0.125"), std::tuple("5--5", "10", "10", "10.0"),
         std::tuple("0.1+0.2", "0.3", "0", "0.3"), std::tuple("Null", "NULL", "NULL", "NULL")));
 
+/// Whatever the locale writes as a number, a statement that assigns it takes it back.
+TEST_F(Dialect, AssignedNumbersMayHaveTheUsersDecimalSign)
+{
+    const int item = Item("Screws").Number("12").Stock(10).Add();
+    const auto assigned = [&](const char* locale, const QString& value) {
+        SetRegional(QLocale(QLatin1String(locale)));
+        Run("UPDATE item SET NoInStock = 10, Number = '12'");
+        const auto [number, answer] = Failure(
+            QStringLiteral("UPDATE item SET NoInStock = %1, Number = 'n,5' WHERE id IN (0,%2)").arg(value).arg(item));
+        return answer + QLatin1Char(' ') + Rows("SELECT NoInStock, Number FROM item").first().join(u' ');
+    };
+    const QString done = QStringLiteral("no failure ");
+    const std::tuple<const char*, const char*, const char*> cases[] = {{"de_DE", "7,5", "7.5"},
+        {"de_DE", "-7,25", "-7.25"}, {"de_DE", "1.234,5", "1234.5"}, {"de_DE", ",5", "0.5"},
+        {"de_DE", "NoInStock - 2,5", "7.5"}, {"de_DE", "7.5", "7.5"}, {"de_DE", "1,5e1", "15.0"},
+        {"fr_FR", "1\u202F234,5", "1234.5"}, {"ar_EG", "7\u066B5", "7.5"}};
+    for (const auto& [locale, value, number] : cases)
+        EXPECT_EQ(assigned(locale, QString::fromUtf8(value)), done + QLatin1String(number) + " n,5") << locale << value;
+
+    const QString refused = QStringLiteral("Syntax error in UPDATE statement. 10.0 12");
+    EXPECT_EQ(assigned("en_US", "7,5"), refused);
+    EXPECT_EQ(assigned("de_CH", "7,5"), refused);
+    EXPECT_EQ(assigned("de_DE", "7,5,5"), refused);
+    EXPECT_EQ(assigned("de_DE", "7, 5"), refused);
+    SetRegional(QLocale("de_DE"));
+    EXPECT_EQ(Failure("UPDATE item SET NoInStock = 7,5").first, 0) << "the end of the list";
+    EXPECT_EQ(Select("SELECT 7,5 FROM item WHERE NoInStock = 7.5"), Table({{"7", "5"}}));
+    EXPECT_NE(Failure("UPDATE item SET NoInStock = 1 WHERE id = 7,5").first, 0);
+}
+
 TEST_F(Dialect, ArithmeticOnMoneyStaysAtFourDecimals)
 {
     const int item = Item("Screws").Price("2.50").Add();
