@@ -1,6 +1,5 @@
 #include "base/date_mask.h"
 
-#include "base/calendar_names.h"
 #include "base/regional_formats.h"
 
 #include <algorithm>
@@ -16,15 +15,6 @@ void AppendNumber(QString& text, int value, int width)
     for (; value > 0 || width > 0; value /= 10, --width)
         *--start = char16_t(u'0' + value % 10);
     text.append(reinterpret_cast<const QChar*>(start), std::end(digits) - start);
-}
-
-QString ShortMonth(int month)
-{
-    const QLocale& locale = Formats().locale;
-    // Some of the English locales' data has "Sept" among the months of three letters.
-    if (locale.language() == QLocale::English)
-        return MonthAbbreviation(month);
-    return locale.monthName(month, QLocale::ShortFormat);
 }
 
 int TwelveHours(int hour)
@@ -112,11 +102,11 @@ QString DateMask::NameOf(Part part, const QDate& date, const QTime& time)
     const QLocale& locale = Formats().locale;
     switch (part) {
     case Part::DayShort:
-        return locale.dayName(date.dayOfWeek(), QLocale::ShortFormat);
+        return locale.standaloneDayName(date.dayOfWeek(), QLocale::ShortFormat);
     case Part::DayLong:
-        return locale.dayName(date.dayOfWeek(), QLocale::LongFormat);
+        return locale.standaloneDayName(date.dayOfWeek(), QLocale::LongFormat);
     case Part::MonthShort:
-        return ShortMonth(date.month());
+        return Formats().shortMonths.at(date.month() - 1);
     case Part::MonthLong:
         return locale.monthName(date.month(), QLocale::LongFormat);
     case Part::AmPm:

@@ -1,6 +1,7 @@
+#include "base/date_reader.h"
+
 #include "base/clock.h"
-#include "base/dates.h"
-#include "base/regional_formats.h"
+#include "base/date_words.h"
 
 #include <QVarLengthArray>
 
@@ -10,6 +11,12 @@ namespace {
 
 /// No date is written longer than this in any locale.
 constexpr qsizetype LongestDate = 100;
+constexpr int LongestNumber = 4;
+
+using Order = RegionalFormats::Order;
+
+/// The day on which the count of days starts: a time of day alone has it as its date.
+const QDate DayZero(1899, 12, 30);
 
 /// A number, a word or a separator of the text.
 struct Piece {
@@ -20,32 +27,11 @@ struct Piece {
 };
 using Pieces = QVarLengthArray<Piece, 24>;
 
-bool SameWord(QStringView word, const QString& name)
-{
-    return !name.isEmpty() && word.compare(name, Qt::CaseInsensitive) == 0;
-}
-
-/// 1 to 12 for the name of a month, in English or the user's language, whole or abbreviated; 0 for no month.
-int MonthOf(QStringView word)
-{
-    static const QLocale English(QLocale::English, QLocale::UnitedStates);
-    for (const QLocale& locale : {Formats().locale, English})
-        for (int month = 1; month <= 12; ++month) {
-            QString abbreviation = locale.monthName(month, QLocale::ShortFormat);
-            if (abbreviation.endsWith(QLatin1Char('.')))
-                abbreviation.chop(1);
-            if (SameWord(word, locale.monthName(month, QLocale::LongFormat)) || SameWord(word, abbreviation)
-                || SameWord(word, locale.standaloneMonthName(month, QLocale::LongFormat)))
-                return month;
-        }
-    return SameWord(word, QStringLiteral("Sept")) ? 9 : 0;
-}
-
 /// Cuts a text into its pieces; false when something in it belongs to no date.
 class Cutter {
 public:
     Cutter(QStringView text, Pieces& pieces)
-        : m_text(text)
+        : m_text(DateWords::Fold(text))
         , m_pieces(pieces)
     {
     }
@@ -53,7 +39,7 @@ public:
     bool Cut()
     {
         while (m_at < m_text.size())
-            if (!CutNumber() && !CutWord() && !CutSeparator())
+            if (!CutWord() && !CutNumber() && !CutSeparator())
                 return false;
         return true;
     }
@@ -63,10 +49,12 @@ private:
     {
         Piece piece{Piece::Kind::Number};
         int length = 0;
-        for (int digit = 0;
-             m_at < m_text.size() && (digit = Formats().DigitAt(m_text, m_at, length)) >= 0 && piece.digits < 5;
-             m_at += length, ++piece.digits)
+        for (int digit = 0; m_at < m_text.size() && (digit = Formats().DigitAt(m_text, m_at, length)) >= 0;
+             m_at += length, ++piece.digits) {
+            if (piece.digits == LongestNumber)
+                return false;
             piece.value = piece.value * 10 + digit;
+        }
         if (piece.digits > 0)
             m_pieces.append(piece);
         return piece.digits > 0;
@@ -74,27 +62,29 @@ private:
 
     bool CutWord()
     {
-        qsizetype end = m_at;
-        while (end < m_text.size() && (m_text.at(end).isLetter() || m_text.at(end).isMark()))
-            ++end;
-        const QStringView word = m_text.mid(m_at, end - m_at);
-        if (word.isEmpty())
+        const auto word = WordsOfDates().At(m_text, m_at);
+        if (!word)
             return false;
-        const QLocale& locale = Formats().locale;
-        if (SameWord(word, QStringLiteral("am")) || SameWord(word, QStringLiteral("a"))
-            || SameWord(word, locale.amText()))
-            m_pieces.append({Piece::Kind::Am});
-        else if (SameWord(word, QStringLiteral("pm")) || SameWord(word, QStringLiteral("p"))
-            || SameWord(word, locale.pmText()))
-            m_pieces.append({Piece::Kind::Pm});
-        else if (const int month = MonthOf(word); month > 0)
-            m_pieces.append({Piece::Kind::Month, month});
-        else if (!Formats().shortDate.contains(
-                     QLatin1Char('"') + word.toString())) // the year's own word in some locales
-            return false;
+        m_pieces.append({KindOf(word->kind), word->month});
+        m_at += word->length;
         // The point of an abbreviation belongs to the word.
-        m_at = end + (end < m_text.size() && m_text.at(end) == QLatin1Char('.'));
+        m_at += m_at < m_text.size() && m_text.at(m_at) == QLatin1Char('.');
         return true;
+    }
+
+    static Piece::Kind KindOf(DateWords::Kind word)
+    {
+        switch (word) {
+        case DateWords::Kind::Month:
+            return Piece::Kind::Month;
+        case DateWords::Kind::Am:
+            return Piece::Kind::Am;
+        case DateWords::Kind::Pm:
+            return Piece::Kind::Pm;
+        case DateWords::Kind::Filling:
+            break;
+        }
+        return Piece::Kind::Blank;
     }
 
     bool CutSeparator()
@@ -112,7 +102,7 @@ private:
         return true;
     }
 
-    QStringView m_text;
+    const QString m_text;
     Pieces& m_pieces;
     qsizetype m_at = 0;
 };
@@ -120,31 +110,30 @@ private:
 /// Takes the time of day out of the pieces. False when there is one that cannot be.
 class TimeTaker {
 public:
-    explicit TimeTaker(Pieces& pieces)
+    TimeTaker(Pieces& pieces, DateStrictness strictness)
         : m_pieces(pieces)
+        , m_isStrict(strictness == DateStrictness::AsInStatements)
     {
     }
 
     bool Take(std::optional<QTime>& time)
     {
-        qsizetype start = 0;
-        while (start < m_pieces.size() && !StartsTime(start))
-            ++start;
-        if (start == m_pieces.size())
+        if (!FindStart())
             return true;
-        int parts[3] = {m_pieces[start].value, 0, 0};
+        int parts[3] = {m_pieces[m_start].value, 0, 0};
         int count = 1;
-        m_end = start + 1;
+        m_end = m_start + 1;
         while (Is(m_end, Piece::Kind::TimeSeparator) && Is(m_end + 1, Piece::Kind::Number)) {
             if (count == 3)
                 return false;
             parts[count++] = m_pieces[m_end + 1].value;
             m_end += 2;
         }
-        parts[0] = WithHalfOfDay(parts[0]);
-        if (!QTime::isValid(parts[0], parts[1], parts[2]))
+        if (const auto half = TakeHalf(); half && !SetHalf(parts[0], *half))
             return false;
-        m_pieces.erase(m_pieces.begin() + start, m_pieces.begin() + m_end);
+        if (!QTime::isValid(parts[0], parts[1], parts[2]) || (m_isStrict && AfterBlanks(m_end) < m_pieces.size()))
+            return false;
+        m_pieces.erase(m_pieces.begin() + m_start, m_pieces.begin() + m_end);
         time = QTime(parts[0], parts[1], parts[2]);
         return true;
     }
@@ -160,24 +149,48 @@ private:
         return at;
     }
 
-    bool StartsTime(qsizetype at) const
+    /// A number with a separator behind it, or else one with a half of the day behind it.
+    bool FindStart()
     {
-        return Is(at, Piece::Kind::Number) && (Is(at + 1, Piece::Kind::TimeSeparator) || IsHalf(AfterBlanks(at + 1)));
+        const auto find = [this](auto starts) {
+            m_start = 0;
+            while (m_start < m_pieces.size() && !(Is(m_start, Piece::Kind::Number) && starts(m_start + 1)))
+                ++m_start;
+            return m_start < m_pieces.size();
+        };
+        return find([this](qsizetype next) { return Is(next, Piece::Kind::TimeSeparator); })
+            || find([this](qsizetype next) { return IsHalf(AfterBlanks(next)); });
     }
 
-    /// The hour of the day, by the AM or PM behind it; past 12 that says nothing.
-    int WithHalfOfDay(int hour)
+    /// The half of the day behind the time, or in front of it, as some languages have it.
+    std::optional<Piece::Kind> TakeHalf()
     {
-        const qsizetype half = AfterBlanks(m_end);
-        if (!IsHalf(half))
-            return hour;
-        m_end = half + 1;
-        if (hour > 12)
-            return hour;
-        return hour % 12 + (Is(half, Piece::Kind::Pm) ? 12 : 0);
+        if (const qsizetype behind = AfterBlanks(m_end); IsHalf(behind)) {
+            m_end = behind + 1;
+            return m_pieces[behind].kind;
+        }
+        qsizetype before = m_start;
+        while (before > 0 && Is(before - 1, Piece::Kind::Blank))
+            --before;
+        if (before == 0 || !IsHalf(before - 1))
+            return std::nullopt;
+        m_start = before - 1;
+        return m_pieces[m_start].kind;
+    }
+
+    /// The hour of the day. For an hour that is past 12 the half says nothing.
+    bool SetHalf(int& hour, Piece::Kind half) const
+    {
+        if (m_isStrict && (hour < 1 || hour > 12))
+            return false;
+        if (hour <= 12)
+            hour = hour % 12 + (half == Piece::Kind::Pm ? 12 : 0);
+        return true;
     }
 
     Pieces& m_pieces;
+    bool m_isStrict;
+    qsizetype m_start = 0;
     qsizetype m_end = 0;
 };
 
@@ -191,7 +204,7 @@ int FullYear(const Piece& piece)
 std::optional<QDate> DateOf(const Piece& year, int month, int day)
 {
     const QDate date(FullYear(year), month, day);
-    return date.isValid() && date.year() <= 9999 ? std::optional(date) : std::nullopt;
+    return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
 Piece ThisYear()
@@ -199,11 +212,48 @@ Piece ThisYear()
     return {Piece::Kind::Number, Now().date().year(), 4};
 }
 
-/// Three numbers, in the user's order or else in the first other one that gives a date.
-std::optional<QDate> DateOfNumbers(const Piece& a, const Piece& b, const Piece& c)
-{
-    using Order = RegionalFormats::Order;
-    const auto inOrder = [&](Order order) {
+/// Makes a date of the pieces that are left over from the time of day.
+class DateMaker {
+public:
+    DateMaker(const Pieces& pieces, Order order, DateStrictness strictness)
+        : m_pieces(pieces)
+        , m_order(order)
+        , m_isStrict(strictness == DateStrictness::AsInStatements)
+    {
+    }
+
+    std::optional<QDate> Make()
+    {
+        if (!Sort())
+            return std::nullopt;
+        if (m_month > 0)
+            return m_numbers.size() == 1 || m_numbers.size() == 2 ? OfMonth() : std::nullopt;
+        if (m_numbers.size() == 3)
+            return OfThree(m_numbers[0], m_numbers[1], m_numbers[2]);
+        return m_numbers.size() == 2 ? OfTwo(m_numbers[0], m_numbers[1]) : std::nullopt;
+    }
+
+private:
+    /// Numbers and the month, with at most one separator between two of them.
+    bool Sort()
+    {
+        int separators = 0;
+        for (const Piece& piece : m_pieces) {
+            const bool isField = piece.kind == Piece::Kind::Number || piece.kind == Piece::Kind::Month;
+            separators = isField ? 0 : separators + (piece.kind == Piece::Kind::DateSeparator);
+            const bool fits = isField || piece.kind == Piece::Kind::Blank || piece.kind == Piece::Kind::DateSeparator;
+            if (!fits || separators > 1 || (piece.kind == Piece::Kind::Month && m_month > 0) || m_numbers.size() > 3)
+                return false;
+            if (piece.kind == Piece::Kind::Month)
+                m_month = piece.value;
+            else if (isField)
+                m_numbers.append(piece);
+        }
+        return true;
+    }
+
+    static std::optional<QDate> InOrder(Order order, const Piece& a, const Piece& b, const Piece& c)
+    {
         switch (order) {
         case Order::MonthDayYear:
             return DateOf(c, a.value, b.value);
@@ -213,57 +263,49 @@ std::optional<QDate> DateOfNumbers(const Piece& a, const Piece& b, const Piece& 
             break;
         }
         return DateOf(a, b.value, c.value);
-    };
-    for (const Order order : {Formats().order, Order::YearMonthDay, Order::MonthDayYear, Order::DayMonthYear})
-        if (const auto date = inOrder(order))
+    }
+
+    std::optional<QDate> OfThree(const Piece& a, const Piece& b, const Piece& c) const
+    {
+        if (m_isStrict && a.digits > 2)
+            return InOrder(Order::YearMonthDay, a, b, c);
+        if (const auto date = InOrder(m_order, a, b, c))
             return date;
-    return DateOf(a, c.value, b.value);
-}
-
-/// Two numbers: a day of this year, or a month and a year written in full.
-std::optional<QDate> DateOfNumbers(const Piece& a, const Piece& b)
-{
-    if (a.digits > 2 || b.digits > 2)
-        return a.digits > 2 ? DateOf(a, b.value, 1) : DateOf(b, a.value, 1);
-    const bool dayFirst = Formats().order == RegionalFormats::Order::DayMonthYear;
-    const auto first = DateOf(ThisYear(), dayFirst ? b.value : a.value, dayFirst ? a.value : b.value);
-    return first ? first : DateOf(ThisYear(), dayFirst ? a.value : b.value, dayFirst ? b.value : a.value);
-}
-
-/// A month by name, with a day, a year, or both.
-std::optional<QDate> DateOfMonth(int month, const QVarLengthArray<Piece, 4>& numbers)
-{
-    if (numbers.size() == 2) {
-        const auto dayFirst = DateOf(numbers[1], month, numbers[0].value);
-        return dayFirst ? dayFirst : DateOf(numbers[0], month, numbers[1].value);
+        for (const Order order : {Order::YearMonthDay, Order::MonthDayYear, Order::DayMonthYear})
+            if (const auto date = InOrder(order, a, b, c); date && !(m_isStrict && order == Order::YearMonthDay))
+                return date;
+        return m_isStrict ? std::nullopt : DateOf(a, c.value, b.value);
     }
-    const auto asDay = numbers[0].digits > 2 ? std::nullopt : DateOf(ThisYear(), month, numbers[0].value);
-    return asDay ? asDay : DateOf(numbers[0], month, 1);
-}
 
-/// The date that the pieces left over from the time of day make.
-std::optional<QDate> DateOfPieces(const Pieces& pieces)
-{
-    QVarLengthArray<Piece, 4> numbers;
-    int month = 0;
-    int separators = 0;
-    for (const Piece& piece : pieces) {
-        const bool isField = piece.kind == Piece::Kind::Number || piece.kind == Piece::Kind::Month;
-        separators = isField ? 0 : separators + (piece.kind == Piece::Kind::DateSeparator);
-        const bool fits = isField || piece.kind == Piece::Kind::Blank || piece.kind == Piece::Kind::DateSeparator;
-        if (!fits || separators > 1 || (piece.kind == Piece::Kind::Month && month > 0) || numbers.size() > 3)
-            return std::nullopt;
-        if (piece.kind == Piece::Kind::Month)
-            month = piece.value;
-        else if (isField)
-            numbers.append(piece);
+    /// A day of this year, or a month and a year written in full.
+    std::optional<QDate> OfTwo(const Piece& a, const Piece& b) const
+    {
+        if (a.digits > 2 || b.digits > 2)
+            return a.digits > 2 ? DateOf(a, b.value, 1) : DateOf(b, a.value, 1);
+        const bool dayFirst = m_order == Order::DayMonthYear;
+        const auto first = DateOf(ThisYear(), dayFirst ? b.value : a.value, dayFirst ? a.value : b.value);
+        return first ? first : DateOf(ThisYear(), dayFirst ? a.value : b.value, dayFirst ? b.value : a.value);
     }
-    if (month > 0)
-        return numbers.size() == 1 || numbers.size() == 2 ? DateOfMonth(month, numbers) : std::nullopt;
-    if (numbers.size() == 3)
-        return DateOfNumbers(numbers[0], numbers[1], numbers[2]);
-    return numbers.size() == 2 ? DateOfNumbers(numbers[0], numbers[1]) : std::nullopt;
-}
+
+    /// A month by name, with a day, a year, or both.
+    std::optional<QDate> OfMonth() const
+    {
+        const Piece& first = m_numbers[0];
+        if (m_numbers.size() == 2) {
+            const auto dayFirst = DateOf(m_numbers[1], m_month, first.value);
+            return dayFirst || (m_isStrict && first.digits <= 2) ? dayFirst
+                                                                 : DateOf(first, m_month, m_numbers[1].value);
+        }
+        const auto asDay = first.digits > 2 ? std::nullopt : DateOf(ThisYear(), m_month, first.value);
+        return asDay || (m_isStrict && first.digits <= 2) ? asDay : DateOf(first, m_month, 1);
+    }
+
+    const Pieces& m_pieces;
+    Order m_order;
+    bool m_isStrict;
+    QVarLengthArray<Piece, 4> m_numbers;
+    int m_month = 0;
+};
 
 bool HoldsOnlyBlanks(const Pieces& pieces)
 {
@@ -273,17 +315,19 @@ bool HoldsOnlyBlanks(const Pieces& pieces)
 
 } // namespace
 
-std::optional<QDateTime> ReadDate(const QString& text)
+std::optional<QDateTime> ReadDate(QStringView text, Order order, DateStrictness strictness)
 {
     Pieces pieces;
     if (text.size() > LongestDate || !Cutter(text, pieces).Cut())
         return std::nullopt;
     std::optional<QTime> time;
-    if (!TimeTaker(pieces).Take(time))
+    if (!TimeTaker(pieces, strictness).Take(time))
         return std::nullopt;
-    if (time && HoldsOnlyBlanks(pieces))
-        return QDateTime(QDate(1899, 12, 30), *time);
-    const auto date = DateOfPieces(pieces);
+    if (time && HoldsOnlyBlanks(pieces)) {
+        const bool dateIsMissing = strictness == DateStrictness::AsInStatements && IsBlank(text.front());
+        return dateIsMissing ? std::nullopt : std::optional(QDateTime(DayZero, *time));
+    }
+    const auto date = DateMaker(pieces, order, strictness).Make();
     if (!date)
         return std::nullopt;
     return QDateTime(*date, time.value_or(QTime(0, 0)));

@@ -1,6 +1,7 @@
 #include "base/dates.h"
 
 #include "base/date_mask.h"
+#include "base/date_reader.h"
 #include "base/regional_formats.h"
 
 #include <array>
@@ -55,6 +56,11 @@ std::string_view ShortDateWriter::operator()(std::string_view stored)
     if (date.isValid())
         m_text = CompiledMask(Formats().shortDate).Write(date, QTime()).toStdString();
     return m_text;
+}
+
+std::optional<QDateTime> ReadDate(const QString& text)
+{
+    return ReadDate(text, Formats().order, DateStrictness::AsTyped);
 }
 
 QString DateToYmd(const std::optional<QDateTime>& date)

@@ -14,14 +14,6 @@ void Append(Text& text, const QString& piece)
     text.append(piece.constData(), piece.size());
 }
 
-void AppendDigit(Text& text, const RegionalFormats& formats, char digit)
-{
-    const char32_t character = formats.zero + char32_t(digit - '0');
-    if (character > 0xFFFF)
-        text.append(QChar(QChar::highSurrogate(character)));
-    text.append(character > 0xFFFF ? QChar(QChar::lowSurrogate(character)) : QChar(char16_t(character)));
-}
-
 /// True when a group separator follows a digit that has `left` more digits behind it in the whole part.
 bool GroupEndsAt(const RegionalFormats& formats, qsizetype left)
 {
@@ -44,7 +36,7 @@ QString CurrencyText(bool negative, const char* digits, qsizetype count, int dec
     for (qsizetype at = 0; at < count; ++at) {
         if (at == whole)
             Append(text, formats.decimal);
-        AppendDigit(text, formats, digits[at]);
+        text.append(QLatin1Char(digits[at]));
         if (grouped && at + 1 < whole && GroupEndsAt(formats, whole - 1 - at))
             Append(text, formats.group);
     }

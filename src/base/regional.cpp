@@ -45,7 +45,8 @@ QStringList WeekdayNames()
 {
     QStringList names;
     for (int step = 0; step < 7; ++step)
-        names.append(Regional().dayName((Regional().firstDayOfWeek() - 1 + step) % 7 + 1, QLocale::LongFormat));
+        names.append(
+            Regional().standaloneDayName((Regional().firstDayOfWeek() - 1 + step) % 7 + 1, QLocale::LongFormat));
     return names;
 }
 

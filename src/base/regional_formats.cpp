@@ -1,5 +1,7 @@
 #include "base/regional_formats.h"
 
+#include "base/calendar_names.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -82,34 +84,68 @@ void ReadSymbols(RegionalFormats& formats)
         [](const QString& a, const QString& b) { return a.size() > b.size(); });
 }
 
-/// A pattern of the locale data as a mask: quoted text in double quotes, minutes as `n`, no time zone.
-QString MaskOf(const QString& pattern, bool isTime)
-{
-    QString mask;
-    bool quoted = false;
-    for (qsizetype at = 0; at < pattern.size(); ++at) {
-        const QChar character = pattern.at(at);
-        if (character == QLatin1Char('\'')) {
-            quoted = !quoted;
-            mask += QLatin1Char('"');
-        } else if (quoted || !isTime) {
-            mask += character;
-        } else if (character == QLatin1Char('m')) {
-            mask += QLatin1Char('n');
-        } else if (character.toLower() == QLatin1Char('a')) {
-            mask += QLatin1Char('t');
-            at += at + 1 < pattern.size() && pattern.at(at + 1).toLower() == QLatin1Char('p');
-        } else if (character != QLatin1Char('t')) {
-            mask += character.toLower() == QLatin1Char('h') ? QChar(QLatin1Char('h')) : character;
-        }
-    }
-    return mask.trimmed();
-}
-
+/// The short date's pattern of the locale data as a mask: quoted words in double quotes, a year of four digits.
 QString ShortDateOf(const QLocale& locale)
 {
     static const QRegularExpression LoneYear(QStringLiteral("(?<!y)y{1,2}(?!y)"));
-    return MaskOf(locale.dateFormat(QLocale::ShortFormat), false).replace(LoneYear, QStringLiteral("yyyy"));
+    return locale.dateFormat(QLocale::ShortFormat)
+        .replace(QLatin1Char('\''), QLatin1Char('"'))
+        .replace(LoneYear, QStringLiteral("yyyy"));
+}
+
+/// The long time's pattern of the locale data as a mask: hour, minutes, seconds and, where the language has it, the
+/// half of the day. The words that some languages write among them and the time zone are left out.
+QString TimeMaskOf(const QString& pattern)
+{
+    static const QRegularExpression QuotedWords(QStringLiteral("'[^']*'"));
+    static const QRegularExpression Hours(QStringLiteral("[hH]+"));
+    static const QRegularExpression HalfOfDay(QStringLiteral("[aAB]"));
+    QString plain = pattern;
+    plain.remove(QuotedWords);
+    const QRegularExpressionMatch hours = Hours.match(plain);
+    const QString fields =
+        (hours.capturedLength() > 1 ? QStringLiteral("hh") : QStringLiteral("h")) + QStringLiteral(":nn:ss");
+    const qsizetype half = plain.indexOf(HalfOfDay);
+    if (half < 0)
+        return fields;
+    if (half > hours.capturedStart())
+        return fields + QStringLiteral(" t");
+    const bool apart = QStringView(plain).mid(half, hours.capturedStart() - half).contains(QLatin1Char(' '));
+    return (apart ? QStringLiteral("t ") : QStringLiteral("t")) + fields;
+}
+
+/// The sign between the fields of a time, unless dates have it too: a text must show which of them it is.
+QString TimeSeparatorOf(const QString& pattern, const QString& dateSeparator)
+{
+    static const QRegularExpression Separators(QStringLiteral("[hH]([^\\w\\s'])m+\\1s"));
+    const QString separator = Separators.match(pattern).captured(1);
+    return separator.isEmpty() || separator == dateSeparator ? QStringLiteral(":") : separator;
+}
+
+/// Short month names as they stand alone. English ones for English, some of whose locales have "Sept" among the months
+/// of three letters, and where the locale's own cannot be told from numbers, from each other, from English ones or from
+/// a half of the day.
+QStringList ShortMonthsOf(const QLocale& locale)
+{
+    QStringList own;
+    QStringList english;
+    for (int month = 1; month <= 12; ++month) {
+        english.append(MonthAbbreviation(month));
+        own.append(locale.standaloneMonthName(month, QLocale::ShortFormat));
+    }
+    const QStringList others =
+        english + QStringList{QStringLiteral("am"), QStringLiteral("pm"), locale.amText(), locale.pmText()};
+    const auto isClear = [&](const QString& name) {
+        const auto isIt = [&](const QString& other) { return name.compare(other, Qt::CaseInsensitive) == 0; };
+        const auto place = [&](const QStringList& names) {
+            return std::find_if(names.begin(), names.end(), isIt) - names.begin();
+        };
+        const bool hasLetters =
+            std::any_of(name.begin(), name.end(), [](QChar c) { return c.isLetter() || c.isSurrogate(); });
+        return hasLetters && std::count_if(own.begin(), own.end(), isIt) == 1
+            && (place(others) == others.size() || place(others) == place(own));
+    };
+    return locale.language() != QLocale::English && std::all_of(own.begin(), own.end(), isClear) ? own : english;
 }
 
 RegionalFormats::Order OrderOf(const QString& mask)
@@ -122,13 +158,13 @@ RegionalFormats::Order OrderOf(const QString& mask)
     return month < day ? RegionalFormats::Order::MonthDayYear : RegionalFormats::Order::DayMonthYear;
 }
 
-/// The first mark between two fields of a mask, or `fallback`.
-QString SeparatorOf(const QString& mask, const QString& fallback)
+/// The first mark between two fields of a date mask.
+QString DateSeparatorOf(const QString& mask)
 {
     for (qsizetype at = 1; at < mask.size(); ++at)
         if (mask.at(at).isPunct() && mask.at(at) != QLatin1Char('"') && mask.at(at - 1).isLetter())
             return mask.mid(at, 1);
-    return fallback;
+    return QStringLiteral("/");
 }
 
 } // namespace
@@ -148,7 +184,8 @@ RegionalFormats::RegionalFormats(const QLocale& chosen)
     , minusSigns(Signs(QStringLiteral("-\u2212"), chosen.negativeSign()))
     , plusSigns(Signs(QStringLiteral("+"), chosen.positiveSign()))
     , shortDate(ShortDateOf(chosen))
-    , time(MaskOf(chosen.timeFormat(QLocale::LongFormat), true))
+    , time(TimeMaskOf(chosen.timeFormat(QLocale::LongFormat)))
+    , shortMonths(ShortMonthsOf(chosen))
 {
     groupsAreBlanks = !group.isEmpty() && IsBlank(group.front());
     ReadGroups(*this);
@@ -156,8 +193,8 @@ RegionalFormats::RegionalFormats(const QLocale& chosen)
     ReadFrame(*this, locale.toCurrencyString(-1.0), negative);
     ReadSymbols(*this);
     order = OrderOf(shortDate);
-    dateSeparator = SeparatorOf(shortDate, QStringLiteral("/"));
-    timeSeparator = SeparatorOf(time, QStringLiteral(":"));
+    dateSeparator = DateSeparatorOf(shortDate);
+    timeSeparator = TimeSeparatorOf(locale.timeFormat(QLocale::LongFormat), dateSeparator);
 }
 
 int RegionalFormats::DigitAt(QStringView text, qsizetype at, int& length) const

@@ -14,7 +14,8 @@ struct RegionalFormats {
     QLocale locale;
     int generation; ///< differs for each choice of a locale, for caches built upon it
 
-    char32_t zero = U'0'; ///< the first of the locale's ten digits
+    char32_t zero =
+        U'0'; ///< the first of the locale's ten digits, which are read beside the plain ones that are written
     QString decimal;
     QString group;
     bool groupsAreBlanks = false; ///< then any kind of blank between two digits is a group separator
@@ -38,6 +39,7 @@ struct RegionalFormats {
     Order order = Order::MonthDayYear;
     QString shortDate; ///< masks as FormatDate takes them
     QString time;
+    QStringList shortMonths; ///< January first
     QString dateSeparator;
     QString timeSeparator;
 };

@@ -2,9 +2,11 @@
 
 #include "base/clock.h"
 #include "base/dates.h"
+#include "base/regional.h"
 #include "base/runtime_error.h"
 #include "controls/date_field.h"
 
+#include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 
@@ -13,10 +15,10 @@ namespace {
 const QDate FirstDate(100, 1, 1);
 const QDate LastDate(9999, 12, 31);
 
-/// The user's mask in Qt's letters, where a month is written in capitals.
+/// The user's mask as Qt takes it, with single quotes around words.
 QString QtDisplayFormat()
 {
-    return ShortDateMask().toLower().replace(u'm', u'M');
+    return ShortDateMask().replace(u'"', u'\'');
 }
 } // namespace
 
@@ -35,6 +37,7 @@ DatePicker::DatePicker(QWidget* parent)
 
     m_date->setCalendarPopup(true);
     m_date->setDisplayFormat(QtDisplayFormat());
+    ShowPlainDigits();
     m_date->setDateRange(FirstDate, LastDate);
     m_check->setChecked(true);
     m_check->setToolTip(tr("Tick to give a date"));
@@ -48,6 +51,16 @@ DatePicker::DatePicker(QWidget* parent)
     QObject::connect(m_check, &QCheckBox::toggled, m_date, &QWidget::setEnabled);
     QObject::connect(m_check, &QCheckBox::clicked, this, &DatePicker::Change);
     QObject::connect(m_date, &QDateEdit::userDateChanged, this, &DatePicker::Change);
+}
+
+/// All texts of the program have the same digits. Qt writes a date with its locale's own; the calendar keeps the
+/// language of the user.
+void DatePicker::ShowPlainDigits()
+{
+    if (Regional().zeroDigit() == QLatin1String("0"))
+        return;
+    m_date->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    m_date->calendarWidget()->setLocale(Regional());
 }
 
 void DatePicker::SetCheckBox(bool shown)

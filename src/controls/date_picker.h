@@ -31,6 +31,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void ShowPlainDigits();
     void Tick(bool on);
 
     QCheckBox* m_check;

@@ -7,6 +7,5 @@
 
 /// Reads what stands between the `#` signs of a date as yyyy-MM-dd HH:mm:ss: month first whatever the locale, day first
 /// where that is impossible, year first when it has more than two digits; month names in English or the user's
-/// language; a date without time is midnight, a time without date is on 30 December 1899, unless a blank in front
-/// shows that a date was to stand there. Nothing when it is no date.
+/// language. Nothing when it is no date.
 std::optional<std::string> ReadDateLiteral(QStringView text);

@@ -1,4 +1,5 @@
 #include "base/clock.h"
+#include "base/dates.h"
 #include "base/regional.h"
 #include "base/runtime_error.h"
 #include "controls/date_picker.h"
@@ -74,6 +75,8 @@ INSTANTIATE_TEST_SUITE_P(Orders, TypedDates,
         TypedDate{"en_GB", "30/4", February, {2003, 4, 30}}, TypedDate{"en_GB", "31", February, {2003, 2, 28}},
         TypedDate{"en_GB", "99/99/2024", February, {2024, 9, 9}},
         TypedDate{"de_DE", "31.12.2023", LeapDay, {2023, 12, 31}},
+        TypedDate{"bg_BG", "31.12.2023", LeapDay, {2023, 12, 31}},
+        TypedDate{"ar_EG", "31/12/2023", July, {2023, 12, 31}},
         TypedDate{"sv_SE", "2023-01-31", LeapDay, {2023, 1, 31}}, TypedDate{"sv_SE", "20240229", July, {2024, 2, 29}}));
 
 TEST_F(Picker, UntickedMeansNoDate)
@@ -100,16 +103,14 @@ TEST_F(Picker, UntickedMeansNoDate)
 
 TEST_F(Picker, ShowsTheUsersShortDateAndStartsAtThePresent)
 {
-    SetRegional(QLocale("de_DE"));
     SetClock([] { return Given; });
-    DatePicker german;
+    for (const char* locale : {"de_DE", "bg_BG", "ar_EG", "fa_IR", "hr_HR", "ko_KR", "en_US"}) {
+        SetRegional(QLocale(locale));
+        const DatePicker local;
+        EXPECT_EQ(local.Value(), Given);
+        EXPECT_EQ(local.findChild<QDateEdit*>()->text(), ShortDate(Given)) << locale;
+    }
     SetClock({});
-    EXPECT_EQ(german.Value(), Given);
-    EXPECT_EQ(german.findChild<QDateEdit*>()->text(), "04.07.2003");
-    SetRegional(QLocale("en_US"));
-    DatePicker american;
-    american.SetValue(Given);
-    EXPECT_EQ(american.findChild<QDateEdit*>()->text(), "7/4/2003");
 }
 
 TEST_F(Picker, TheFocusAndTheNameGoToItsParts)
