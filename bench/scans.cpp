@@ -4,7 +4,7 @@
 #include "measure.h"
 #include "running_program.h"
 
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 #include "make_database/ean13.h"
 
 #include <QTest>
@@ -116,7 +116,7 @@ private:
     void OpenInvoices()
     {
         m_floorInvoice = AddInvoice(m_program.Handle(), m_linesAtStart);
-        gCurrentInvoiceId = qint32(AddInvoice(m_program.Handle(), m_linesAtStart));
+        OpenInvoice::gCurrentInvoiceId = qint32(AddInvoice(m_program.Handle(), m_linesAtStart));
         m_program.Window().OpenInvoicePage();
         LetPaint();
     }
@@ -164,7 +164,7 @@ void MeasureScans(RunningProgram& program)
     ReportScans("scan of a bar code", ScanRace(program, 0, ScansOfAShortInvoice), 0);
     // A scan that went nowhere would be a fast one.
     Report("lines missing on the last short invoice",
-        double(ScansOfAShortInvoice - LinesOf(program, gCurrentInvoiceId)), 0, 0, "lines");
+        double(ScansOfAShortInvoice - LinesOf(program, OpenInvoice::gCurrentInvoiceId)), 0, 0, "lines");
     ReportScans("scan, 1,000 lines", ScanRace(program, 1000, ScansOfALongInvoice), AllowedForManyLinesMs);
-    gCurrentInvoiceId = -1;
+    OpenInvoice::gCurrentInvoiceId = -1;
 }

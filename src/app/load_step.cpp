@@ -9,7 +9,7 @@
 #include "base/settings_store.h"
 #include "config/secondary_tax.h"
 #include "controls/message_box.h"
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 #include "records/wizard_state.h"
 
 namespace {
@@ -57,8 +57,8 @@ bool LoadStep(MainWindow& window, Connection& connection)
         return false;
 
     FillFixedLists(window);
-    gCurrentInvoiceId = -1;
-    gCurrentCustomerId = -1;
+    OpenInvoice::gCurrentInvoiceId = -1;
+    OpenInvoice::gCurrentCustomerId = -1;
     Ignoring([] { LoadSecondaryTax(); });
     window.picNewInvoice->ShowSecondaryTax();
     Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });

@@ -10,12 +10,13 @@
 #include "controls/dialogs.h"
 #include "controls/message_box.h"
 #include "inventory/multiple_pricing.h"
-#include "invoicing/current_invoice.h"
 #include "invoicing/find_invoice.h"
+#include "invoicing/open_invoice.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QStatusBar>
 #include <QWindow>
 
 namespace {
@@ -75,6 +76,7 @@ void MainWindow::ConnectPanels()
     On(picBack, &PanelArea::Resized, this, [this] { RunResizeRules(); });
     On(picReports, &ReportsPanel::Expanded, this, [this] { RunResizeRules(); });
     On(picNewInvoice, &InvoicePage::Left, this, [this] { ListInvoices(); });
+    On(picNewInvoice, &InvoicePage::Notice, this, [this](const QString& text) { ShowNotice(text); });
     On(picArrivals, &InvoiceHistory::OpenInvoice, this, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
     On(picArrivals, &InvoiceHistory::NewInvoice, this, [this] { OpenInvoicePage(); });
 }
@@ -103,6 +105,15 @@ void MainWindow::ShowMainPanel(int panelNumber)
 {
     if (panelNumber >= 0 && panelNumber < picBack->PanelCount())
         picBack->ShowPanel(panelNumber);
+}
+
+void MainWindow::ShowNotice(const QString& text)
+{
+    // The line is there only while it has something to say.
+    if (!findChild<QStatusBar*>())
+        On(statusBar(), &QStatusBar::messageChanged, statusBar(),
+            [bar = statusBar()](const QString& message) { bar->setVisible(!message.isEmpty()); });
+    statusBar()->showMessage(text);
 }
 
 void MainWindow::SetupToolbar()
@@ -145,26 +156,24 @@ void MainWindow::ListInvoices()
 
 void MainWindow::OpenInvoicePage()
 {
-    OpenInvoice(gCurrentInvoiceId);
+    OpenInvoice(OpenInvoice::gCurrentInvoiceId);
 }
 
 void MainWindow::OpenInvoice(qint32 invoiceId)
 {
-    // The page may be in view already, with the focus in a box that was typed into.
-    if (picNewInvoice->isVisible())
-        picNewInvoice->UpdateInvoiceEdit();
-    gCurrentInvoiceId = invoiceId;
+    picNewInvoice->SaveWhatIsBeingTyped();
+    OpenInvoice::gCurrentInvoiceId = invoiceId;
     ShowMainPanel(InvoicePagePanel);
     picNewInvoice->ShowInvoicePage();
 }
 
 void MainWindow::FindInvoice()
 {
-    InvoiceSelected = false;
-    SelectedInvoiceID = -1;
+    frmFindInvoice::InvoiceSelected = false;
+    frmFindInvoice::SelectedInvoiceID = -1;
     frmFindInvoice(this).ShowModal();
-    if (InvoiceSelected)
-        OpenInvoice(SelectedInvoiceID);
+    if (frmFindInvoice::InvoiceSelected)
+        OpenInvoice(frmFindInvoice::SelectedInvoiceID);
 }
 
 void MainWindow::ViewInventory()

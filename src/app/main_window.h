@@ -80,6 +80,7 @@ protected:
 private:
     void OpenInvoice(qint32 invoiceId);
     void ConnectPanels();
+    void ShowNotice(const QString& text);
     void LetPanelsDragTheWindow();
 
     QList<Panel*> m_panels;

@@ -4,15 +4,16 @@
 #include "controls/message_box.h"
 #include "records/lists.h"
 
-std::vector<GroupItem> GroupItems;
-qint32 GroupItemCount = 0;
+std::vector<GroupItem> frmAddGroupItems::GroupItems;
+qint32 frmAddGroupItems::GroupItemCount = 0;
 
 namespace {
 
 constexpr int MarginForScrollBar = 400;
 
-void ReadGroupItems(qint64 groupId, qint64 priceListId)
+std::vector<GroupItem> ReadGroupItems(qint64 groupId, qint64 priceListId)
 {
+    std::vector<GroupItem> items;
     Recordset rs =
         gConnection->Execute(Sql("SELECT item.id, itempricelist.price FROM ItemGroup_Item, Item, ItemPriceList "
                                  "WHERE ItemPriceList.pricelistid = {priceListId} AND ItemPriceList.itemid = item.id "
@@ -20,8 +21,8 @@ void ReadGroupItems(qint64 groupId, qint64 priceListId)
                                  .Number("priceListId", priceListId)
                                  .Number("groupId", groupId));
     for (; !rs.Eof(); rs.MoveNext())
-        GroupItems.push_back({qint32(rs.Long(0)), 1, rs.Money(1)});
-    GroupItemCount = qint32(GroupItems.size());
+        items.push_back({qint32(rs.Long(0)), 1, rs.Money(1)});
+    return items;
 }
 
 } // namespace
@@ -66,6 +67,7 @@ void frmAddGroupItems::TakeItems()
             tr("No Item Group has been selected. Please select an Item Group to add then try again."), Icon::Critical);
         return;
     }
-    ReadGroupItems(groupId, m_priceListId);
+    GroupItems = ReadGroupItems(groupId, m_priceListId);
+    GroupItemCount = qint32(GroupItems.size());
     accept();
 }

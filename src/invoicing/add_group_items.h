@@ -8,19 +8,21 @@
 
 #include <vector>
 
-/// What frmAddGroupItems hands back: the items of the chosen group that have a price in the chosen list.
+/// An item of the chosen group that has a price in the chosen list.
 struct GroupItem {
     qint32 id;
     qint32 quantity;
     Currency price;
 };
-extern std::vector<GroupItem> GroupItems;
-extern qint32 GroupItemCount;
 
 /// Chooses an item group to put on the invoice, at the prices of one list. Cancel leaves GroupItems as it is.
 class frmAddGroupItems : public Form {
     Q_OBJECT
 public:
+    /// What the form hands back.
+    static std::vector<GroupItem> GroupItems;
+    static qint32 GroupItemCount;
+
     frmAddGroupItems(qint64 priceListId, QWidget* parent);
 
     CONTROL(FlexGrid, gItemGroups);

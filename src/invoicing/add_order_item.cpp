@@ -9,9 +9,9 @@
 #include "invoicing/order_lines.h"
 #include "records/lists.h"
 
-qint32 SelectedItemID = -1;
-qint32 SelectedItemQuantity = 0;
-Currency SelectedItemPrice;
+qint32 frmAddOrderItem::SelectedItemID = -1;
+qint32 frmAddOrderItem::SelectedItemQuantity = 0;
+Currency frmAddOrderItem::SelectedItemPrice;
 
 namespace {
 

@@ -9,16 +9,16 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// What frmAddOrderItem hands back: the item (-1 for none), how many of it, and its price before tax and discount.
-extern qint32 SelectedItemID;
-extern qint32 SelectedItemQuantity;
-extern Currency SelectedItemPrice;
-
 /// Finds an item and says how many of it go on the invoice at which price. Writes nothing to the database; the result
-/// is in the globals above, and SelectedItemID stays as the caller set it when the window is just closed.
+/// is in its static members, and SelectedItemID stays as the caller set it when the window is just closed.
 class frmAddOrderItem : public Form {
     Q_OBJECT
 public:
+    /// What the form hands back: the item (-1 for none), how many of it, and its price before tax and discount.
+    static qint32 SelectedItemID;
+    static qint32 SelectedItemQuantity;
+    static Currency SelectedItemPrice;
+
     /// Opens with all items at the prices of `priceListId`, the list of the invoice's customer.
     frmAddOrderItem(qint64 priceListId, QWidget* parent);
 

@@ -6,7 +6,7 @@
 #include "parties/customer_matches.h"
 #include "records/lists.h"
 
-int SelectedCustomerID = -1;
+qint16 frmResCustSearch::SelectedCustomerID = -1;
 
 namespace {
 
@@ -83,6 +83,6 @@ void frmResCustSearch::SelectCustomer()
     // An empty list has nothing to pick: its title row is no customer.
     if (!cmdSelect->isEnabled())
         return;
-    SelectedCustomerID = ToInteger16(gcust->CurrentRowData());
+    SelectedCustomerID = qint16(ToInteger16(gcust->CurrentRowData()));
     accept();
 }

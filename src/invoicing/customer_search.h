@@ -6,13 +6,14 @@
 
 #include <QPushButton>
 
-/// The customer picked in frmResCustSearch, -1 for none. A 16-bit number: an id above 32767 ends the program.
-extern int SelectedCustomerID;
-
-/// Finds a customer for the invoice by name. Picking one puts its id into SelectedCustomerID.
+/// Finds a customer for the invoice by name. Picking one puts its id into SelectedCustomerID, where one above
+/// 32767 is an overflow.
 class frmResCustSearch : public Form {
     Q_OBJECT
 public:
+    /// The customer picked, -1 for none.
+    static qint16 SelectedCustomerID;
+
     frmResCustSearch(const QString& firstName, const QString& lastName, QWidget* parent);
 
     /// Lists the customers that match either box, all of them when both are empty. Says so when there are none.

@@ -7,8 +7,8 @@
 #include "controls/message_box.h"
 #include "records/lists.h"
 
-qint16 SelectedInvoiceID = -1;
-bool InvoiceSelected = false;
+qint16 frmFindInvoice::SelectedInvoiceID = -1;
+bool frmFindInvoice::InvoiceSelected = false;
 
 namespace {
 

@@ -7,15 +7,15 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// What frmFindInvoice hands back. The caller resets both (-1, false) before it shows the form.
-extern qint16 SelectedInvoiceID;
-extern bool InvoiceSelected;
-
 /// Finds invoices by their date and picks one of them to open. Its ids are 16 bits wide: picking an invoice with a
 /// greater one is an overflow.
 class frmFindInvoice : public Form {
     Q_OBJECT
 public:
+    /// What the form hands back. The caller resets both (-1, false) before it shows the form.
+    static qint16 SelectedInvoiceID;
+    static bool InvoiceSelected;
+
     explicit frmFindInvoice(QWidget* parent);
 
     CONTROL(DatePicker, dtFromDate);

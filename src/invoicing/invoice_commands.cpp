@@ -4,7 +4,6 @@
 #include "db/connection.h"
 #include "invoicing/add_group_items.h"
 #include "invoicing/add_order_item.h"
-#include "invoicing/current_invoice.h"
 #include "invoicing/customer_search.h"
 #include "invoicing/invoice_documents.h"
 #include "invoicing/invoice_page.h"
@@ -15,14 +14,14 @@
 
 void InvoicePage::SearchCustomer()
 {
-    SelectedCustomerID = -1;
+    frmResCustSearch::SelectedCustomerID = -1;
     frmResCustSearch form(txtFirstname->text(), txtLastname->text(), this);
     form.RefreshCustomerScreen();
     form.ShowModal();
-    if (SelectedCustomerID == -1)
+    if (frmResCustSearch::SelectedCustomerID == -1)
         return;
-    gCurrentCustomerId = SelectedCustomerID;
-    LoadCustomerDetailsIntoInvoice(gCurrentCustomerId);
+    OpenInvoice::gCurrentCustomerId = frmResCustSearch::SelectedCustomerID;
+    LoadCustomerDetailsIntoInvoice(OpenInvoice::gCurrentCustomerId);
     UpdateInvoiceEdit();
 }
 
@@ -30,9 +29,8 @@ void InvoicePage::ResetCustomer()
 {
     if (MsgBox(tr("Clear customer details?"), Icon::None, Buttons::YesNo) != Answer::Yes)
         return;
-    for (const CustomerBox& entry : CustomerBoxes())
-        entry.box->clear();
-    gCurrentCustomerId = -1;
+    ShowTexts({}, CustomerBoxes());
+    OpenInvoice::gCurrentCustomerId = -1;
 }
 
 bool InvoicePage::AddLine(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
@@ -45,15 +43,15 @@ bool InvoicePage::AddLine(qint32 itemId, qint32 quantity, double discountPercent
 
 void InvoicePage::AddOrderItem()
 {
-    SelectedItemID = -1;
-    SelectedItemQuantity = 0;
-    SelectedItemPrice = Currency();
+    frmAddOrderItem::SelectedItemID = -1;
+    frmAddOrderItem::SelectedItemQuantity = 0;
+    frmAddOrderItem::SelectedItemPrice = Currency();
     frmAddOrderItem(cboPriceList->SelectedData(), this).ShowModal();
 
     InBatch(*gConnection, [&] {
-        if (SelectedItemID != -1)
-            AddLine(SelectedItemID, SelectedItemQuantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(),
-                SelectedItemPrice);
+        if (frmAddOrderItem::SelectedItemID != -1)
+            AddLine(frmAddOrderItem::SelectedItemID, frmAddOrderItem::SelectedItemQuantity, Val(txtDiscount->text()),
+                chkWarrantyInvoice->isChecked(), frmAddOrderItem::SelectedItemPrice);
         UpdateInvoiceEdit();
     });
 }
@@ -78,11 +76,11 @@ void InvoicePage::AddBarCodeItem()
 
 void InvoicePage::AddGroupItems()
 {
-    GroupItems.clear();
-    GroupItemCount = 0;
+    frmAddGroupItems::GroupItems.clear();
+    frmAddGroupItems::GroupItemCount = 0;
     frmAddGroupItems(cboPriceList->SelectedData(), this).ShowModal();
 
-    if (GroupItemCount != 0 && !AddChosenGroupItems())
+    if (frmAddGroupItems::GroupItemCount != 0 && !AddChosenGroupItems())
         MsgBox(tr("Not all items have enough stock to be added to the invoice."), Icon::Information);
     UpdateInvoiceEdit();
 }
@@ -93,7 +91,7 @@ bool InvoicePage::AddChosenGroupItems()
 {
     return InBatch(*gConnection, [&] {
         bool allAdded = true;
-        for (const GroupItem& item : GroupItems)
+        for (const GroupItem& item : frmAddGroupItems::GroupItems)
             allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
         RefreshNewInvoiceItemsList(1, 0);
         return allAdded;
@@ -120,12 +118,12 @@ void InvoicePage::EditLine(qint64 lineId)
     const QString price = gNewInvoice->TextMatrix(row, 3);
     const qint32 oldQuantity = QuantityInRow(row);
     // The price as shown: it replaces the stored one even when the form is cancelled.
-    EditLineQuantity = oldQuantity;
-    EditLinePrice = CCur(price);
+    frmItemQuantity::EditLineQuantity = oldQuantity;
+    frmItemQuantity::EditLinePrice = CCur(price);
     frmItemQuantity(quantity, price, this).ShowModal();
 
     InBatch(*gConnection, [&] {
-        ChangeOrderLine(lineId, oldQuantity, EditLineQuantity, EditLinePrice);
+        ChangeOrderLine(lineId, oldQuantity, frmItemQuantity::EditLineQuantity, frmItemQuantity::EditLinePrice);
         RefreshNewInvoiceItemsList(1, 0);
         UpdateInvoiceEdit();
     });
@@ -151,47 +149,40 @@ void InvoicePage::CancelInvoice()
     if (MsgBox(tr("Cancel invoice?"), Icon::Question, Buttons::YesNo) != Answer::Yes)
         return;
 
-    InBatch(*gConnection, [&] {
-        for (int row = 1; row < gNewInvoice->Rows(); ++row)
-            if (const qint64 lineId = gNewInvoice->RowData(row); lineId != 0)
-                DeleteOrderLine(lineId, QuantityInRow(row));
-        gConnection->Execute(
-            Sql("DELETE FROM invoice WHERE id = {gCurrentInvoiceId}").Number("gCurrentInvoiceId", gCurrentInvoiceId));
-    });
-
-    gCurrentInvoiceId = -1;
+    QList<OrderLine> lines;
+    for (int row = 1; row < gNewInvoice->Rows(); ++row)
+        if (const qint64 lineId = gNewInvoice->RowData(row); lineId != 0)
+            lines.append({lineId, QuantityInRow(row)});
+    OpenInvoice::Cancel(lines);
     emit Left();
 }
 
 void InvoicePage::PrintPickingList()
 {
     UpdateInvoiceEdit();
-    ShowPickingList(gCurrentInvoiceId);
+    ShowPickingList(OpenInvoice::gCurrentInvoiceId);
 }
 
 void InvoicePage::CompleteInvoice()
 {
     UpdateInvoiceEdit();
     if (MsgBox(tr("Print Invoice?"), Icon::Question, Buttons::YesNo) == Answer::Yes)
-        ShowInvoiceDocument(gCurrentInvoiceId, chkWarrantyInvoice->isChecked());
-    PutAwayAndRaiseNextNumber();
-    emit Left();
+        ShowInvoiceDocument(OpenInvoice::gCurrentInvoiceId, chkWarrantyInvoice->isChecked());
+    Leave(OpenInvoice::Finish());
 }
 
 void InvoicePage::CloseInvoice()
 {
-    InBatch(*gConnection, [&] {
+    Leave(InBatch(*gConnection, [&] {
         UpdateInvoiceEdit();
-        PutAwayAndRaiseNextNumber();
-    });
-
-    emit Left();
+        return OpenInvoice::Finish();
+    }));
 }
 
-/// The number moves on for an old invoice too: nothing tells an old one from a new one here.
-void InvoicePage::PutAwayAndRaiseNextNumber()
+void InvoicePage::Leave(const QString& numberGivenTwice)
 {
-    gCurrentInvoiceId = -1;
-    gCurrentCustomerId = -1;
-    gConnection->Execute("UPDATE nextinvoiceno SET invoiceno = invoiceno + 1;");
+    emit Left();
+    if (!numberGivenTwice.isEmpty())
+        emit Notice(tr("Invoice number %1 was given twice: another invoice went out under it meanwhile.")
+                        .arg(numberGivenTwice));
 }

@@ -6,12 +6,12 @@
 #include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "invoicing/open_invoice.h"
+#include "parties/party_fields.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
-
-#include <array>
 
 /// The invoice page: the one invoice that is open, new or old. It has no Save button and keeps no copy of the data:
 /// each control writes through when the focus leaves it, so the rows are as current as the last control left.
@@ -36,6 +36,9 @@ public:
     /// Writes the customer and the invoice as they stand on the page; adds the Customer row if the invoice has none
     /// yet. Writes nothing while no invoice is open.
     void UpdateInvoiceEdit();
+    /// Saves when the control with the focus was typed into and not left since. To be called before another invoice
+    /// shows while the page is in view.
+    void SaveWhatIsBeingTyped();
     /// Refills the lines and the totals. The line `selectId` is selected, else row `selectRow` or the last one.
     void RefreshNewInvoiceItemsList(int selectRow, qint64 selectId);
 
@@ -85,14 +88,11 @@ public:
 signals:
     /// Work on the invoice has ended; the invoice history is to show.
     void Left();
+    /// Something that its user should know, and that asks for no answer.
+    void Notice(const QString& text);
 
 private:
-    struct CustomerBox {
-        TextBox* box;
-        const char* field;
-    };
-    /// The customer's text boxes and the fields behind them; the discount, a number, is not among them.
-    std::array<CustomerBox, 12> CustomerBoxes() const;
+    PartyFields CustomerBoxes() const { return CustomerFields(*this); }
 
     QLayout* CustomerSection();
     QLayout* LinesSection();
@@ -104,15 +104,15 @@ private:
 
     void FillPriceListChoice();
     void PriceListChosen();
-    void EmptyCustomerBoxes();
-    void LoadInvoiceFields();
-    qint32 AddInvoice(const QDateTime& submitted);
+    void ShowInvoice(const InvoiceFields& invoice);
+    void ShowShippedDate(const std::optional<QDate>& shipped);
     void ShowTotals(double secondTax, double total);
+    void ShowWhetherItExists();
 
     void CorrectDiscount();
-    void UpdateCustomer();
-    qint32 AddCustomer();
-    void UpdateInvoice();
+    InvoiceCustomer CustomerOnPage() const;
+    InvoiceFields InvoiceOnPage() const;
+    QList<QWidget*> ControlsSavedWhenLeft() const;
 
     void SearchCustomer();
     void ResetCustomer();
@@ -129,5 +129,7 @@ private:
     void CloseInvoice();
     void CancelInvoice();
     void PrintPickingList();
-    void PutAwayAndRaiseNextNumber();
+    void Leave(const QString& numberGivenTwice);
+
+    QWidget* m_gone = nullptr; ///< says that the invoice was deleted
 };

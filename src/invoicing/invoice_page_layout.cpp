@@ -3,6 +3,8 @@
 #include "controls/layout.h"
 #include "invoicing/invoice_page.h"
 
+#include <QStyle>
+
 namespace {
 
 /// A bar at the bottom of the page: as wide as the page, as high as its content.
@@ -28,6 +30,22 @@ void ShowAsFigure(QLabel* label)
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
+/// A line that cannot be missed, out of sight until it is true.
+QWidget* Warning(const QString& text, QWidget* parent)
+{
+    auto* bar = new QWidget(parent);
+    auto* icon = new QLabel;
+    const int size = bar->style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(bar->style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size));
+    auto* label = heading(text);
+    label->setWordWrap(true);
+    auto* content = row({icon, label});
+    content->setStretchFactor(label, 1);
+    FillBar(bar, content);
+    bar->hide();
+    return bar;
+}
+
 } // namespace
 
 InvoicePage::InvoicePage(QWidget* parent)
@@ -37,10 +55,13 @@ InvoicePage::InvoicePage(QWidget* parent)
     FillBar(picBarcode, row({CaptionOver(tr("Bar Code:"), txtBarcode), txtBarcode, cmdAddBarCodeItem}));
     FillBar(picNewInvoiceBotBit, PaymentAndTotals());
     FillBar(picNewInvoiceBotButts, EndButtons());
+    m_gone = Warning(
+        tr("This invoice no longer exists: it has been deleted. What you enter here belongs to no invoice."), this);
     auto* page = column({
         head(tr("New Invoice"),
             tr("Instructions -  Enter your customer's details and/or click Customer Search to locate an existing "
                "customer. Add your invoice items and then click Complete Invoice.")),
+        m_gone,
         heading(tr("Enter your customer's details:")),
         CustomerSection(),
         row({cmdNewInvoiceCustSearch, cmdNewInvoiceCustReset, stretch(), picBarcode}),
@@ -148,17 +169,6 @@ QLayout* InvoicePage::PaymentAndTotals()
 QLayout* InvoicePage::EndButtons()
 {
     return row({cmdCompleteInvoice, cmdCancelInvoice, cmdPrintPickingList, stretch(), cmdCloseInvoice});
-}
-
-void InvoicePage::ConnectSaves()
-{
-    for (const CustomerBox& entry : CustomerBoxes())
-        OnFocusLeft(entry.box, [this] { UpdateInvoiceEdit(); });
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             txtDiscount, txtNotes, lblInvoiceNo, cboPriceList, cboPaymentMethod, chkPaid, chkWarrantyInvoice})
-        OnFocusLeft(control, [this] { UpdateInvoiceEdit(); });
-    On(lblInvoiceDate, &DatePicker::Change, this, &InvoicePage::UpdateInvoiceEdit);
-    On(dtShippedDate, &DatePicker::Change, this, &InvoicePage::UpdateInvoiceEdit);
 }
 
 void InvoicePage::ConnectCommands()

@@ -17,6 +17,16 @@ QString TaxRateText(const QString& name, double percentage)
     return name + QStringLiteral(" (") + CStr(percentage) + QStringLiteral("%)");
 }
 
+std::string_view TaxRateColumn::Text(std::string_view name, double percentage)
+{
+    if (m_text.empty() || name != m_name || percentage != m_percentage) {
+        m_name = name;
+        m_percentage = percentage;
+        m_text = TaxRateText(QString::fromUtf8(m_name.data(), qsizetype(m_name.size())), percentage).toStdString();
+    }
+    return m_text;
+}
+
 void RunningTotal::Add(Currency lineTotal)
 {
     // What FormatCurrency shows reads back as just this: the amount at the locale's digits, half away from zero.

@@ -4,12 +4,27 @@
 
 #include <QString>
 
+#include <string>
+#include <string_view>
+
 /// The line's total with tax. A percentage above 0 gives a unit price with tax, rounded to currency before it is
 /// multiplied; one of 0 or less adds no tax. Throws Overflow beyond the range of currency.
 Currency LineTotal(qint64 quantity, Currency amount, double taxPercentage);
 
 /// The tax column of a line: "VAT (17.5%)".
 QString TaxRateText(const QString& name, double percentage);
+
+/// The tax column of one line after the other, in UTF-8. Lines of an invoice share few rates, so the text is made anew
+/// only when the rate changes.
+class TaxRateColumn {
+public:
+    std::string_view Text(std::string_view name, double percentage);
+
+private:
+    std::string m_name;
+    double m_percentage = 0;
+    std::string m_text;
+};
 
 /// The figures under the lines, unrounded: they are rounded only where they are shown.
 struct InvoiceTotals {

@@ -3,8 +3,8 @@
 #include "base/numbers.h"
 #include "controls/layout.h"
 
-qint32 EditLineQuantity = 0;
-Currency EditLinePrice;
+qint32 frmItemQuantity::EditLineQuantity = 0;
+Currency frmItemQuantity::EditLinePrice;
 
 frmItemQuantity::frmItemQuantity(const QString& quantity, const QString& price, QWidget* parent)
     : Form("frmItemQuantity", tr("Item Quantity"), parent)

@@ -6,15 +6,15 @@
 
 #include <QPushButton>
 
-/// The quantity and unit price of the order line being edited, in and out of frmItemQuantity.
-extern qint32 EditLineQuantity;
-extern Currency EditLinePrice;
-
-/// Asks for a line's new quantity and price. OK puts them into the globals when the quantity is a number and not
-/// negative; a price that is no number then ends the program. Everything else leaves the globals as they were.
+/// Asks for a line's new quantity and price. OK hands them over when the quantity is a number and not
+/// negative; a price that is no number then ends the program. Everything else hands back what came in.
 class frmItemQuantity : public Form {
     Q_OBJECT
 public:
+    /// The quantity and unit price of the order line being edited, in and out of the form.
+    static qint32 EditLineQuantity;
+    static Currency EditLinePrice;
+
     frmItemQuantity(const QString& quantity, const QString& price, QWidget* parent);
 
     CONTROL(TextBox, txtQuantityToAdd);

@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "db/add_row.h"
 #include "db/connection.h"
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ void AddLine(const Recordset& item, qint32 quantity, Currency amount)
     AddRow line(*gConnection, "InvoiceLine");
     line.AddNew();
     line.Set("ItemID", item["id"]);
-    line.Set("InvoiceID", gCurrentInvoiceId);
+    line.Set("InvoiceID", OpenInvoice::gCurrentInvoiceId);
     line.Set("Quantity", quantity);
     line.Set("Amount", amount);
     line.Set("Description", item["description"]);
@@ -92,7 +92,7 @@ bool AddNewOrderItemToDB(qint32 itemId, qint32 quantity, double discountPercent,
 
     Recordset line = gConnection->Execute(
         Sql("SELECT id, quantity FROM invoiceline WHERE invoiceid = {gCurrentInvoiceId} AND itemid = {itemId}")
-            .Number("gCurrentInvoiceId", gCurrentInvoiceId)
+            .Number("gCurrentInvoiceId", OpenInvoice::gCurrentInvoiceId)
             .Number("itemId", itemId));
     if (line.Eof()) {
         AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));

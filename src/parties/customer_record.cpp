@@ -44,13 +44,6 @@ frmCustomer::frmCustomer(QWidget* parent)
     On(cmdOk, &QPushButton::clicked, this, &frmCustomer::Save);
 }
 
-PartyFields frmCustomer::Fields() const
-{
-    const PartyFields names{{"FirstName", "first", txtFirstname}, {"LastName", "last", txtLastname}};
-    const PartyFields further{{"BusinessName", "business", txtBusinessName}, {"Fax", "fax", txtFax}};
-    return names + AddressFields(*this) + further;
-}
-
 void frmCustomer::ShowStoredCustomer()
 {
     const Recordset customer = gConnection->Execute(
@@ -59,7 +52,7 @@ void frmCustomer::ShowStoredCustomer()
             .Number("gEditCustomerId", gEditCustomerId));
     if (customer.Eof())
         return;
-    ShowFields(customer, Fields());
+    ShowTexts(ReadTexts(customer), CustomerFields(*this));
     const Value discount = customer["Discount"];
     txtDiscount->setText(discount.IsNull() ? QString(NoDiscount) : discount.ToText());
 }
@@ -81,15 +74,16 @@ void frmCustomer::UpdateCustomer() const
                "City = '{city}', State = '{state}', PostCode = '{post}', Country = '{country}', Phone = '{phone}', "
                "Email = '{email}', Fax = '{fax}', Discount = {discount}, BusinessName = '{business}'  "
                "WHERE ID={gEditCustomerId};");
-    gConnection->Execute(
-        FillFields(update, Fields()).Raw("discount", txtDiscount->text()).Number("gEditCustomerId", gEditCustomerId));
+    gConnection->Execute(FillFields(update, CustomerFields(*this))
+                             .Raw("discount", txtDiscount->text())
+                             .Number("gEditCustomerId", gEditCustomerId));
 }
 
 void frmCustomer::AddCustomer() const
 {
     AddRow customer(*gConnection, "Customer");
     customer.AddNew();
-    SetFields(customer, Fields());
+    SetFields(customer, CustomerFields(*this));
     customer.Set("Discount", txtDiscount->text());
     customer.Update();
 }

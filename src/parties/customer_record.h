@@ -33,7 +33,6 @@ public:
     CONTROL(QPushButton, cmdCancel);
 
 private:
-    PartyFields Fields() const;
     void ShowStoredCustomer();
     void Save();
     void UpdateCustomer() const;

@@ -1,11 +1,19 @@
 #include "parties/party_fields.h"
 
-void ShowFields(const Recordset& row, const PartyFields& fields)
+void ShowTexts(const PartyTexts& texts, const PartyFields& fields)
 {
     for (const PartyField& field : fields) {
-        field.box->setText(NullToText(row[field.column]));
-        field.box->home(false); // a long text shows its beginning
+        field.box->setText(TextOf(texts, field.column));
+        field.box->home(false);
     }
+}
+
+PartyTexts TextsOf(const PartyFields& fields)
+{
+    PartyTexts texts;
+    for (const PartyField& field : fields)
+        texts.emplace(QLatin1String(field.column), field.box->text());
+    return texts;
 }
 
 Sql& FillFields(Sql& update, const PartyFields& fields)

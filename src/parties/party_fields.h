@@ -2,12 +2,12 @@
 
 #include "controls/text_box.h"
 #include "db/add_row.h"
-#include "db/recordset.h"
+#include "parties/party_texts.h"
 #include "sql/sql.h"
 
 #include <QList>
 
-/// What the records of customers and vendors share: each text box edits one column.
+/// What the records of customers and vendors and the invoice page share: each text box edits one column.
 
 struct PartyField {
     const char* column;
@@ -32,8 +32,19 @@ PartyFields AddressFields(const Record& record)
     };
 }
 
-/// Shows the row's columns in their boxes; Null shows as "".
-void ShowFields(const Recordset& row, const PartyFields& fields);
+/// The twelve text boxes of a customer; the discount, a number, is not among them.
+template <typename Screen>
+PartyFields CustomerFields(const Screen& screen)
+{
+    const PartyFields names{{"FirstName", "first", screen.txtFirstname}, {"LastName", "last", screen.txtLastname}};
+    const PartyFields further{{"BusinessName", "business", screen.txtBusinessName}, {"Fax", "fax", screen.txtFax}};
+    return names + AddressFields(screen) + further;
+}
+
+/// Shows the columns in their boxes, long texts from their beginning; a column that is not among `texts` shows as "".
+void ShowTexts(const PartyTexts& texts, const PartyFields& fields);
+/// What the boxes hold.
+PartyTexts TextsOf(const PartyFields& fields);
 /// Fills the markers of the boxes' texts.
 Sql& FillFields(Sql& update, const PartyFields& fields);
 /// Sets the fields of a new row, in the order of the list.

@@ -58,7 +58,7 @@ void frmVendor::ShowStoredVendor()
             .Number("gEditVendorId", gEditVendorId));
     if (vendor.Eof())
         return;
-    ShowFields(vendor, Fields());
+    ShowTexts(ReadTexts(vendor), Fields());
     txtNotes->SetText(NullToText(vendor["Notes"]));
 }
 

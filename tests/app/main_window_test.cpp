@@ -2,7 +2,7 @@
 #include "app/main_grids.h"
 #include "base/regional.h"
 #include "config/secondary_tax.h"
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 #include "support/form_check.h"
 
 #include <QLocale>
@@ -43,8 +43,8 @@ TEST_F(LoadTest, TheFirstScreenIsTheInvoiceHistoryWithAllInvoices)
     EXPECT_EQ(Entries(window.picNewInvoice->cboPaymentMethod),
         QStringList({"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"}));
     EXPECT_EQ(window.picInventory->gInventory->Rows(), 2);
-    EXPECT_EQ(gCurrentInvoiceId, -1);
-    EXPECT_EQ(gCurrentCustomerId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
 }
 
 TEST_F(LoadTest, ThePriceListsStandByNameAndTheFirstIsChosen)
@@ -198,7 +198,7 @@ TEST_F(LoadTest, ClosingStoresTheWidthsOfAllSixGridsAndNothingElse)
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
     Type(window.picNewInvoice->txtFirstname, "Ann");
-    const int openInvoice = gCurrentInvoiceId;
+    const int openInvoice = OpenInvoice::gCurrentInvoiceId;
     window.picCustomers->gcust->SetColWidth(0, 3210);
     window.picVendors->gVendors->SetColWidth(2, 0);
     ASSERT_EQ(Count("invoice"), 1);
@@ -214,7 +214,7 @@ TEST_F(LoadTest, ClosingStoresTheWidthsOfAllSixGridsAndNothingElse)
         {"gInvoicesColWidth3", "gInventoryColWidth4", "gNewInvoiceColWidth5", "gItemGroupsColWidth0"})
         EXPECT_NE(GetConfig(key, "unset"), "unset") << key;
     EXPECT_EQ(Count("invoice"), 1);
-    EXPECT_EQ(gCurrentInvoiceId, openInvoice);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, openInvoice);
     EXPECT_EQ(Single("SELECT count(*) || group_concat(FirstName) FROM customer"), customers);
 }
 
@@ -224,7 +224,7 @@ TEST_F(LoadTest, OpeningAnInvoiceOnThePageInViewSavesWhatWasBeingTypedThere)
     const int old = Invoice(bob).No("00007").Add();
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
-    const int openInvoice = gCurrentInvoiceId;
+    const int openInvoice = OpenInvoice::gCurrentInvoiceId;
     for (const QString& typed : {QStringLiteral("Ann"), QStringLiteral("Anna")}) {
         Type(window.picNewInvoice->txtFirstname, typed);
         window.Run("mnuReservationAdd");

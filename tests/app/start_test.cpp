@@ -6,7 +6,7 @@
 #include "base/files.h"
 #include "config/configuration_pages.h"
 #include "config/secondary_tax.h"
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 
 #include <QDir>
 #include <QFile>

@@ -12,9 +12,9 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        SelectedItemID = -1;
-        SelectedItemQuantity = 0;
-        SelectedItemPrice = Currency();
+        frmAddOrderItem::SelectedItemID = -1;
+        frmAddOrderItem::SelectedItemQuantity = 0;
+        frmAddOrderItem::SelectedItemPrice = Currency();
         tools = CategoryRow("Tools");
         hand = SubCategoryRow(tools, "Hand tools");
         power = SubCategoryRow(tools, "Power tools");
@@ -117,9 +117,9 @@ TEST_F(AddOrderItem, ATypedPriceOverridesTheListAndEnterAddsTheItem)
     Type(form->txtQuantityToAdd, "2.5");
     Press(form->txtQuantityToAdd, Qt::Key_Return);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(SelectedItemID, hammer);
-    EXPECT_EQ(SelectedItemQuantity, 2) << "half to even";
-    EXPECT_EQ(SelectedItemPrice, Money("10.25"));
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, hammer);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 2) << "half to even";
+    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Money("10.25"));
 }
 
 TEST_F(AddOrderItem, ThePriceFollowsTheArrowKeys)
@@ -137,9 +137,9 @@ TEST_F(AddOrderItem, BadNumbersCountAsOnePieceAtNoPrice)
     Type(form->txtQuantityToAdd, "abc");
     Type(form->txtItemPrice, "dear");
     Click(form->cmdOk);
-    EXPECT_EQ(SelectedItemID, drill);
-    EXPECT_EQ(SelectedItemQuantity, 1);
-    EXPECT_EQ(SelectedItemPrice, Currency());
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, drill);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 1);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Currency());
 }
 
 TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
@@ -153,26 +153,26 @@ TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
         Icon::Critical);
     Click(form->cmdOk);
     EXPECT_TRUE(form->isVisible());
-    EXPECT_EQ(SelectedItemID, -1);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, -1);
     Type(form->txtQuantityToAdd, "2");
     DoubleClickRow(form->gItems, form->gItems->Row());
-    EXPECT_EQ(SelectedItemID, drill);
-    EXPECT_EQ(SelectedItemQuantity, 2);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, drill);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 2);
 }
 
 TEST_F(AddOrderItem, CancelSelectsNothingAndAnEmptyListItemNought)
 {
     auto form = Form();
-    SelectedItemID = 7;
+    frmAddOrderItem::SelectedItemID = 7;
     Press(form->txtItemName, Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(SelectedItemID, -1);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, -1);
 
     form = Form();
     Type(form->txtItemName, "no such item");
     Click(form->cmdSearch);
     Click(form->cmdOk);
-    EXPECT_EQ(SelectedItemID, 0);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemID, 0);
 }
 
 } // namespace

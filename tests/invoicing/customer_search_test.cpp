@@ -23,7 +23,7 @@ TEST_F(CustomerSearch, EitherNameMatchesAndThePickedCustomerComesToTheInvoice)
         Press(form.gcust, Qt::Key_Return);
     });
     Click(page->cmdNewInvoiceCustSearch);
-    EXPECT_EQ(gCurrentCustomerId, ada);
+    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, ada);
     EXPECT_EQ(page->txtCity->text(), "Cork");
     EXPECT_EQ(page->txtDiscount->text(), "5");
     EXPECT_EQ(Single("SELECT CustomerID FROM invoice"), QString::number(ada));
@@ -53,7 +53,7 @@ TEST_F(CustomerSearch, ClosedWithoutAChoiceChangesNothing)
     OpenNew();
     WhenFormShows<frmResCustSearch>([](frmResCustSearch& form) { Press(&form, Qt::Key_Escape); });
     page->cmdNewInvoiceCustSearch->click();
-    EXPECT_EQ(SelectedCustomerID, -1);
+    EXPECT_EQ(frmResCustSearch::SelectedCustomerID, -1);
     EXPECT_EQ(Single("SELECT CustomerID FROM invoice"), "NULL");
 }
 

@@ -12,8 +12,8 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        InvoiceSelected = false;
-        SelectedInvoiceID = -1;
+        frmFindInvoice::InvoiceSelected = false;
+        frmFindInvoice::SelectedInvoiceID = -1;
         customer = Customer("Ann", "Smith").Business("Zinc Works").Add();
         form = std::make_unique<frmFindInvoice>(nullptr);
     }
@@ -81,8 +81,8 @@ TEST_F(FindInvoice, TheSelectedInvoiceIsHandedBack)
     Search(Day(5), Day(6));
     DoubleClickRow(form->gres, 2);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_TRUE(InvoiceSelected);
-    EXPECT_EQ(SelectedInvoiceID, later);
+    EXPECT_TRUE(frmFindInvoice::InvoiceSelected);
+    EXPECT_EQ(frmFindInvoice::SelectedInvoiceID, later);
 }
 
 TEST_F(FindInvoice, WithoutASelectionItSaysSoAndCloseHandsNothingBack)
@@ -95,8 +95,8 @@ TEST_F(FindInvoice, WithoutASelectionItSaysSoAndCloseHandsNothingBack)
     EXPECT_TRUE(form->isVisible());
     Click(form->cmdCancel);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_FALSE(InvoiceSelected);
-    EXPECT_EQ(SelectedInvoiceID, -1);
+    EXPECT_FALSE(frmFindInvoice::InvoiceSelected);
+    EXPECT_EQ(frmFindInvoice::SelectedInvoiceID, -1);
 }
 
 TEST_F(FindInvoice, AnIdBeyond16BitsIsAnOverflow)
@@ -109,7 +109,7 @@ TEST_F(FindInvoice, AnIdBeyond16BitsIsAnOverflow)
     ExpectedEnd end;
     DoubleClickRow(form->gres, 2);
     EXPECT_EQ(end.Number(), 6);
-    EXPECT_FALSE(InvoiceSelected);
+    EXPECT_FALSE(frmFindInvoice::InvoiceSelected);
 }
 
 } // namespace

@@ -75,8 +75,8 @@ TEST_F(InvoiceLife, FromNewInvoiceToComplete)
     EXPECT_EQ(Rows("SELECT InvoiceNo, Notes, Total2ndTax FROM invoice"), Table({{"00042", "Gift", "$3.00"}}));
     EXPECT_EQ(Stock(screws), 4);
     EXPECT_EQ(NextNumber(), 43);
-    EXPECT_EQ(gCurrentInvoiceId, -1);
-    EXPECT_EQ(gCurrentCustomerId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
     EXPECT_EQ(timesLeft, 1);
     EXPECT_EQ(Count("customer"), 3) << "putting the page away adds no customer";
 
@@ -113,7 +113,7 @@ TEST_F(InvoiceLife, DocumentsShowTheInvoiceAsItStandsOnThePage)
     page->lblInvoiceNo->setText("A-1");
     page->cmdPrintPickingList->click();
     EXPECT_EQ(PreviewTitles(), QStringList{"Picking List A-1"});
-    EXPECT_NE(gCurrentInvoiceId, -1);
+    EXPECT_NE(OpenInvoice::gCurrentInvoiceId, -1);
     ClosePreviews();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
@@ -122,7 +122,7 @@ TEST_F(InvoiceLife, DocumentsShowTheInvoiceAsItStandsOnThePage)
     answers.Expect("Print Invoice?", Icon::Question, Buttons::YesNo, Answer::Yes);
     page->cmdCompleteInvoice->click();
     EXPECT_EQ(PreviewTitles(), QStringList{"Invoice A-2"});
-    EXPECT_EQ(gCurrentInvoiceId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "config/secondary_tax.h"
-#include "invoicing/current_invoice.h"
 #include "invoicing/invoice_page.h"
+#include "invoicing/open_invoice.h"
 #include "records/lists.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
@@ -17,8 +17,8 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        gCurrentInvoiceId = -1;
-        gCurrentCustomerId = -1;
+        OpenInvoice::gCurrentInvoiceId = -1;
+        OpenInvoice::gCurrentCustomerId = -1;
         LoadSecondaryTax();
         page = new InvoicePage(&window);
         (new QVBoxLayout(&window))->addWidget(page);
@@ -40,7 +40,7 @@ protected:
 
     void Open(qint32 invoiceId)
     {
-        gCurrentInvoiceId = invoiceId;
+        OpenInvoice::gCurrentInvoiceId = invoiceId;
         page->show();
         page->ShowInvoicePage();
         // Events of the show itself are not part of what a test looks at.

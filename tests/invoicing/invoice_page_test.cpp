@@ -22,7 +22,8 @@ TEST_F(Page, ANewInvoiceHasItsRowAtOnceAndNoCustomer)
     EXPECT_EQ(page->Title(), "New Invoice");
     EXPECT_EQ(page->lblInvoiceNo->text(), "123456");
     EXPECT_EQ(Rows("SELECT id, CustomerID, InvoiceNo, SubmittedDate, StockReturned, Paid, Notes FROM invoice"),
-        Table({{QString::number(gCurrentInvoiceId), "NULL", "123456", "2026-03-14 10:30:00", "0", "NULL", "NULL"}}));
+        Table({{QString::number(OpenInvoice::gCurrentInvoiceId), "NULL", "123456", "2026-03-14 10:30:00", "0", "NULL",
+            "NULL"}}));
     EXPECT_EQ(Count("customer"), 0);
     EXPECT_EQ(page->txtNotes->Text(), "");
     EXPECT_EQ(page->txtBarcode->text(), "kept");
@@ -33,21 +34,21 @@ TEST_F(Page, ANewInvoiceHasItsRowAtOnceAndNoCustomer)
 TEST_F(Page, AnInvoiceLeftOpenIsTheOneThatNewInvoiceShowsAgain)
 {
     OpenNew();
-    const qint32 left = gCurrentInvoiceId;
+    const qint32 left = OpenInvoice::gCurrentInvoiceId;
     page->hide();
-    Open(gCurrentInvoiceId);
+    Open(OpenInvoice::gCurrentInvoiceId);
     EXPECT_EQ(page->Title(), "Edit Invoice");
-    EXPECT_EQ(gCurrentInvoiceId, left);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, left);
     EXPECT_EQ(Count("invoice"), 1);
 }
 
 TEST_F(Page, AnInvoiceThatWasNeverSavedOpensWithoutACustomer)
 {
     OpenNew();
-    const qint32 unsaved = gCurrentInvoiceId;
-    gCurrentCustomerId = 99;
+    const qint32 unsaved = OpenInvoice::gCurrentInvoiceId;
+    OpenInvoice::gCurrentCustomerId = 99;
     Open(unsaved);
-    EXPECT_EQ(gCurrentCustomerId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
 }
 
 TEST_F(Page, AnOldInvoiceComesBackAsItWasSaved)
@@ -101,7 +102,7 @@ TEST_F(Page, AnInvoiceThatIsGoneLeavesThePageAsItWas)
 {
     Open(Invoice(Customer("Ada", "Byron").Add()).Add());
     Run("DELETE FROM invoice");
-    Open(gCurrentInvoiceId);
+    Open(OpenInvoice::gCurrentInvoiceId);
     EXPECT_EQ(page->Title(), "Edit Invoice");
     EXPECT_EQ(page->txtFirstname->text(), "Ada");
 }

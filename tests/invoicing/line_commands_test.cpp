@@ -107,7 +107,7 @@ TEST_F(LineCommands, WithoutAGroupTheDialogSaysSoAndStays)
         Press(&form, Qt::Key_Escape);
     });
     Click(page->cmdAddGroupItems);
-    EXPECT_EQ(GroupItemCount, 0);
+    EXPECT_EQ(frmAddGroupItems::GroupItemCount, 0);
 }
 
 struct Edit {
@@ -200,7 +200,7 @@ TEST_F(LineCommands, ACancelledInvoiceGivesEveryLineBackAndGoes)
     ScriptedAnswers answers;
     answers.Expect("Cancel invoice?", Icon::Question, Buttons::YesNo, Answer::No);
     Click(page->cmdCancelInvoice);
-    EXPECT_EQ(gCurrentInvoiceId, invoice);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, invoice);
 
     answers.Expect("Cancel invoice?", Icon::Question, Buttons::YesNo, Answer::Yes);
     page->txtFirstname->setFocus();
@@ -209,7 +209,7 @@ TEST_F(LineCommands, ACancelledInvoiceGivesEveryLineBackAndGoes)
     EXPECT_EQ(Stock(nails), 3);
     EXPECT_EQ(Count("invoice") + Count("invoiceline"), 0);
     EXPECT_EQ(Count("customer"), 1) << "putting the page away adds no customer";
-    EXPECT_EQ(gCurrentInvoiceId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
     EXPECT_EQ(Single("SELECT invoiceno FROM nextinvoiceno").toDouble(), 1);
     EXPECT_EQ(timesLeft, 1);
 }

@@ -1,6 +1,6 @@
 #include "invoicing/order_lines.h"
 
-#include "invoicing/current_invoice.h"
+#include "invoicing/open_invoice.h"
 #include "support/temporary_database.h"
 
 namespace {
@@ -10,7 +10,7 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        gCurrentInvoiceId = Invoice(Customer("Ada", "Byron").Add()).Add();
+        OpenInvoice::gCurrentInvoiceId = Invoice(Customer("Ada", "Byron").Add()).Add();
     }
     Table Lines() const { return Rows("SELECT quantity, amount FROM invoiceline ORDER BY id"); }
 };
@@ -26,8 +26,8 @@ TEST_F(OrderLines, ANewLineIsASnapshotOfTheItem)
 
     EXPECT_EQ(Rows("SELECT InvoiceID, ItemID, Quantity, Amount, Description, Number, Name, TaxRateName, "
                    "TaxRatePercentage FROM invoiceline"),
-        Table({{QString::number(gCurrentInvoiceId), QString::number(screws), "3", "2.5", "Box of 50", "S-04",
-            "Screws 'M4'", "VAT", "17.5"}}));
+        Table({{QString::number(OpenInvoice::gCurrentInvoiceId), QString::number(screws), "3", "2.5", "Box of 50",
+            "S-04", "Screws 'M4'", "VAT", "17.5"}}));
 }
 
 TEST_F(OrderLines, AllTheStockCanBeSoldAndNotOneMore)
@@ -56,7 +56,7 @@ TEST_F(OrderLines, TheSameItemOnAnotherInvoiceIsALineOfItsOwn)
 {
     const int screws = Item("Screws").Stock(10).Add();
     AddNewOrderItemToDB(screws, 3, 0, false, Money("2.5"));
-    gCurrentInvoiceId = Invoice(gCurrentCustomerId).Add();
+    OpenInvoice::gCurrentInvoiceId = Invoice(OpenInvoice::gCurrentCustomerId).Add();
     AddNewOrderItemToDB(screws, 1, 0, false, Money("4"));
     EXPECT_EQ(Lines(), Table({{"3", "2.5"}, {"1", "4"}}));
 }
@@ -94,7 +94,7 @@ TEST_F(OrderLines, AnItemThatIsGoneOrHasNoTaxRateAddsNothing)
 TEST_F(OrderLines, AChangedQuantityMovesTheDifferenceEvenBelowZero)
 {
     const int screws = Item("Screws").Stock(2).Add();
-    const int line = Line(gCurrentInvoiceId, screws, 3, "2.5");
+    const int line = Line(OpenInvoice::gCurrentInvoiceId, screws, 3, "2.5");
 
     ChangeOrderLine(line, 3, 8, Money("1234.5"));
     EXPECT_EQ(Lines(), Table({{"8", "1234.5"}}));
@@ -108,8 +108,8 @@ TEST_F(OrderLines, ADeletedLineGivesItsGoodsBackAndOneWithoutItemJustGoes)
 {
     const int screws = Item("Screws").Stock(2).Add();
     const int nails = Item("Nails").Stock(1).Add();
-    const int first = Line(gCurrentInvoiceId, screws, 3, "2.5");
-    const int second = Line(gCurrentInvoiceId, nails, 1, "2.5");
+    const int first = Line(OpenInvoice::gCurrentInvoiceId, screws, 3, "2.5");
+    const int second = Line(OpenInvoice::gCurrentInvoiceId, nails, 1, "2.5");
     Run("DELETE FROM item WHERE name = 'Nails'");
 
     DeleteOrderLine(first, 3);
