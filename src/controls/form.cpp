@@ -1,6 +1,7 @@
 #include "controls/form.h"
 
 #include "controls/layout.h"
+#include "controls/screen_input.h"
 
 #include <QKeyEvent>
 #include <QTimer>
@@ -41,6 +42,7 @@ void SwitchAutoDefaultOff(QWidget* screen)
 Form::Form(const char* name, const QString& title, QWidget* parent)
     : QDialog(parent)
 {
+    WatchScreenInput();
     setObjectName(QLatin1String(name));
     setWindowTitle(title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -97,6 +99,7 @@ Panel::Panel(const char* name, QWidget* parent)
     , m_topIcon(new QLabel(this))
     , m_title(heading(QString()))
 {
+    WatchScreenInput();
     setObjectName(QLatin1String(name));
     m_title->setParent(this);
     m_title->setObjectName(QStringLiteral("lblTitle"));
