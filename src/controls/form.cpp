@@ -42,7 +42,7 @@ void SwitchAutoDefaultOff(QWidget* screen)
 Form::Form(const char* name, const QString& title, QWidget* parent)
     : QDialog(parent)
 {
-    WatchScreenInput();
+    LetAccessKeysFocus();
     setObjectName(QLatin1String(name));
     setWindowTitle(title);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -99,7 +99,7 @@ Panel::Panel(const char* name, QWidget* parent)
     , m_topIcon(new QLabel(this))
     , m_title(heading(QString()))
 {
-    WatchScreenInput();
+    LetAccessKeysFocus();
     setObjectName(QLatin1String(name));
     m_title->setParent(this);
     m_title->setObjectName(QStringLiteral("lblTitle"));
@@ -136,6 +136,8 @@ void Panel::showEvent(QShowEvent* event)
         SwitchAutoDefaultOff(this);
         ApplyTabOrder(this);
     }
+    if (!event->spontaneous())
+        KeepGestureOff(this);
     QWidget::showEvent(event);
 }
 

@@ -1,7 +1,6 @@
 #include "controls/screen_input.h"
 
-#include "controls/form.h"
-
+#include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMenuBar>
@@ -10,13 +9,6 @@
 #include <QShortcutEvent>
 
 namespace {
-
-Panel* PanelAround(QWidget* widget)
-{
-    while (widget && !dynamic_cast<Panel*>(widget))
-        widget = widget->isWindow() ? nullptr : widget->parentWidget();
-    return static_cast<Panel*>(widget);
-}
 
 /// The buttons of a window that have this access key now.
 QList<QAbstractButton*> ButtonsOf(const QWidget* window, const QKeySequence& key)
@@ -36,6 +28,13 @@ public:
         qApp->installEventFilter(this);
     }
 
+    void CameIntoView(QWidget* panel)
+    {
+        m_fresh = panel;
+        m_isPressed = false;
+        m_swallowed.invalidate();
+    }
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -43,13 +42,9 @@ protected:
         case QEvent::Shortcut:
             return watched->isWidgetType()
                 && AccessKey(static_cast<QWidget*>(watched), static_cast<QShortcutEvent*>(event)->key());
-        case QEvent::Show:
-            if (auto* panel = dynamic_cast<Panel*>(watched); panel && !event->spontaneous())
-                m_unpressed = panel;
-            return false;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            return watched->isWidgetType() && IsOfAnotherPanelsGesture(static_cast<QWidget*>(watched), event->type());
+            return watched->isWidgetType() && IsOfTheGestureThatBrought(static_cast<QWidget*>(watched), event->type());
         default:
             return false;
         }
@@ -70,30 +65,41 @@ private:
         return true;
     }
 
-    bool IsOfAnotherPanelsGesture(QWidget* pressed, QEvent::Type type)
+    bool IsOfTheGestureThatBrought(QWidget* pressed, QEvent::Type type)
     {
-        const Panel* panel = PanelAround(pressed);
-        if (!panel)
+        if (!m_fresh || !(m_fresh == pressed || m_fresh->isAncestorOf(pressed)))
             return false;
-        // A third click, and so on, belongs to the same gesture.
+        // A double click whose first press was not on the panel; a third click, and so on, belongs to it.
         const bool goesOn = m_swallowed.isValid() && !m_swallowed.hasExpired(QApplication::doubleClickInterval());
-        if (goesOn || (panel == m_unpressed && type == QEvent::MouseButtonDblClick)) {
+        if (goesOn || (!m_isPressed && type == QEvent::MouseButtonDblClick)) {
             m_swallowed.start();
             return true;
         }
-        m_unpressed = nullptr;
+        m_isPressed = true;
         return false;
     }
 
-    QPointer<Panel> m_unpressed; ///< the panel that came into view last, until it is pressed for the first time
+    QPointer<QWidget> m_fresh; ///< the panel that came into view last
+    bool m_isPressed = false; ///< since then
     QElapsedTimer m_swallowed;
 };
 
-} // namespace
-
-void WatchScreenInput()
+ScreenInput& Watch()
 {
     static QPointer<ScreenInput> watch;
     if (!watch)
         watch = new ScreenInput;
+    return *watch;
+}
+
+} // namespace
+
+void LetAccessKeysFocus()
+{
+    Watch();
+}
+
+void KeepGestureOff(QWidget* panel)
+{
+    Watch().CameIntoView(panel);
 }

@@ -1,8 +1,13 @@
 #pragma once
 
-/// Starts what all screens of the program need of mouse and keyboard, once:
-/// - An access key gives its button the focus before it clicks, as the mouse does, so that the control that had it is
-///   left. The buttons of the panel in view go before the menus.
-/// - A panel that has just come into view takes no click of the gesture that brought it: the second press of a double
-///   click on another panel's button is not one on the button that stands there now.
-void WatchScreenInput();
+class QWidget;
+
+/// What all screens need of mouse and keyboard.
+
+/// From the first call on an access key gives its button the focus before it clicks, as the mouse does, so that the
+/// control that had it is left. The buttons in a window go before its menus.
+void LetAccessKeysFocus();
+
+/// `panel` has just come into view. It takes no click of the gesture that brought it: the second press of a double
+/// click on another panel's button is not one on the button that stands there now.
+void KeepGestureOff(QWidget* panel);

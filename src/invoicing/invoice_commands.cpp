@@ -4,6 +4,7 @@
 #include "db/connection.h"
 #include "invoicing/add_group_items.h"
 #include "invoicing/add_order_item.h"
+#include "invoicing/add_order_line.h"
 #include "invoicing/customer_search.h"
 #include "invoicing/invoice_documents.h"
 #include "invoicing/invoice_page.h"

@@ -33,8 +33,8 @@ struct OrderLine {
 };
 
 /// The one invoice that is open, new or old: its rows and those of its customer, without the page that shows them. Its
-/// lines come and go by order_lines.h. All of these throw RuntimeError when a statement fails; what was written before
-/// it stays.
+/// lines come by AddNewOrderItemToDB and go by DeleteOrderLine. All of these throw RuntimeError when a statement fails;
+/// what was written before it stays.
 class OpenInvoice {
 public:
     /// The rows of the open invoice and of its customer; -1 for none.

@@ -1,77 +1,15 @@
 #include "invoicing/order_lines.h"
 
 #include "base/numbers.h"
-#include "db/add_row.h"
 #include "db/connection.h"
-#include "invoicing/open_invoice.h"
 
 namespace {
-
-void TakeFromStock(qint64 itemId, qint64 quantity)
-{
-    gConnection->Execute(Sql("UPDATE item SET noinstock = noinstock - {quantity} WHERE id = {itemId}")
-                             .Number("quantity", quantity)
-                             .Number("itemId", itemId));
-}
 
 void GiveBackToStock(qint64 itemId, qint64 quantity)
 {
     gConnection->Execute(Sql("UPDATE item SET noinstock = noinstock + {quantity} WHERE id = {itemId}")
                              .Number("quantity", quantity)
                              .Number("itemId", itemId));
-}
-
-/// False also for an item that is gone: there is nothing to run short of.
-bool IsShortOfStock(qint32 itemId, qint32 quantity)
-{
-    const Recordset stock =
-        gConnection->Execute(Sql("SELECT noinstock FROM item WHERE id = {itemId}").Number("itemId", itemId));
-    return !stock.Eof() && !stock.IsNull(0) && quantity > stock[0].ToDouble();
-}
-
-Currency NetOfDiscount(Currency unitPrice, double discountPercent)
-{
-    if (discountPercent == 0)
-        return unitPrice;
-    return unitPrice - CCur(unitPrice.ToDouble() * discountPercent / 100);
-}
-
-/// The line copies what it needs of the item: later changes of the item or its tax rate leave old invoices alone.
-void AddLine(const Recordset& item, qint32 quantity, Currency amount)
-{
-    AddRow line(*gConnection, "InvoiceLine");
-    line.AddNew();
-    line.Set("ItemID", item["id"]);
-    line.Set("InvoiceID", OpenInvoice::gCurrentInvoiceId);
-    line.Set("Quantity", quantity);
-    line.Set("Amount", amount);
-    line.Set("Description", item["description"]);
-    line.Set("Number", item["number"]);
-    line.Set("Name", item["name"]);
-    line.Set("TaxRateName", item["tname"]);
-    line.Set("TaxRatePercentage", item["percentage"]);
-    line.Update();
-}
-
-void AddNewLine(qint32 itemId, qint32 quantity, Currency amount)
-{
-    Recordset item = gConnection->Execute(
-        Sql("SELECT item.id, [number], item.name, taxrate.percentage, taxrate.name AS tname, description "
-            "FROM item, taxrate WHERE item.taxrateid = taxrate.id AND item.id = {itemId}")
-            .Number("itemId", itemId));
-    if (item.Eof())
-        return;
-    AddLine(item, quantity, amount);
-    item.Close();
-    TakeFromStock(itemId, quantity);
-}
-
-void MergeIntoLine(qint64 lineId, qint64 oldQuantity, qint32 itemId, qint32 quantity)
-{
-    TakeFromStock(itemId, quantity);
-    gConnection->Execute(Sql("UPDATE invoiceline SET quantity = {quantity} WHERE id = {lineId}")
-                             .Number("quantity", oldQuantity + quantity)
-                             .Number("lineId", lineId));
 }
 
 std::optional<qint64> ItemOfLine(qint64 lineId)
@@ -85,24 +23,11 @@ std::optional<qint64> ItemOfLine(qint64 lineId)
 
 } // namespace
 
-bool AddNewOrderItemToDB(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
+void TakeFromStock(qint64 itemId, qint64 quantity)
 {
-    if (IsShortOfStock(itemId, quantity))
-        return false;
-
-    Recordset line = gConnection->Execute(
-        Sql("SELECT id, quantity FROM invoiceline WHERE invoiceid = {gCurrentInvoiceId} AND itemid = {itemId}")
-            .Number("gCurrentInvoiceId", OpenInvoice::gCurrentInvoiceId)
-            .Number("itemId", itemId));
-    if (line.Eof()) {
-        AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));
-        return true;
-    }
-    const qint64 lineId = line.Long(0);
-    const qint64 oldQuantity = line.Long(1);
-    line.Close();
-    MergeIntoLine(lineId, oldQuantity, itemId, quantity);
-    return true;
+    gConnection->Execute(Sql("UPDATE item SET noinstock = noinstock - {quantity} WHERE id = {itemId}")
+                             .Number("quantity", quantity)
+                             .Number("itemId", itemId));
 }
 
 void ChangeOrderLine(qint64 lineId, qint32 oldQuantity, qint32 newQuantity, Currency unitPrice)

@@ -6,15 +6,11 @@
 
 #include <optional>
 
-/// The lines of the open invoice and the stock that they hold. Stock moves together with the line, not when the invoice
-/// is completed. All of these throw RuntimeError when a statement fails; what was written before it stays.
+/// The lines of invoices and the stock that they hold. Stock moves together with the line, not when the invoice is
+/// completed. All of these throw RuntimeError when a statement fails; what was written before it stays.
 
-/// Takes `quantity` units of the item out of stock and puts them on the open invoice, merging with a line of the same
-/// item, whose price then holds for all of it. `unitPrice` is before tax and before `discountPercent`; a new line of a
-/// warranty invoice is stored at 0.
-/// Returns false, having written nothing, when fewer than `quantity` units are in stock. An item that is gone, or whose
-/// tax rate is, adds nothing and returns true.
-bool AddNewOrderItemToDB(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice);
+/// Takes `quantity` units of the item out of stock.
+void TakeFromStock(qint64 itemId, qint64 quantity);
 
 /// Gives the line its new quantity and unit price, and the stock the difference. Stock may fall below zero.
 void ChangeOrderLine(qint64 lineId, qint32 oldQuantity, qint32 newQuantity, Currency unitPrice);

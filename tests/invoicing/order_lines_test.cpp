@@ -1,5 +1,6 @@
 #include "invoicing/order_lines.h"
 
+#include "invoicing/add_order_line.h"
 #include "invoicing/open_invoice.h"
 #include "support/temporary_database.h"
 
