@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 HelpKey::HelpKey(QObject* parent)
     : QObject(parent)
@@ -19,7 +20,11 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
         return false;
-    constexpr int Contents = 1;
-    Guarded([] { OpenHelp(HelpCommand::Context, Contents); });
+    // The message of a missing viewer stands until it is answered; one is enough.
+    if (!m_opening) {
+        constexpr int Contents = 1;
+        const QScopedValueRollback opening(m_opening, true);
+        Guarded([] { OpenHelp(HelpCommand::Context, Contents); });
+    }
     return true;
 }

@@ -10,7 +10,6 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tavrin-inventory"));
     QGuiApplication::setWindowIcon(ProgramIcon(QStringLiteral("tavrin")));
     // The main window's closing ends the program; the splash's does not.

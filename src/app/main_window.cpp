@@ -61,6 +61,8 @@ MainWindow::MainWindow()
     Toolbar->setObjectName(QStringLiteral("Toolbar"));
     Toolbar->setWindowTitle(tr("Toolbar"));
     Toolbar->setMovable(false);
+    // Qt's menu for the right button would hide the toolbar for good.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     Toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     Toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     Toolbar->setIconSize(ToolbarIconSize);

@@ -1,5 +1,7 @@
 #include "app/panel_area.h"
 
+#include "controls/layout.h"
+
 #include <QResizeEvent>
 #include <QStackedLayout>
 
@@ -31,7 +33,8 @@ PanelArea::PanelArea(QWidget* parent)
 
 void PanelArea::AddPanel(QWidget* panel)
 {
-    m_stack->addWidget(panel);
+    // A window too small for a panel scrolls it, so that every button can be reached.
+    m_stack->addWidget(scrolling(panel));
 }
 
 int PanelArea::PanelCount() const
@@ -47,10 +50,12 @@ void PanelArea::ShowPanel(int number)
 void PanelArea::PlaceHiddenPanels()
 {
     for (int number = 0; number < m_stack->count(); ++number) {
-        QWidget* panel = m_stack->widget(number);
-        if (panel->isVisible())
+        auto* area = static_cast<QScrollArea*>(m_stack->widget(number));
+        if (area->isVisible())
             continue;
-        panel->setGeometry(rect());
+        area->setGeometry(rect());
+        QWidget* panel = area->widget();
+        panel->setGeometry(QRect(QPoint(), area->maximumViewportSize().expandedTo(panel->minimumSizeHint())));
         LayOut(panel);
     }
 }

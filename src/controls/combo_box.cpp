@@ -13,17 +13,18 @@
 #include <QWheelEvent>
 
 namespace {
-constexpr int MenuEntries = 30;
 constexpr int MeasuredEntries = 500;
 
-// Some styles drop a list down as one tall menu and measure every entry for it; a long list scrolls instead.
+// Some styles drop a list down as one tall menu, which measures every entry and has no scroll bar where the screen
+// ends.
 class ListStyle : public QProxyStyle {
 public:
     int styleHint(
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* result) const override
     {
         if (hint == SH_ComboBox_Popup)
-            if (auto* combo = qobject_cast<const QComboBox*>(widget); combo && combo->count() > MenuEntries)
+            if (auto* combo = qobject_cast<const QComboBox*>(widget);
+                combo && combo->count() > combo->maxVisibleItems())
                 return 0;
         return QProxyStyle::styleHint(hint, option, widget, result);
     }

@@ -2,7 +2,10 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyleOption>
+#include <QWheelEvent>
 
 namespace {
 constexpr int CenturyTurn = 30;
@@ -39,6 +42,10 @@ void DateField::keyPressEvent(QKeyEvent* event)
     const QString text = event->text();
     const bool isTyping = text.size() == 1 && text.front().isPrint() && !text.front().isLetter()
         && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (event->key() == Qt::Key_F4 || (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier)) {
+        event->accept();
+        return OpenCalendar();
+    }
     const bool namesMonths = displayFormat().contains(QLatin1String("MMM"));
     if (!isTyping || namesMonths) {
         FinishTyping();
@@ -50,6 +57,28 @@ void DateField::keyPressEvent(QKeyEvent* event)
         TypeDigit(event);
     else
         TypeSeparator();
+}
+
+void DateField::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+// Qt opens the calendar for a press on the arrow only.
+void DateField::OpenCalendar()
+{
+    FinishTyping();
+    QStyleOptionSpinBox whole;
+    initStyleOption(&whole);
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    option.editable = true;
+    option.frame = whole.frame;
+    option.subControls = QStyle::SC_All;
+    const QPoint arrow = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this).center();
+    QMouseEvent press(
+        QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QDateEdit::mousePressEvent(&press);
 }
 
 void DateField::TypeDigit(QKeyEvent* event)

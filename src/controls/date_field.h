@@ -19,6 +19,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    /// A date changes by typing and by the calendar only: the wheel is there to scroll.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     void TypeDigit(QKeyEvent* event);
@@ -26,6 +28,7 @@ private:
     /// Shows the date that stood here with the parts typed so far in place of its own.
     void ShowTyped(int year);
     void SelectPart(Section section);
+    void OpenCalendar();
     void GoToNextPart();
 
     QHash<Section, QString> m_typed;

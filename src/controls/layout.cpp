@@ -1,8 +1,13 @@
 #include "controls/layout.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QGroupBox>
 #include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 template <typename... Handlers>
@@ -76,6 +81,27 @@ QLabel* PlainLabel(const QString& text)
     label->setTextFormat(Qt::PlainText);
     return label;
 }
+
+/// Keeps a wrapped label as high as its text, also in a window that was given less height than its layout asks for.
+class WholeText : public QObject {
+public:
+    explicit WholeText(QLabel* label)
+        : QObject(label)
+        , m_label(label)
+    {
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange)
+            m_label->setMinimumHeight(m_label->heightForWidth(m_label->width()));
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QLabel* m_label;
+};
 
 QString WithoutMnemonic(QString text)
 {
@@ -184,6 +210,7 @@ void MakeInstructions(QLabel* label, const QString& text)
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     label->setSizePolicy(policy);
+    label->installEventFilter(new WholeText(label));
 }
 
 QLabel* heading(const QString& text)
@@ -211,12 +238,19 @@ void SetLabelOf(QLabel* label, QWidget* control)
             part->setAccessibleName(name);
 }
 
+double TwipsAPixel()
+{
+    constexpr double TwipsAStandardPixel = 15;
+    constexpr double StandardPoints = 9;
+    return TwipsAStandardPixel / std::max(1.0, QApplication::font().pointSizeF() / StandardPoints);
+}
+
 int TwipsToPixels(int twips)
 {
-    return twips / 15;
+    return int(twips / TwipsAPixel());
 }
 
 int PixelsToTwips(int pixels)
 {
-    return pixels * 15;
+    return int(std::lround(pixels * TwipsAPixel()));
 }

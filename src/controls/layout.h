@@ -59,6 +59,7 @@ QLabel* heading(const QString& text);
 /// Makes `label` the buddy and the accessible name of `control` (mnemonics and a closing colon left out of the name).
 void SetLabelOf(QLabel* label, QWidget* control);
 
-/// Twips (1/1440 inch) to logical pixels and back; 15 twips are a pixel.
+/// Twips to logical pixels and back. Told sizes are meant for the platform's standard font, where 15 twips are a pixel,
+/// and grow with the user's font, so that as much text fits.
 int TwipsToPixels(int twips);
 int PixelsToTwips(int pixels);

@@ -100,7 +100,7 @@ Answer Ask(const QString& text, Icon icon, Buttons buttons, const QString& title
 {
     if (gDoor)
         return gDoor->Message(text, icon, buttons, title);
-    Box box(text, icon, buttons, title.isEmpty() ? QGuiApplication::applicationDisplayName() : title, OwnerWindow());
+    Box box(text, icon, buttons, title.isEmpty() ? QLatin1String(ProgramTitle) : title, OwnerWindow());
     const bool waiting = QApplication::overrideCursor() != nullptr;
     if (waiting)
         QApplication::setOverrideCursor(Qt::ArrowCursor);

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+/// What stands in the title of a window that has none of its own.
+inline constexpr auto ProgramTitle = "Tavrin Inventory";
+
 enum class Icon { None, Critical, Question, Exclamation, Information };
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };

@@ -11,6 +11,11 @@ TextBox::TextBox(QWidget* parent)
     : QLineEdit(parent)
 {
     setMaxLength(std::numeric_limits<int>::max());
+    // A text longer than its box shows its start, except where somebody is typing.
+    QObject::connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!hasFocus())
+            setCursorPosition(0);
+    });
 }
 
 void TextBox::FocusAll()

@@ -49,7 +49,6 @@ int main(int argc, char** argv)
     qInstallMessageHandler(Collect);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("TavrinInventory"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
     QApplication::setQuitOnLastWindowClosed(false);
     testing::UnitTest::GetInstance()->listeners().Append(new EveryTest);
     return RUN_ALL_TESTS();

@@ -103,7 +103,6 @@ int main(int argc, char* argv[])
     DescribeScreen(folder.filePath(QStringLiteral("screen.json")));
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tavrin Inventory"));
     QGuiApplication::setWindowIcon(ProgramIcon(QStringLiteral("tavrin")));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     try {
