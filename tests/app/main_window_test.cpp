@@ -278,6 +278,6 @@ TEST_F(LoadTest, EveryPanelIsFitToShow)
 
 TEST_F(LoadTest, TheWindowFitsASmallScreen)
 {
-    EXPECT_LE(Window().minimumSizeHint().width(), 1024);
-    EXPECT_LE(Window().minimumSizeHint().height(), 700);
+    EXPECT_LE(Window().minimumSizeHint().width(), 900);
+    EXPECT_LE(Window().minimumSizeHint().height(), 500);
 }

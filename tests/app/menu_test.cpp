@@ -95,9 +95,9 @@ TEST_P(PanelEntryTest, ShowsItsPanelAlone)
     MainWindow& window = Window();
     window.Run(QLatin1String(GetParam().entry));
     QStringList visible;
-    for (const QWidget* panel : window.picBack->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-        if (panel->isVisible())
-            visible.append(panel->objectName());
+    for (const QWidget* widget : window.picBack->findChildren<QWidget*>())
+        if (dynamic_cast<const Panel*>(widget) && widget->isVisible())
+            visible.append(widget->objectName());
     EXPECT_EQ(visible, QStringList{GetParam().panel});
     EXPECT_EQ(Find<QWidget>(&window, GetParam().panel)->size(), window.picBack->size());
 }

@@ -11,6 +11,8 @@
 
 #include <QDateEdit>
 #include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
 
 namespace {
 
@@ -78,6 +80,22 @@ INSTANTIATE_TEST_SUITE_P(Orders, TypedDates,
         TypedDate{"bg_BG", "31.12.2023", LeapDay, {2023, 12, 31}},
         TypedDate{"ar_EG", "31/12/2023", July, {2023, 12, 31}},
         TypedDate{"sv_SE", "2023-01-31", LeapDay, {2023, 1, 31}}, TypedDate{"sv_SE", "20240229", July, {2024, 2, 29}}));
+
+TEST_F(Picker, TheWheelScrollsPastAndAltDownOpensTheCalendar)
+{
+    picker.SetValue(Given);
+    Shown(&picker);
+    Date()->setFocus();
+    QWheelEvent wheel(QPointF(5, 5), Date()->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Date(), &wheel);
+    EXPECT_EQ(picker.Value(), Given);
+    QTest::keyClick(Date(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_TRUE(QApplication::activePopupWidget());
+    EXPECT_EQ(picker.Value(), Given);
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+}
 
 TEST_F(Picker, UntickedMeansNoDate)
 {
