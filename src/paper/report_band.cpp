@@ -19,9 +19,11 @@ bool IsText(const ReportControl& control)
     return control.kind != ReportControlKind::Image && control.kind != ReportControlKind::Line;
 }
 
-bool ChangesHeight(const ReportControl& control)
+// A text that keeps to one line may still be set in a font that is taller than its control.
+bool ChangesHeight(const ReportControl& control, ReportFonts& fonts)
 {
-    return control.overflow == ReportOverflow::Wrap || control.collapses;
+    return control.overflow == ReportOverflow::Wrap || control.collapses
+        || fonts.At(control.font).LineHeight() > control.height;
 }
 
 QString FieldText(const ReportControl& control, int ordinal, const ReportBandContext& context)
@@ -49,8 +51,9 @@ Piece MakePiece(const ReportControl& control, int ordinal, const ReportBandConte
 {
     Piece piece{&control, {}, control.left * context.spread, control.width * context.spread, qreal(control.top),
         qreal(control.height)};
-    const bool matters = purpose == BandPurpose::Items || ChangesHeight(control);
-    if (!control.visible || !IsText(control) || !matters)
+    if (!control.visible || !IsText(control))
+        return piece;
+    if (purpose == BandPurpose::Height && !ChangesHeight(control, context.fonts))
         return piece;
     piece.block = FitText(TextOf(control, ordinal, context), control, piece.width, context.fonts);
     const qreal needed = static_cast<qreal>(piece.block.lines.size()) * piece.block.typeface->LineHeight();

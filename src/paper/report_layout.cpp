@@ -214,12 +214,22 @@ QString ReportLayout::PageNumberText(int index)
     return QObject::tr("Page %1 of %2").arg(index + 1).arg(PageCount());
 }
 
-// Every page takes at least one band, so that a band taller than the page ends too.
-ReportPage ReportLayout::Compose(int index, BandPurpose purpose)
+qreal ReportLayout::BodyEnd() const
 {
-    Cursor cursor = m_starts[static_cast<size_t>(index)];
-    const qreal end = Space().height() - m_report.Section(ReportSectionKind::PageFooter).height;
-    PageBuilder page;
+    return Space().height() - m_report.Section(ReportSectionKind::PageFooter).height;
+}
+
+// The totals of a group take its last line along to a new page.
+qreal ReportLayout::HeightKeptBelow(const Cursor& cursor)
+{
+    const Cursor next = After(cursor);
+    if (cursor.step != Step::Detail || next.step != Step::GroupFooter)
+        return 0;
+    return Band(ReportSectionKind::GroupFooter, next, {}, BandPurpose::Height).height;
+}
+
+ReportLayout::Cursor ReportLayout::AddTop(PageBuilder& page, Cursor cursor, BandPurpose purpose)
+{
     if (cursor.step == Step::ReportHeader) {
         page.Add(Band(ReportSectionKind::ReportHeader, cursor, {}, purpose));
         cursor = After(cursor);
@@ -227,31 +237,45 @@ ReportPage ReportLayout::Compose(int index, BandPurpose purpose)
     page.Add(Band(ReportSectionKind::PageHeader, cursor, {}, purpose));
     if (IsInsideGroup(cursor))
         page.Add(RepeatedTitles(cursor, purpose));
+    return cursor;
+}
+
+// Every page takes at least one band, so that a band taller than the page ends too.
+ReportLayout::Cursor ReportLayout::EndOfPage(const Cursor& start)
+{
+    PageBuilder page;
+    Cursor cursor = AddTop(page, start, BandPurpose::Height);
     for (bool empty = true; cursor.step != Step::End; cursor = After(cursor), empty = false) {
-        ReportBand band = Band(SectionAt(cursor.step), cursor, {}, purpose);
-        if (!empty && page.Bottom() + band.height > end)
+        ReportBand band = Band(SectionAt(cursor.step), cursor, {}, BandPurpose::Height);
+        if (!empty && page.Bottom() + band.height + HeightKeptBelow(cursor) > BodyEnd())
             break;
         page.Add(std::move(band));
     }
-    if (m_starts.size() == static_cast<size_t>(index) + 1)
-        m_starts.push_back(cursor);
-    if (purpose == BandPurpose::Items)
-        page.Place(Band(ReportSectionKind::PageFooter, cursor, PageNumberText(index), purpose), end);
-    return page.Take();
+    return cursor;
+}
+
+ReportPage ReportLayout::Compose(int index)
+{
+    const size_t page = static_cast<size_t>(index);
+    PageBuilder builder;
+    Cursor cursor = AddTop(builder, m_starts[page], BandPurpose::Items);
+    for (; cursor != m_starts[page + 1]; cursor = After(cursor))
+        builder.Add(Band(SectionAt(cursor.step), cursor, {}, BandPurpose::Items));
+    builder.Place(Band(ReportSectionKind::PageFooter, cursor, PageNumberText(index), BandPurpose::Items), BodyEnd());
+    return builder.Take();
 }
 
 bool ReportLayout::HasPage(int index)
 {
     while (static_cast<int>(m_starts.size()) <= index + 1 && !KnownPageCount())
-        Compose(static_cast<int>(m_starts.size()) - 1, BandPurpose::Height);
+        m_starts.push_back(EndOfPage(m_starts.back()));
     return index + 1 < static_cast<int>(m_starts.size());
 }
 
 ReportPage ReportLayout::Page(int index)
 {
-    if (index > 0)
-        HasPage(index - 1);
-    return Compose(index, BandPurpose::Items);
+    HasPage(index);
+    return Compose(index);
 }
 
 bool ReportLayout::CountOn(int most)

@@ -48,6 +48,8 @@ private:
         Step step = Step::ReportHeader;
         int parent = 0;
         int child = 0; ///< in a report without groups the row
+
+        bool operator==(const Cursor&) const = default;
     };
     class PageBuilder;
 
@@ -62,7 +64,13 @@ private:
     ReportBand Band(ReportSectionKind kind, const Cursor& cursor, const QString& pageNumber, BandPurpose purpose);
     ReportBand RepeatedTitles(const Cursor& cursor, BandPurpose purpose);
     QString PageNumberText(int index);
-    ReportPage Compose(int index, BandPurpose purpose);
+    qreal BodyEnd() const;
+    qreal HeightKeptBelow(const Cursor& cursor);
+    /// What stands at the top of a page that starts at `cursor`; returns what comes next.
+    Cursor AddTop(PageBuilder& page, Cursor cursor, BandPurpose purpose);
+    /// The one place where pages are broken: every output shows a page from its start to the next page's.
+    Cursor EndOfPage(const Cursor& start);
+    ReportPage Compose(int index);
 
     Report m_report;
     ReportPaper m_paper;

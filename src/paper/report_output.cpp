@@ -25,32 +25,31 @@ PageRange ChosenPages(const QPrinter& printer, ReportLayout& layout)
     return {std::min(printer.fromPage() - 1, last), std::min(std::max(printer.toPage(), printer.fromPage()) - 1, last)};
 }
 
-void PrintPages(ReportLayout& layout, QPrinter& printer, QPainter& painter)
-{
-    const PageRange pages = ChosenPages(printer, layout);
-    const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
-    const double scale = printer.resolution() / double(TwipsAnInch);
-    for (int i = pages.first; i <= pages.last; ++i) {
-        if (i > pages.first)
-            printer.newPage();
-        painter.save();
-        painter.scale(scale, scale);
-        layout.Paint(painter, layout.Page(backwards ? pages.first + pages.last - i : i));
-        painter.restore();
-    }
-}
-
-bool WritePages(ReportLayout& layout, QPdfWriter& writer)
+bool PaintPages(ReportLayout& layout, QPagedPaintDevice& device, PageRange pages, bool backwards)
 {
     QPainter painter;
-    if (!painter.begin(&writer))
+    if (!painter.begin(&device))
         return false;
-    for (int i = 0; layout.HasPage(i); ++i) {
-        if (i > 0)
-            writer.newPage();
-        layout.Paint(painter, layout.Page(i));
+    const double scale = device.logicalDpiX() / double(TwipsAnInch);
+    painter.scale(scale, scale);
+    for (int i = pages.first; i <= pages.last; ++i) {
+        if (i > pages.first)
+            device.newPage();
+        layout.Paint(painter, layout.Page(backwards ? pages.first + pages.last - i : i));
     }
     return painter.end();
+}
+
+bool PrintLayout(ReportLayout& layout, QPrinter& printer)
+{
+    printer.setDocName(layout.Design().title);
+    // The report's margins count from the edge of the sheet.
+    const bool wasFullPage = printer.fullPage();
+    printer.setFullPage(true);
+    const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
+    const bool taken = PaintPages(layout, printer, ChosenPages(printer, layout), backwards);
+    printer.setFullPage(wasFullPage);
+    return taken;
 }
 
 QPageLayout PdfPage(ReportPaper paper)
@@ -67,7 +66,7 @@ bool WritePdf(ReportLayout& layout, QIODevice& device)
     writer.setCreator(QStringLiteral("Tavrin Inventory"));
     writer.setPageLayout(PdfPage(layout.Paper()));
     writer.setResolution(TwipsAnInch);
-    return WritePages(layout, writer);
+    return PaintPages(layout, writer, {0, layout.PageCount() - 1}, false);
 }
 
 QByteArray NumberBehind(const QByteArray& text, const QByteArray& word)
@@ -132,19 +131,12 @@ bool CopyTo(QIODevice& from, const QString& path)
 
 bool PrintReport(ReportLayout& layout, QPrinter& printer)
 {
+    const ReportPaper paper = PaperOf(printer);
+    if (paper == layout.Paper())
+        return PrintLayout(layout, printer);
     ReportLayout printed(layout.Design(), layout.Paper());
-    printed.SetPaper(PaperOf(printer), layout.Design().margins);
-    printer.setDocName(layout.Design().title);
-    // The report's margins count from the edge of the sheet.
-    const bool wasFullPage = printer.fullPage();
-    printer.setFullPage(true);
-    QPainter painter;
-    const bool taken = painter.begin(&printer);
-    if (taken)
-        PrintPages(printed, printer, painter);
-    painter.end();
-    printer.setFullPage(wasFullPage);
-    return taken;
+    printed.SetPaper(paper, layout.Design().margins);
+    return PrintLayout(printed, printer);
 }
 
 bool SaveReportAsPdf(ReportLayout& layout, const QString& path)

@@ -6,8 +6,8 @@
 
 class QPrinter;
 
-/// Prints the pages that the print dialog chose on `printer`, laid out for its paper. False when the printer did not
-/// take the job.
+/// Prints the pages that the print dialog chose on `printer`: those of `layout`, or where `printer` holds other paper
+/// the report laid out anew for it. False when the printer did not take the job.
 bool PrintReport(ReportLayout& layout, QPrinter& printer);
 
 /// Writes the report as a PDF whose text can be searched, with its title and language. False when the file cannot be

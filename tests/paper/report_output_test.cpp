@@ -9,6 +9,8 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace {
 const ReportPaper Letter{12240, 15840};
 
@@ -16,6 +18,19 @@ QByteArray Bytes(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What a PDF shows: its pages and fonts, without the frame around them.
+QList<QByteArray> Streams(const QByteArray& pdf)
+{
+    QList<QByteArray> streams;
+    for (qsizetype at = pdf.indexOf("stream\n"); at >= 0; at = pdf.indexOf("stream\n", at)) {
+        const qsizetype end = pdf.indexOf("endstream", at);
+        streams.append(pdf.mid(at, end - at));
+        at = end + 9;
+    }
+    std::ranges::sort(streams);
+    return streams;
 }
 
 QByteArray Utf16(const QString& text)
@@ -76,6 +91,34 @@ TEST_F(ReportOutput, PrintsThePagesThatWereChosenOnThePrintersPaper)
     EXPECT_TRUE(Bytes(Path("printed.pdf")).contains("/Count 2"));
     EXPECT_EQ(layout.Paper(), ReportPaper()) << "the preview stays as it was";
     EXPECT_FALSE(printer.fullPage());
+}
+
+TEST_F(ReportOutput, PreviewPrinterAndPdfBreakTheSamePages)
+{
+    for (const int lines : {1, 36, 60})
+        for (const double points : {9.0, 14.0, 72.0}) {
+            Report report = TwoGroups(lines);
+            report.Control("Sum").Sized(points).overflow = ReportOverflow::Shrink;
+            report.Control("Line").Sized(points).overflow = ReportOverflow::Shrink;
+            ReportLayout preview(report, Letter);
+            int shown = 0;
+            for (int page = 0; preview.HasPage(page); ++page)
+                for (const ReportItem& item : preview.Page(page).items) {
+                    shown += item.control->name == "Line";
+                    EXPECT_LE(item.place.bottom(), Letter.height - 2 * 1440);
+                }
+            EXPECT_EQ(shown, 2 * lines);
+
+            QPrinter printer;
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(Path("printed.pdf"));
+            printer.setPageSize(QPageSize(QPageSize::Letter));
+            printer.setResolution(1440);
+            ReportLayout fresh(report, Letter);
+            ASSERT_TRUE(PrintReport(fresh, printer) && SaveReportAsPdf(preview, Path("saved.pdf")));
+            EXPECT_EQ(fresh.PageCount(), preview.PageCount());
+            EXPECT_EQ(Streams(Bytes(Path("printed.pdf"))), Streams(Bytes(Path("saved.pdf"))));
+        }
 }
 
 TEST_F(ReportOutput, PicturesThatCannotBeReadAreLeftOut)
