@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFontInfo>
 #include <QFrame>
 #include <QGroupBox>
 #include <QRegularExpression>
@@ -80,6 +81,14 @@ QLabel* PlainLabel(const QString& text)
     auto* label = new QLabel(text);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+/// Fewer in a larger font.
+double TwipsAPixel()
+{
+    constexpr double TwipsAStandardPixel = 15;
+    constexpr double StandardFontPixels = 12;
+    return TwipsAStandardPixel / std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / StandardFontPixels);
 }
 
 /// Keeps a wrapped label as high as its text, also in a window that was given less height than its layout asks for.
@@ -236,13 +245,6 @@ void SetLabelOf(QLabel* label, QWidget* control)
     for (QWidget* part : control->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
         if (part->focusPolicy() & Qt::TabFocus)
             part->setAccessibleName(name);
-}
-
-double TwipsAPixel()
-{
-    constexpr double TwipsAStandardPixel = 15;
-    constexpr double StandardPoints = 9;
-    return TwipsAStandardPixel / std::max(1.0, QApplication::font().pointSizeF() / StandardPoints);
 }
 
 int TwipsToPixels(int twips)
