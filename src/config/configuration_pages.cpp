@@ -6,6 +6,7 @@
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "paper/report_picture.h"
+#include "sql/schema.h"
 
 #include <QGuiApplication>
 #include <QStyle>
@@ -178,7 +179,8 @@ frmWizConfig_Tax::frmWizConfig_Tax(ConfigurationWizard& wizard, QWidget* parent)
         stretch(),
     }));
 
-    txtName->setText(wizard.ConfigTaxName);
+    txtName->setMaxLength(LongestName);
+    txtName->ShowWhole(wizard.ConfigTaxName);
     txtPercentage->setText(wizard.ConfigTaxPercent);
     txtSalesTaxName2->setText(wizard.ConfigSecondTaxName);
     chkHideTaxOnInvoice->setChecked(wizard.ConfigHideTax);

@@ -34,6 +34,12 @@ void TextBox::focusOutEvent(QFocusEvent* event)
         setSelection(start, length);
 }
 
+void TextBox::ShowWhole(const QString& text)
+{
+    setMaxLength(qMax(maxLength(), int(text.size())));
+    setText(text);
+}
+
 MultiLineTextBox::MultiLineTextBox(QWidget* parent)
     : QPlainTextEdit(parent)
 {
@@ -53,6 +59,12 @@ void MultiLineTextBox::SetText(const QString& text)
     m_crLf = text.contains(QLatin1String("\r\n"));
     setPlainText(m_textAsSet);
     document()->setModified(false);
+}
+
+void MultiLineTextBox::ShowWhole(const QString& text)
+{
+    SetMaxLength(qMax(m_maxLength, int(text.size())));
+    SetText(text);
 }
 
 void MultiLineTextBox::SetMaxLength(int length)

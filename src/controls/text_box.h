@@ -12,6 +12,8 @@ public:
 
     /// Focuses the box with all its text selected.
     void FocusAll();
+    /// Shows a stored text whole. The limit is for what the user enters: the next save would store a longer text cut.
+    void ShowWhole(const QString& text);
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
@@ -25,6 +27,8 @@ public:
     /// The text as it was set or typed; line ends that came in as CR LF go out so.
     QString Text() const;
     void SetText(const QString& text);
+    /// As that of TextBox.
+    void ShowWhole(const QString& text);
     /// 0 for no limit. A longer text set by code is cut.
     void SetMaxLength(int length);
     int MaxLength() const { return m_maxLength; }

@@ -18,20 +18,6 @@ QString PriceOf(qint32 itemId, const QString& priceListId)
     return FormatCurrency(price.Eof() ? Currency() : price["price"].ToCurrency());
 }
 
-// The limit is for what the user enters. A stored text beyond it is shown whole, as the next save would store it cut:
-// "$123,456.78" as 123456.7.
-void ShowWhole(TextBox* box, const QString& text)
-{
-    box->setMaxLength(qMax(box->maxLength(), int(text.size())));
-    box->setText(text);
-}
-
-void ShowWhole(MultiLineTextBox* box, const QString& text)
-{
-    box->SetMaxLength(qMax(box->MaxLength(), int(text.size())));
-    box->SetText(text);
-}
-
 } // namespace
 
 void frmItemDetails::FillLists()
@@ -106,13 +92,13 @@ void frmItemDetails::ShowItem(const Recordset& item)
     SelectComboByData(cboVendor, item["VendorID"].ToLong());
     SelectComboByData(cboTaxRate, item["TaxRateID"].ToLong());
 
-    ShowWhole(m_noInStock, item["NoInStock"].ToText());
-    ShowWhole(m_reorderLevel, item["ReorderLevel"].ToText());
-    ShowWhole(m_minStockLevel, item["MinStockLevel"].ToText());
-    ShowWhole(m_description, NullToText(item["description"]));
+    m_noInStock->ShowWhole(item["NoInStock"].ToText());
+    m_reorderLevel->ShowWhole(item["ReorderLevel"].ToText());
+    m_minStockLevel->ShowWhole(item["MinStockLevel"].ToText());
+    m_description->ShowWhole(NullToText(item["description"]));
     m_name->setText(NullToText(item["name"]));
     const Value returns = item["WarrantyReturns"];
-    ShowWhole(m_warrantyReturns, returns.IsNull() ? QStringLiteral("0") : returns.ToText());
+    m_warrantyReturns->ShowWhole(returns.IsNull() ? QStringLiteral("0") : returns.ToText());
 
     ShowStorage(NullToText(item["LocationID"]));
 }
@@ -129,5 +115,5 @@ void frmItemDetails::ShowStorage(const QString& locationId)
 void frmItemDetails::ShowPrices()
 {
     for (const PriceBox& price : m_prices)
-        ShowWhole(price.box, PriceOf(gEditItemId, price.box->property("Tag").toString()));
+        price.box->ShowWhole(PriceOf(gEditItemId, price.box->property("Tag").toString()));
 }

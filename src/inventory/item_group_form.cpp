@@ -8,6 +8,7 @@
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "records/lists.h"
+#include "sql/schema.h"
 
 namespace {
 constexpr int ScrollBarTwips = 400;
@@ -39,6 +40,7 @@ frmItemGroup::frmItemGroup(QWidget* parent)
         row({cmdRemove, stretch()}),
         row({stretch(), cmdOk, cmdCancel}),
     }));
+    txtName->setMaxLength(LongestName);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
     resize(480, 480);
@@ -70,7 +72,7 @@ void frmItemGroup::ShowStoredGroup()
     const Recordset group = gConnection->Execute(Sql("SELECT id, name FROM itemgroup WHERE id = {gEditItemGroupId}")
                                                      .Number("gEditItemGroupId", gEditItemGroupId));
     if (!group.Eof())
-        txtName->setText(NullToText(group["name"]));
+        txtName->ShowWhole(NullToText(group["name"]));
     RefreshItemGroupList(1, 0);
 }
 

@@ -3,8 +3,7 @@
 void ShowTexts(const PartyTexts& texts, const PartyFields& fields)
 {
     for (const PartyField& field : fields) {
-        field.box->setText(TextOf(texts, field.column));
-        field.box->home(false);
+        field.box->ShowWhole(TextOf(texts, field.column));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "controls/layout.h"
 #include "db/connection.h"
 #include "db/new_row.h"
+#include "sql/schema.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ frmVendor::frmVendor(QWidget* parent)
         txtNotes,
         row({stretch(), cmdOk, cmdCancel}),
     }));
+    txtBusinessName->setMaxLength(LongestName);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
     resize(FormSize);

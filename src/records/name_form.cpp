@@ -1,6 +1,7 @@
 #include "records/name_form.h"
 
 #include "controls/layout.h"
+#include "sql/schema.h"
 
 NameForm::NameForm(const KeyTable& table, qint32& currentId, QWidget* parent)
     : Form(table.form, table.formTitle, parent)
@@ -9,6 +10,7 @@ NameForm::NameForm(const KeyTable& table, qint32& currentId, QWidget* parent)
     , m_fields(fields({{tr("Name:"), txtName}}))
     , m_buttons(row({stretch(), cmdOK, cmdCancel}))
 {
+    txtName->setMaxLength(LongestName);
     cmdOK->setText(tr("OK"));
     cmdCancel->setText(tr("&Cancel"));
     setLayout(column({
@@ -36,7 +38,7 @@ void NameForm::ShowStoredRow()
 
 void NameForm::ShowRow(const Recordset& row)
 {
-    txtName->setText(NullToText(row["name"]));
+    txtName->ShowWhole(NullToText(row["name"]));
 }
 
 void NameForm::AddField(const QString& label, QWidget* field)

@@ -23,9 +23,6 @@ TableDefinition Table(const char* name, const QList<ColumnDefinition>& columns)
     return {QString::fromLatin1(name), columns};
 }
 
-/// The longest text of a lookup column: what an import writes there may come from anywhere.
-constexpr int LongestName = 255;
-
 const auto AddressNames = {"Address1", "Address2", "City", "State", "PostCode", "Country", "Phone", "Fax", "Email"};
 
 TableDefinition CustomerTable()

@@ -7,6 +7,9 @@
 /// The tables of the file: kinds, lengths, defaults and indexes. The dialect reads column kinds from here to give
 /// literals their type; tools/make-database makes the file from here. The program itself never creates a table.
 
+/// The longest text of a lookup column: what an import writes there may come from anywhere.
+inline constexpr int LongestName = 255;
+
 enum class ColumnKind { AutoNumber, Id, Text, Memo, Long, Double, Money, Boolean, Date };
 
 struct ColumnDefinition {
