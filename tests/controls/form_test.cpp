@@ -12,6 +12,7 @@
 
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -179,6 +180,33 @@ TEST(Panels, EnterRunsTheirDefaultButton)
     CheckForm(*panel);
     EXPECT_EQ(panel->Title(), "Sample");
     EXPECT_TRUE(panel->TopIcon()->isVisible());
+}
+
+TEST(Panels, TakeNoClickOfTheGestureThatBroughtThem)
+{
+    QWidget window;
+    Panel panel("picSample", &window);
+    panel.setLayout(new QVBoxLayout);
+    auto* button = new QPushButton("Delete");
+    panel.layout()->addWidget(button);
+    int clicks = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&clicks] { ++clicks; });
+    Shown(&window);
+    const QPoint middle = button->rect().center();
+    // The double click that Qt makes of the second press, though the first one was not on this panel; and a third
+    // click.
+    QMouseEvent second(QEvent::MouseButtonDblClick, middle, button->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton,
+        Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &second);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 0);
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+    QCoreApplication::sendEvent(button, &second);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2) << "a double click of its own";
 }
 
 TEST(MessageBoxes, AYesNoQuestionMustBeAnswered)

@@ -68,12 +68,10 @@ TEST_F(AddOrderItem, OpensWithAllItemsAtThePricesOfTheInvoicesList)
         (QStringList{"D-1", "Drill", "for O'Brien", "2", "$80.00"}));
     SelectItem(*form, "Glue");
     EXPECT_EQ(form->txtItemPrice->text(), "$0.00") << "an item without a price in the list";
-}
-
-TEST_F(AddOrderItem, IsLaidOutForItsUser)
-{
-    frmAddOrderItem form(1, nullptr);
-    CheckForm(form);
+    ClickRow(form->gItems, 1);
+    Press(form->gItems, Qt::Key_Down);
+    EXPECT_EQ(form->txtItemPrice->text(), form->gItems->TextMatrix(2, 4)) << "the price follows the arrow keys";
+    CheckForm(*form);
 }
 
 TEST_F(AddOrderItem, CategoriesLeadToTheirSubCategories)
@@ -122,26 +120,6 @@ TEST_F(AddOrderItem, ATypedPriceOverridesTheListAndEnterAddsTheItem)
     EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Money("10.25"));
 }
 
-TEST_F(AddOrderItem, ThePriceFollowsTheArrowKeys)
-{
-    const auto form = Form();
-    ClickRow(form->gItems, 1);
-    Press(form->gItems, Qt::Key_Down);
-    EXPECT_EQ(form->txtItemPrice->text(), form->gItems->TextMatrix(2, 4));
-}
-
-TEST_F(AddOrderItem, BadNumbersCountAsOnePieceAtNoPrice)
-{
-    const auto form = Form();
-    SelectItem(*form, "Drill");
-    Type(form->txtQuantityToAdd, "abc");
-    Type(form->txtItemPrice, "dear");
-    Click(form->cmdOk);
-    EXPECT_EQ(frmAddOrderItem::SelectedItemID, drill);
-    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 1);
-    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Currency());
-}
-
 TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
 {
     ScriptedAnswers answers;
@@ -158,6 +136,16 @@ TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
     DoubleClickRow(form->gItems, form->gItems->Row());
     EXPECT_EQ(frmAddOrderItem::SelectedItemID, drill);
     EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 2);
+}
+
+TEST_F(AddOrderItem, BadNumbersCountAsOnePieceAtNoPrice)
+{
+    const auto form = Form();
+    Type(form->txtQuantityToAdd, "abc");
+    Type(form->txtItemPrice, "dear");
+    Click(form->cmdOk);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 1);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Currency());
 }
 
 TEST_F(AddOrderItem, CancelSelectsNothingAndAnEmptyListItemNought)

@@ -3,9 +3,21 @@
 #include "invoice_page_fixture.h"
 #include "support/form_check.h"
 
+#include <QMenuBar>
+#include <QTest>
+
 namespace {
 
-class Page : public InvoicePageTest { };
+class Page : public InvoicePageTest {
+protected:
+    bool SaysThatItIsGone() const
+    {
+        for (const QLabel* label : page->findChildren<QLabel*>())
+            if (label->isVisible() && label->text().startsWith("This invoice no longer exists"))
+                return true;
+        return false;
+    }
+};
 
 TEST_F(Page, OwesItsUserWhatEveryScreenOwes)
 {
@@ -13,48 +25,34 @@ TEST_F(Page, OwesItsUserWhatEveryScreenOwes)
     CheckScreen(page, page->Controls(), {"lblLabels_26", "lblSecondTax"});
 }
 
-TEST_F(Page, ANewInvoiceHasItsRowAtOnceAndNoCustomer)
+TEST_F(Page, ANewInvoiceIsEmptyAndTheOneThatNewInvoiceShowsAgain)
 {
-    Run("UPDATE nextinvoiceno SET invoiceno = 123456");
     page->txtBarcode->setText("kept");
     page->txtNotes->SetText("old");
+    page->dtShippedDate->SetValue(QDateTime(QDate(2001, 2, 3), {}));
     OpenNew();
     EXPECT_EQ(page->Title(), "New Invoice");
-    EXPECT_EQ(page->lblInvoiceNo->text(), "123456");
-    EXPECT_EQ(Rows("SELECT id, CustomerID, InvoiceNo, SubmittedDate, StockReturned, Paid, Notes FROM invoice"),
-        Table({{QString::number(OpenInvoice::gCurrentInvoiceId), "NULL", "123456", "2026-03-14 10:30:00", "0", "NULL",
-            "NULL"}}));
-    EXPECT_EQ(Count("customer"), 0);
-    EXPECT_EQ(page->txtNotes->Text(), "");
-    EXPECT_EQ(page->txtBarcode->text(), "kept");
+    EXPECT_EQ(page->lblInvoiceNo->text(), "00001");
+    EXPECT_EQ(page->txtNotes->Text() + page->txtBarcode->text(), "kept");
     EXPECT_TRUE(page->txtFirstname->hasFocus());
-    EXPECT_EQ(Single("SELECT invoiceno FROM nextinvoiceno").toDouble(), 123456);
-}
+    EXPECT_EQ(page->dtShippedDate->Value(), std::nullopt);
+    Click(Find<QCheckBox>(page, "dtShippedDate_check"));
+    EXPECT_EQ(page->dtShippedDate->Value()->date(), QDate(2026, 3, 14)) << "a tick starts from today";
 
-TEST_F(Page, AnInvoiceLeftOpenIsTheOneThatNewInvoiceShowsAgain)
-{
-    OpenNew();
     const qint32 left = OpenInvoice::gCurrentInvoiceId;
     page->hide();
-    Open(OpenInvoice::gCurrentInvoiceId);
+    Open(left);
     EXPECT_EQ(page->Title(), "Edit Invoice");
     EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, left);
     EXPECT_EQ(Count("invoice"), 1);
 }
 
-TEST_F(Page, AnInvoiceThatWasNeverSavedOpensWithoutACustomer)
-{
-    OpenNew();
-    const qint32 unsaved = OpenInvoice::gCurrentInvoiceId;
-    OpenInvoice::gCurrentCustomerId = 99;
-    Open(unsaved);
-    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
-}
-
 TEST_F(Page, AnOldInvoiceComesBackAsItWasSaved)
 {
+    PriceListRow("Alpha");
     const int trade = PriceListRow("Trade");
-    const int ada = Customer("Ada", "O'Byron").Business("B & Sons").Discount(2.5).PriceList(trade).Add();
+    const QString longName = QString("B & Sons ").repeated(20);
+    const int ada = Customer("Ada", "O'Byron").Business(longName).Discount(2.5).PriceList(trade).Add();
     const int invoice = Invoice(ada)
                             .No("00042")
                             .Date(QDate(2025, 7, 4))
@@ -68,10 +66,9 @@ TEST_F(Page, AnOldInvoiceComesBackAsItWasSaved)
     page->txtAmountPayed->setText("5");
     Open(invoice);
 
-    EXPECT_EQ(page->txtLastname->text() + page->txtBusinessName->text(), "O'ByronB & Sons");
+    EXPECT_EQ(page->txtLastname->text() + page->txtBusinessName->text(), "O'Byron" + longName);
+    EXPECT_EQ(page->txtBusinessName->cursorPosition(), 0) << "a long text shows its beginning";
     EXPECT_EQ(page->txtDiscount->text(), "2.5");
-    EXPECT_EQ(page->cboPriceList->Text(), "Trade");
-    EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Trade");
     EXPECT_EQ(page->lblInvoiceNo->text(), "00042");
     EXPECT_EQ(page->lblInvoiceDate->Value()->date(), QDate(2025, 7, 4));
     EXPECT_EQ(page->dtShippedDate->Value()->date(), QDate(2025, 7, 9));
@@ -79,43 +76,67 @@ TEST_F(Page, AnOldInvoiceComesBackAsItWasSaved)
     EXPECT_EQ(page->txtNotes->Text(), "two\nlines");
     EXPECT_EQ(page->cboPaymentMethod->Text(), "Cash");
     EXPECT_EQ(page->txtAmountPayed->text(), "");
-    EXPECT_EQ(
-        GridRows(page->gNewInvoice), (QList<QStringList>{{"3", "S-04", "Screws", "$9.90", "VAT (17.5%)", "$34.90"}}));
+    const QList<QStringList> lines{{"3", "S-04", "Screws", "$9.90", "VAT (17.5%)", "$34.90"}};
+    EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Trade");
+    EXPECT_EQ(GridRows(page->gNewInvoice), lines);
     EXPECT_EQ(page->lblTotal->text(), "$34.90");
+
+    Pick(page->cboPriceList, "Alpha");
+    EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Alpha");
+    EXPECT_EQ(GridRows(page->gNewInvoice), lines) << "the list decides about lines to come";
 }
 
-TEST_F(Page, ACustomerWithoutPriceListOrRowShowsTheDefaultList)
+TEST_F(Page, AnInvoiceThatIsGoneLeavesThePageAsItWasAndIsSaid)
 {
-    PriceListRow("Alpha");
+    Item("Screws").Barcode("1").Stock(9).Add();
     const int ada = Customer("Ada", "Byron").Add();
-    Run("UPDATE customer SET PriceListID = NULL, Discount = NULL");
     Open(Invoice(ada).Add());
-    EXPECT_EQ(page->cboPriceList->SelectedData(), 1);
-    EXPECT_EQ(page->txtDiscount->text(), "0");
-    page->cboPriceList->SetListIndex(0);
-    page->LoadCustomerDetailsIntoInvoice(4711);
-    EXPECT_EQ(page->txtFirstname->text(), "");
-    EXPECT_EQ(page->cboPriceList->SelectedData(), 1);
-}
-
-TEST_F(Page, AnInvoiceThatIsGoneLeavesThePageAsItWas)
-{
-    Open(Invoice(Customer("Ada", "Byron").Add()).Add());
+    EXPECT_FALSE(SaysThatItIsGone());
+    Run("DELETE FROM invoice");
+    Scan("1");
+    EXPECT_TRUE(SaysThatItIsGone());
+    Open(Invoice(ada).Add());
+    EXPECT_FALSE(SaysThatItIsGone());
     Run("DELETE FROM invoice");
     Open(OpenInvoice::gCurrentInvoiceId);
-    EXPECT_EQ(page->Title(), "Edit Invoice");
-    EXPECT_EQ(page->txtFirstname->text(), "Ada");
+    EXPECT_EQ(page->Title() + page->txtFirstname->text(), "Edit InvoiceAda");
+    EXPECT_TRUE(SaysThatItIsGone());
 }
 
-TEST_F(Page, AnotherPriceListChangesTheTitleAndNoLine)
+TEST_F(Page, OnlyWhatWasTypedAndNotLeftIsSavedBeforeAnotherInvoiceShows)
 {
-    PriceListRow("Trade");
-    const int invoice = Invoice(Customer("Ada", "Byron").Add()).Add();
-    Line(invoice, Item("Screws").Price("Trade", "1").Add(), 1, "9.99");
-    Open(invoice);
-    Pick(page->cboPriceList, "Trade");
-    EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Trade");
-    EXPECT_EQ(GridRows(page->gNewInvoice).constFirst().at(3), "$9.99");
+    OpenNew();
+    page->SaveWhatIsBeingTyped();
+    EXPECT_EQ(Count("customer"), 0) << "a second New Invoice adds no nameless customer";
+    Type(page->txtFirstname, "Ada");
+    page->SaveWhatIsBeingTyped();
+    EXPECT_EQ(Single("SELECT FirstName FROM customer"), "Ada");
+    Run("UPDATE customer SET FirstName = 'Grace'");
+    page->SaveWhatIsBeingTyped();
+    EXPECT_EQ(Single("SELECT FirstName FROM customer"), "Grace") << "saved already";
+    Type(page->txtNotes, "Gift");
+    page->SaveWhatIsBeingTyped();
+    EXPECT_EQ(Single("SELECT Notes FROM invoice"), "Gift");
+}
+
+TEST_F(Page, AnAccessKeyLeavesTheControlThatHasTheFocusAndGoesBeforeTheMenus)
+{
+    auto* menus = new QMenuBar(&window);
+    menus->addMenu("&Reports");
+    menus->show();
+    OpenNew();
+    Type(page->txtFirstname, "Ada");
+    ScriptedAnswers answers;
+    for (int time = 0; time < 2; ++time)
+        answers.Expect("Clear customer details?", Icon::None, Buttons::YesNo, Answer::No);
+    for (int time = 0; time < 2; ++time) {
+        page->txtLastname->setFocus();
+        Type(page->txtLastname, QString::number(time));
+        Press(page->txtLastname, Qt::Key_R, Qt::AltModifier);
+        EXPECT_EQ(Single("SELECT LastName FROM customer"), QString::number(time));
+        EXPECT_EQ(page->txtLastname->text(), QString::number(time));
+        QTest::qWait(150); // Qt shows the button pressed for a tenth of a second before it clicks
+    }
 }
 
 } // namespace

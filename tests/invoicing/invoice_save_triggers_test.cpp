@@ -8,7 +8,6 @@ struct Typed {
     const char* control;
     const char* text;
     const char* column;
-    const char* stored;
 };
 void PrintTo(const Typed& typed, std::ostream* out)
 {
@@ -24,54 +23,41 @@ class TextTriggers : public SaveTriggers, public ::testing::WithParamInterface<T
 
 TEST_P(TextTriggers, WriteThroughWhenTheFocusLeaves)
 {
-    const auto& [control, text, column, stored] = GetParam();
+    const auto& [control, text, column] = GetParam();
     OpenNew();
     auto* box = Find<QWidget>(page, control);
-
     Type(box, text);
-    EXPECT_NE(Stored(column), stored);
+    EXPECT_NE(Stored(column), text);
     Tab();
-    EXPECT_EQ(Stored(column), stored);
+    EXPECT_EQ(Stored(column), text);
 
     // The row exists by now, so the next leaving updates it.
     Type(box, "");
-    Type(box, text);
+    Type(box, "7.5");
     BackTab();
-    EXPECT_EQ(Stored(column), stored);
+    EXPECT_EQ(Stored(column), "7.5");
     EXPECT_EQ(Count("customer"), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, TextTriggers,
-    ::testing::Values(Typed{"txtFirstname", "Zoë", "FirstName FROM customer", "Zoë"},
-        Typed{"txtLastname", "O'Brien {first}", "LastName FROM customer", "O'Brien {first}"},
-        Typed{"txtBusinessName", "'Quote''s'", "BusinessName FROM customer", "'Quote''s'"},
-        Typed{"txtAddress1", "1 Quay", "Address1 FROM customer", "1 Quay"},
-        Typed{"txtAddress2", "Flat #3", "Address2 FROM customer", "Flat #3"},
-        Typed{"txtCity", "Cork", "City FROM customer", "Cork"}, Typed{"txtState", "TX", "State FROM customer", "TX"},
-        Typed{"txtPostcode", "01234", "PostCode FROM customer", "01234"},
-        Typed{"txtCountry", "Ireland", "Country FROM customer", "Ireland"},
-        Typed{"txtPhone", "555 0100", "Phone FROM customer", "555 0100"},
-        Typed{"txtFax", "555 0101", "Fax FROM customer", "555 0101"},
-        Typed{"txtEmail", "a@b.example", "Email FROM customer", "a@b.example"},
-        Typed{"txtDiscount", "12.5", "Discount FROM customer", "12.5"},
-        Typed{"txtNotes", "It's urgent", "Notes FROM invoice", "It's urgent"},
-        Typed{"lblInvoiceNo", "A'17", "InvoiceNo FROM invoice", "A'17"}));
+    ::testing::Values(Typed{"txtFirstname", "Zoë", "FirstName FROM customer"},
+        Typed{"txtLastname", "O'Brien", "LastName FROM customer"},
+        Typed{"txtBusinessName", "B & Sons", "BusinessName FROM customer"},
+        Typed{"txtAddress1", "1 Quay", "Address1 FROM customer"},
+        Typed{"txtAddress2", "Flat #3", "Address2 FROM customer"}, Typed{"txtCity", "Cork", "City FROM customer"},
+        Typed{"txtState", "TX", "State FROM customer"}, Typed{"txtPostcode", "01234", "PostCode FROM customer"},
+        Typed{"txtCountry", "Ireland", "Country FROM customer"}, Typed{"txtPhone", "555 0100", "Phone FROM customer"},
+        Typed{"txtFax", "555 0101", "Fax FROM customer"}, Typed{"txtEmail", "a@b.example", "Email FROM customer"},
+        Typed{"txtDiscount", "12.5", "Discount FROM customer"}, Typed{"txtNotes", "It's urgent", "Notes FROM invoice"},
+        Typed{"lblInvoiceNo", "A'17", "InvoiceNo FROM invoice"}));
 
-TEST_F(SaveTriggers, ADiscountThatIsNoNumberBecomesZero)
-{
-    OpenNew();
-    Type(page->txtDiscount, "ten");
-    Tab();
-    EXPECT_EQ(page->txtDiscount->text(), "0");
-    EXPECT_EQ(Stored("Discount FROM customer").toDouble(), 0);
-}
-
-TEST_F(SaveTriggers, ListsAreSavedWhenTheFocusLeavesThem)
+TEST_F(SaveTriggers, ListsAndTicksAreSavedWhenTheFocusLeavesThemAndNotBefore)
 {
     const int trade = PriceListRow("Trade");
     OpenNew();
-    Type(page->txtFirstname, "Ada");
+    Type(page->txtDiscount, "ten");
     page->cboPriceList->setFocus();
+    EXPECT_EQ(page->txtDiscount->text(), "0") << "no number";
     Pick(page->cboPriceList, "Trade");
     EXPECT_EQ(Stored("PriceListID FROM customer"), "1");
     page->cboPaymentMethod->setFocus();
@@ -80,11 +66,6 @@ TEST_F(SaveTriggers, ListsAreSavedWhenTheFocusLeavesThem)
     EXPECT_EQ(Stored("PaymentMethod FROM invoice"), "N/A");
     Tab();
     EXPECT_EQ(Stored("PaymentMethod FROM invoice"), "Cash");
-}
-
-TEST_F(SaveTriggers, ATickIsSavedWhenTheFocusLeavesItsBoxAndNotBefore)
-{
-    OpenNew();
     page->txtCity->setFocus();
     for (auto [box, column] :
         {std::pair(page->chkPaid, "Paid"), std::pair(page->chkWarrantyInvoice, "WarrantyInvoice")}) {
@@ -99,17 +80,15 @@ TEST_F(SaveTriggers, ATickIsSavedWhenTheFocusLeavesItsBoxAndNotBefore)
 TEST_F(SaveTriggers, ADateIsSavedAsSoonAsItChangesAndNoShippingDateIsNull)
 {
     OpenNew();
-    EXPECT_EQ(Stored("SubmittedDate FROM invoice"), "2026-03-14 10:30:00");
     auto* date = Find<QDateEdit>(page, "lblInvoiceDate_date");
     auto* shipped = Find<QCheckBox>(page, "dtShippedDate_check");
-
     date->setFocus();
     date->setSelectedSection(QDateTimeEdit::DaySection);
     Press(date, Qt::Key_Up);
     EXPECT_EQ(Stored("SubmittedDate FROM invoice"), "2026-03-15 00:00:00");
     EXPECT_EQ(Stored("ShippedDate FROM invoice"), "NULL");
     Click(shipped);
-    EXPECT_TRUE(Stored("ShippedDate FROM invoice").startsWith("20"));
+    EXPECT_EQ(Stored("ShippedDate FROM invoice"), "2026-03-14 00:00:00");
     Click(shipped);
     EXPECT_EQ(Stored("ShippedDate FROM invoice"), "NULL");
 }
@@ -143,7 +122,6 @@ TEST_F(SaveTriggers, ADiscountThatTheStatementCannotTakeEndsTheProgramBeforeTheI
     page->txtDiscount->setText("$5");
     Tab();
     EXPECT_TRUE(end.Ended());
-    EXPECT_EQ(Stored("InvoiceNo FROM invoice"), "00001");
     Click(page->cmdCloseInvoice);
     EXPECT_EQ(Stored("InvoiceNo FROM invoice"), "00001");
     EXPECT_EQ(timesLeft, 0);

@@ -1,0 +1,80 @@
+#include "invoicing/open_invoice.h"
+
+#include "base/clock.h"
+#include "invoicing/add_order_line.h"
+#include "support/temporary_database.h"
+
+namespace {
+
+class OpenInvoices : public DatabaseTest {
+protected:
+    InvoiceCustomer Ada(const QString& lastName) const
+    {
+        return {{{"FirstName", "Ada"}, {"LastName", lastName}}, "2.5", 1};
+    }
+    InvoiceFields Fields() const
+    {
+        return {"A'17", QDate(2025, 7, 4), QDate(2025, 7, 9), true, true, "Cash", "It's urgent", "$1.00"};
+    }
+};
+
+TEST_F(OpenInvoices, HaveTheirRowAtOnceAndTheirCustomerWithTheFirstSave)
+{
+    Run("UPDATE nextinvoiceno SET invoiceno = 123456");
+    OpenInvoice::gCurrentCustomerId = 99;
+    EXPECT_EQ(OpenInvoice::Create(Now()), "123456");
+    EXPECT_EQ(Rows("SELECT id, CustomerID, InvoiceNo, SubmittedDate, StockReturned, Paid, Notes FROM invoice"),
+        Table({{QString::number(OpenInvoice::gCurrentInvoiceId), "NULL", "123456", "2026-03-14 10:30:00", "0", "NULL",
+            "NULL"}}));
+    EXPECT_EQ(Single("SELECT invoiceno FROM nextinvoiceno").toDouble(), 123456) << "only read";
+    EXPECT_TRUE(OpenInvoice::FindCustomer());
+    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
+
+    OpenInvoice::Save(Ada("O'Brien {first}"), Fields());
+    OpenInvoice::Save(Ada("'Quote''s'"), Fields());
+    EXPECT_EQ(Rows("SELECT id, FirstName, LastName, Discount FROM customer"),
+        Table({{QString::number(OpenInvoice::gCurrentCustomerId), "Ada", "'Quote''s'", "2.5"}}));
+    EXPECT_EQ(Rows("SELECT CustomerID, SubmittedDate, ShippedDate, Total2ndTax FROM invoice"),
+        Table({{QString::number(OpenInvoice::gCurrentCustomerId), "2025-07-04 00:00:00", "2025-07-09 00:00:00",
+            "$1.00"}}));
+    const InvoiceFields loaded = OpenInvoice::Load();
+    EXPECT_EQ(loaded.invoiceNo + loaded.paymentMethod + loaded.notes, "A'17CashIt's urgent");
+    EXPECT_EQ(loaded.submitted, QDate(2025, 7, 4));
+    EXPECT_EQ(loaded.shipped, QDate(2025, 7, 9));
+    EXPECT_TRUE(loaded.isPaid && loaded.isWarranty);
+}
+
+TEST_F(OpenInvoices, ShowTheFirstListAndNoDiscountWhereTheCustomerTellsNone)
+{
+    const int ada = Customer("Ada", "Byron").Add();
+    Run("UPDATE customer SET PriceListID = NULL, Discount = NULL");
+    for (const auto& [id, name] : {std::pair(ada, "Ada"), std::pair(4711, "")}) {
+        const InvoiceCustomer customer = OpenInvoice::LoadCustomer(id);
+        EXPECT_EQ(TextOf(customer.texts, "FirstName"), name);
+        EXPECT_EQ(customer.discount, "0");
+        EXPECT_EQ(customer.priceListId, 1);
+    }
+}
+
+TEST_F(OpenInvoices, TellWhoFinishesSecondThatANumberWasGivenTwice)
+{
+    const auto finishesAs = [this](const char* nextNumber, const char* other, const char* own) {
+        OpenInvoice::Create(Now());
+        Run(QStringLiteral("UPDATE invoice SET InvoiceNo = '%1' WHERE id = %2")
+                .arg(own)
+                .arg(OpenInvoice::gCurrentInvoiceId));
+        Invoice(1).No(other).Add();
+        Run(QStringLiteral("UPDATE nextinvoiceno SET invoiceno = %1").arg(nextNumber));
+        const QString taken = OpenInvoice::Finish();
+        EXPECT_FALSE(OpenInvoice::IsOpen());
+        Run("UPDATE nextinvoiceno SET invoiceno = 1");
+        Run("DELETE FROM invoice");
+        return taken;
+    };
+    EXPECT_EQ(finishesAs("2", "00001", "00001"), "00001");
+    EXPECT_EQ(finishesAs("1", "00001", "00001"), "") << "the first one has the better right to it";
+    EXPECT_EQ(finishesAs("2", "00002", "00001"), "");
+    EXPECT_EQ(finishesAs("2", "00001", "A-1"), "") << "it got a number of its own";
+}
+
+} // namespace
