@@ -111,11 +111,12 @@ void MainWindow::ShowMainPanel(int panelNumber)
 
 void MainWindow::ShowNotice(const QString& text)
 {
+    constexpr int LongEnoughToRead = 30'000;
     // The line is there only while it has something to say.
     if (!findChild<QStatusBar*>())
         On(statusBar(), &QStatusBar::messageChanged, statusBar(),
             [bar = statusBar()](const QString& message) { bar->setVisible(!message.isEmpty()); });
-    statusBar()->showMessage(text);
+    statusBar()->showMessage(text, LongEnoughToRead);
 }
 
 void MainWindow::SetupToolbar()

@@ -31,17 +31,6 @@ TEST_F(OrderLines, ANewLineIsASnapshotOfTheItem)
             "S-04", "Screws 'M4'", "VAT", "17.5"}}));
 }
 
-TEST_F(OrderLines, AllTheStockCanBeSoldAndNotOneMore)
-{
-    const int screws = Item("Screws").Stock(5).Add();
-
-    EXPECT_TRUE(AddNewOrderItemToDB(screws, 5, 0, false, Money("1")));
-    EXPECT_EQ(Stock(screws), 0);
-    EXPECT_FALSE(AddNewOrderItemToDB(screws, 1, 0, false, Money("1")));
-    EXPECT_EQ(Lines(), Table({{"5", "1"}}));
-    EXPECT_EQ(Stock(screws), 0);
-}
-
 TEST_F(OrderLines, AddingTheSameItemTwiceKeepsTheFirstPrice)
 {
     const int screws = Item("Screws").Stock(10).Add();
