@@ -66,7 +66,7 @@ RuntimeError StatementError(sqlite3* handle)
     if (message == TypeMismatch().Description())
         return CriteriaMismatchError();
     if (message == QLatin1String("parser stack overflow") || message.startsWith(QLatin1String("Expression tree")))
-        return {SyntaxFailure, QStringLiteral("Expression too complex in query expression.")};
+        return TooComplexError();
     return {SyntaxFailure, QStringLiteral("Syntax error in query.")};
 }
 

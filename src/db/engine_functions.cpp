@@ -3,10 +3,14 @@
 #include "base/numbers.h"
 #include "base/regional.h"
 #include "base/runtime_error.h"
+#include "db/engine_errors.h"
 #include "sql/function_names.h"
 #include "sql/like_pattern.h"
 #include "sql/locale_order.h"
 #include "sql/value.h"
+
+#include <memory>
+#include <new>
 
 #include <sqlite3.h>
 
@@ -33,7 +37,7 @@ const LikePattern* PatternOf(sqlite3_context* context, sqlite3_value* value)
     return static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 0));
 }
 
-void Like(sqlite3_context* context, int, sqlite3_value** arguments)
+void Like(sqlite3_context* context, sqlite3_value** arguments)
 {
     if (IsNull(arguments[0]) || IsNull(arguments[1]))
         return;
@@ -44,7 +48,7 @@ void Like(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_int(context, matches);
 }
 
-void Fold(sqlite3_context* context, int, sqlite3_value** arguments)
+void Fold(sqlite3_context* context, sqlite3_value** arguments)
 {
     if (IsNull(arguments[0]))
         return;
@@ -72,27 +76,43 @@ void ConvertNumber(sqlite3_context* context, Value::Kind kind, double number)
 }
 
 /// A computed value on its way into a column of a kind.
-void Convert(sqlite3_context* context, int, sqlite3_value** arguments)
+void Convert(sqlite3_context* context, sqlite3_value** arguments)
 {
     const auto kind = Value::Kind(sqlite3_value_int(arguments[0]));
     sqlite3_value* value = arguments[1];
     if (IsNull(value))
         return;
+    if (sqlite3_value_type(value) != SQLITE_TEXT)
+        return ConvertNumber(context, kind, sqlite3_value_double(value));
+    const std::string_view text = TextOf(value);
+    ConvertNumber(context, kind, CDbl(QString::fromUtf8(text.data(), qsizetype(text.size()))));
+}
+
+/// What a function throws becomes the failure of its statement: it must not cross the engine's frames.
+template <void (*Function)(sqlite3_context*, sqlite3_value**)>
+void Guarded(sqlite3_context* context, int, sqlite3_value** arguments)
+{
     try {
-        if (sqlite3_value_type(value) == SQLITE_TEXT) {
-            const std::string_view text = TextOf(value);
-            return ConvertNumber(context, kind, CDbl(QString::fromUtf8(text.data(), qsizetype(text.size()))));
-        }
-        ConvertNumber(context, kind, sqlite3_value_double(value));
+        Function(context, arguments);
     } catch (const RuntimeError& error) {
         sqlite3_result_error(context, error.Description().toUtf8().constData(), -1);
+    } catch (const std::bad_alloc&) {
+        sqlite3_result_error_nomem(context);
+    } catch (...) {
+        sqlite3_result_error_code(context, SQLITE_INTERNAL);
     }
 }
 
+/// An order cannot fail: without the memory for the locale's rules texts are in the order of their bytes.
 int CompareTexts(void* order, int leftSize, const void* left, int rightSize, const void* right)
 {
-    return static_cast<LocaleOrder*>(order)->Compare(
-        {static_cast<const char*>(left), size_t(leftSize)}, {static_cast<const char*>(right), size_t(rightSize)});
+    const std::string_view leftText(static_cast<const char*>(left), size_t(leftSize));
+    const std::string_view rightText(static_cast<const char*>(right), size_t(rightSize));
+    try {
+        return static_cast<LocaleOrder*>(order)->Compare(leftText, rightText);
+    } catch (...) {
+        return leftText.compare(rightText);
+    }
 }
 
 } // namespace
@@ -100,9 +120,19 @@ int CompareTexts(void* order, int leftSize, const void* left, int rightSize, con
 void RegisterEngineFunctions(sqlite3* handle)
 {
     constexpr int Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-    sqlite3_create_function_v2(handle, LikeFunction, 2, Flags, nullptr, Like, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, FoldFunction, 1, Flags, nullptr, Fold, nullptr, nullptr, nullptr);
-    sqlite3_create_function_v2(handle, ConvertFunction, 2, Flags, nullptr, Convert, nullptr, nullptr, nullptr);
-    sqlite3_create_collation_v2(handle, LocaleCollation, SQLITE_UTF8, new LocaleOrder(Regional()), CompareTexts,
-        [](void* order) { delete static_cast<LocaleOrder*>(order); });
+    const auto add = [handle](const char* name, int arguments, auto* function) {
+        if (sqlite3_create_function_v2(handle, name, arguments, Flags, nullptr, function, nullptr, nullptr, nullptr)
+            != SQLITE_OK)
+            throw EngineError(handle);
+    };
+    add(LikeFunction, 2, Guarded<Like>);
+    add(FoldFunction, 1, Guarded<Fold>);
+    add(ConvertFunction, 2, Guarded<Convert>);
+    auto order = std::make_unique<LocaleOrder>(Regional());
+    if (sqlite3_create_collation_v2(handle, LocaleCollation, SQLITE_UTF8, order.get(), CompareTexts,
+            [](void* old) { delete static_cast<LocaleOrder*>(old); })
+        != SQLITE_OK)
+        throw EngineError(handle);
+    // The engine owns it from now on.
+    static_cast<void>(order.release());
 }

@@ -12,6 +12,15 @@ using Kind = Value::Kind;
 /// Deeper ones are refused before they reach the end of the stack.
 constexpr int MaximumDepth = 200;
 
+/// The engine takes no longer chain of one operator.
+constexpr int LongestChain = 1000;
+
+void LimitChain(int& terms)
+{
+    if (++terms > LongestChain)
+        throw TooComplexError();
+}
+
 bool IsNumeric(Kind kind)
 {
     return kind == Kind::Long || kind == Kind::Double || kind == Kind::Money;
@@ -77,7 +86,7 @@ Expression ExpressionReader::Read()
     if (m_depth == 0)
         m_start = m_tokens.Place();
     if (++m_depth > MaximumDepth)
-        throw SyntaxError(QStringLiteral("Expression too complex in query expression."));
+        throw TooComplexError();
     Expression expression = ReadOr();
     --m_depth;
     return expression;
@@ -86,17 +95,23 @@ Expression ExpressionReader::Read()
 Expression ExpressionReader::ReadOr()
 {
     Expression left = ReadAnd();
-    while (m_tokens.TakeWord("or"))
-        left = Truth("(" + left.sql + " OR " + ReadAnd().sql + ")");
-    return left;
+    if (!m_tokens.AtWord("or"))
+        return left;
+    std::string terms = "(" + left.sql;
+    for (int count = 1; m_tokens.TakeWord("or"); LimitChain(count))
+        terms += " OR " + ReadAnd().sql;
+    return Truth(terms + ")");
 }
 
 Expression ExpressionReader::ReadAnd()
 {
     Expression left = ReadNot();
-    while (m_tokens.TakeWord("and"))
-        left = Truth(left.sql + " AND " + ReadNot().sql);
-    return left;
+    if (!m_tokens.AtWord("and"))
+        return left;
+    std::string terms = std::move(left.sql);
+    for (int count = 1; m_tokens.TakeWord("and"); LimitChain(count))
+        terms += " AND " + ReadNot().sql;
+    return Truth(std::move(terms));
 }
 
 Expression ExpressionReader::ReadNot()
@@ -212,11 +227,13 @@ Expression ExpressionReader::ReadLike(const Expression& left, const std::string&
 Expression ExpressionReader::ReadJoined()
 {
     Expression left = ReadSum();
-    while (m_tokens.TakeSign("&")) {
-        const Expression right = ReadSum();
-        left = {"(ifnull(" + left.sql + ", '') || ifnull(" + right.sql + ", ''))", Kind::Text, {}, -1};
-    }
-    return left;
+    if (!m_tokens.AtSign("&"))
+        return left;
+    const auto orEmpty = [](const Expression& part) { return "ifnull(" + part.sql + ", '')"; };
+    std::string parts = "(" + orEmpty(left);
+    for (int count = 1; m_tokens.TakeSign("&"); LimitChain(count))
+        parts += " || " + orEmpty(ReadSum());
+    return {parts + ")", Kind::Text, {}, -1};
 }
 
 Expression ExpressionReader::AsNumber(Expression operand)
@@ -234,16 +251,17 @@ Expression ExpressionReader::Arithmetic(Expression left, const std::string& sign
     right = AsNumber(std::move(right));
     const Kind kind = KindOfResult(left.kind, right.kind, sign);
     // The engine divides whole numbers to a whole number.
-    const std::string operation = sign == "/" ? " * 1.0 / " : " " + sign + " ";
-    return {left.sql + operation + right.sql, kind, {}, -1};
+    left.sql += sign == "/" ? " * 1.0 / " : " " + sign + " ";
+    left.sql += right.sql;
+    return {std::move(left.sql), kind, {}, -1};
 }
 
 Expression ExpressionReader::ReadSum()
 {
     Expression left = ReadProduct();
-    while (m_tokens.AtSign("+") || m_tokens.AtSign("-")) {
+    for (int count = 1; m_tokens.AtSign("+") || m_tokens.AtSign("-"); LimitChain(count)) {
         const std::string sign(m_tokens.Take().text);
-        left = Arithmetic(left, sign, ReadProduct());
+        left = Arithmetic(std::move(left), sign, ReadProduct());
     }
     return left;
 }
@@ -251,9 +269,9 @@ Expression ExpressionReader::ReadSum()
 Expression ExpressionReader::ReadProduct()
 {
     Expression left = ReadSigned();
-    while (m_tokens.AtSign("*") || m_tokens.AtSign("/")) {
+    for (int count = 1; m_tokens.AtSign("*") || m_tokens.AtSign("/"); LimitChain(count)) {
         const std::string sign(m_tokens.Take().text);
-        left = Arithmetic(left, sign, ReadSigned());
+        left = Arithmetic(std::move(left), sign, ReadSigned());
     }
     return left;
 }

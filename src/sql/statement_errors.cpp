@@ -1,5 +1,21 @@
 #include "sql/statement_errors.h"
 
+#include "base/texts.h"
+
+namespace {
+
+/// What a box can show of an expression that a user has pasted.
+constexpr qsizetype LongestShown = 500;
+
+QString Shown(QStringView expression)
+{
+    const QStringView trimmed = expression.trimmed();
+    const QStringView start = Shortened(trimmed, LongestShown);
+    return start.size() == trimmed.size() ? start.toString() : start.toString() + QChar(0x2026);
+}
+
+} // namespace
+
 RuntimeError CannotOpen(const QString& path, const QString& reason)
 {
     return {GeneralFailure, QStringLiteral("Could not open file '%1'. %2").arg(path, reason)};
@@ -66,19 +82,23 @@ RuntimeError SyntaxError(const QString& description)
     return {SyntaxFailure, description};
 }
 
+RuntimeError TooComplexError()
+{
+    return SyntaxError(QStringLiteral("Expression too complex in query expression."));
+}
+
 RuntimeError MissingOperatorError(QStringView expression)
 {
     return {SyntaxFailure,
-        QStringLiteral("Syntax error (missing operator) in query expression '%1'.").arg(expression.trimmed())};
+        QStringLiteral("Syntax error (missing operator) in query expression '%1'.").arg(Shown(expression))};
 }
 
 RuntimeError OpenTextError(QStringView expression)
 {
-    return {
-        SyntaxFailure, QStringLiteral("Syntax error in string in query expression '%1'.").arg(expression.trimmed())};
+    return {SyntaxFailure, QStringLiteral("Syntax error in string in query expression '%1'.").arg(Shown(expression))};
 }
 
 RuntimeError DateLiteralError(QStringView expression)
 {
-    return {SyntaxFailure, QStringLiteral("Syntax error in date in query expression '%1'.").arg(expression.trimmed())};
+    return {SyntaxFailure, QStringLiteral("Syntax error in date in query expression '%1'.").arg(Shown(expression))};
 }

@@ -30,6 +30,7 @@ RuntimeError UnknownFieldError();
 RuntimeError ObjectClosedError();
 /// "Syntax error in UPDATE statement." and its like.
 RuntimeError SyntaxError(const QString& description);
+RuntimeError TooComplexError();
 RuntimeError MissingOperatorError(QStringView expression);
 RuntimeError OpenTextError(QStringView expression);
 RuntimeError DateLiteralError(QStringView expression);
