@@ -3,14 +3,18 @@
 #include "app/image_lists.h"
 #include "app/tips.h"
 #include "base/files.h"
+#include "base/guard.h"
 #include "base/numbers.h"
 #include "base/settings_store.h"
+#include "base/texts.h"
 #include "controls/layout.h"
 
 namespace {
 
 constexpr QSize BulbSize(48, 48);
 constexpr QSize TipTextSize(380, 130);
+/// A label takes seconds to lay out a text of megabytes.
+constexpr qsizetype LongestTip = 2000;
 
 const QString& ShowTipsKey()
 {
@@ -24,11 +28,19 @@ const QString& CurrentTipKey()
     return key;
 }
 
+/// Both numbers are 1 at first, and again where the store, edited by hand, holds no number.
+qint32 StoredNumber(const QString& key)
+{
+    qint32 number = 1;
+    Ignoring([&] { number = CLng(GetOption(key, QStringLiteral("1"))); });
+    return number;
+}
+
 } // namespace
 
 bool frmTip::ShowAtStartup()
 {
-    return CLng(GetOption(ShowTipsKey(), QStringLiteral("1"))) != 0;
+    return StoredNumber(ShowTipsKey()) != 0;
 }
 
 frmTip::frmTip(QWidget* parent)
@@ -55,7 +67,7 @@ frmTip::frmTip(QWidget* parent)
     cmdOK->setFocus();
 
     chkLoadTipsAtStartup->setChecked(ShowAtStartup());
-    m_currentTip = CLng(GetOption(CurrentTipKey(), QStringLiteral("1")));
+    m_currentTip = StoredNumber(CurrentTipKey());
     if (!LoadTips())
         lblTipText->setText(TipFileMissingText());
 
@@ -84,5 +96,5 @@ void frmTip::DoNextTip()
 void frmTip::ShowTip()
 {
     if (!m_tips.isEmpty())
-        lblTipText->setText(m_tips.at(m_currentTip - 1));
+        lblTipText->setText(Shortened(m_tips.at(m_currentTip - 1), LongestTip).toString());
 }

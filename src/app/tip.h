@@ -12,7 +12,7 @@ class frmTip : public Form {
 public:
     explicit frmTip(QWidget* parent);
 
-    /// Whether the start of the program is to show the tips. Throws TypeMismatch when the stored value is no number.
+    /// Whether the start of the program is to show the tips.
     static bool ShowAtStartup();
 
     CONTROL(QLabel, lblTipText);

@@ -1,5 +1,7 @@
 #include "base/settings_store.h"
 
+#include <QFile>
+#include <QHash>
 #include <QSettings>
 
 namespace {
@@ -10,6 +12,34 @@ const QString OptionApplication = QStringLiteral("TavrinInventory");
 const QString OptionSection = QStringLiteral("Options");
 
 QString gFolder;
+
+/// A section's or key's name without the escapes of the file.
+QString NameOf(const QByteArray& written)
+{
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(written.trimmed()));
+}
+
+/// The texts of an INI file, by section and key, that stand there without quotes as a person writes them, with a comma
+/// or a semicolon. Qt takes them for lists and remarks.
+QHash<QString, QString> HandwrittenTexts(const QString& path)
+{
+    QHash<QString, QString> texts;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return texts;
+    QString section;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        const qsizetype equals = line.indexOf('=');
+        const QByteArray text = line.mid(equals + 1).trimmed();
+        if (line.startsWith('['))
+            section = NameOf(line.mid(1, line.size() - 2));
+        else if (equals > 0 && !line.startsWith(';') && !text.startsWith('"')
+            && (text.contains(',') || text.contains(';')))
+            texts.insert(section + QLatin1Char('/') + NameOf(line.left(equals)), QString::fromUtf8(text));
+    }
+    return texts;
+}
 
 /// Runs `use` on the store of one application, which is one file.
 template <typename Use>
@@ -29,18 +59,21 @@ auto WithStore(const QString& application, Use&& use)
 QString GetSetting(const QString& application, const QString& section, const QString& key, const QString& fallback)
 {
     return WithStore(application, [&](QSettings& store) {
-        store.beginGroup(section);
-        if (store.status() != QSettings::NoError || !store.contains(key))
+        const QString name = section + QLatin1Char('/') + key;
+        if (store.status() != QSettings::NoError || !store.contains(name))
             return fallback;
-        return store.value(key).toString();
+        return HandwrittenTexts(store.fileName()).value(name, store.value(name).toString());
     });
 }
 
 void SaveSetting(const QString& application, const QString& section, const QString& key, const QString& value)
 {
     WithStore(application, [&](QSettings& store) {
-        store.beginGroup(section);
-        store.setValue(key, value);
+        // The whole store is written anew: what was written by hand is to stay.
+        const auto texts = HandwrittenTexts(store.fileName());
+        for (auto text = texts.begin(); text != texts.end(); ++text)
+            store.setValue(text.key(), text.value());
+        store.setValue(section + QLatin1Char('/') + key, value);
         store.sync();
     });
 }

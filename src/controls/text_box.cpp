@@ -1,16 +1,58 @@
 #include "controls/text_box.h"
 
+#include "base/texts.h"
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextDocument>
+#include <QValidator>
 
 #include <limits>
+
+namespace {
+
+/// Takes back what is too much of an insertion, which ends at the cursor.
+class InsertionLimit : public QValidator {
+public:
+    explicit InsertionLimit(QLineEdit* box)
+        : QValidator(box)
+        , m_box(box)
+    {
+    }
+
+    State validate(QString& text, int& cursor) const override
+    {
+        if (!m_box->isModified())
+            m_limit = qMax(LongestTypedText, int(text.size()));
+        const int excess = qMin(int(text.size()) - m_limit, cursor);
+        if (excess > 0)
+            Remove(text, cursor, excess);
+        const bool isCut = excess > 0 || text.size() == m_box->maxLength();
+        if (isCut && cursor > 0 && text.at(cursor - 1).isHighSurrogate()
+            && (cursor == text.size() || !text.at(cursor).isLowSurrogate()))
+            Remove(text, cursor, 1);
+        return Acceptable;
+    }
+
+private:
+    static void Remove(QString& text, int& cursor, int count)
+    {
+        cursor -= count;
+        text.remove(cursor, count);
+    }
+
+    QLineEdit* m_box;
+    mutable int m_limit = LongestTypedText;
+};
+
+} // namespace
 
 TextBox::TextBox(QWidget* parent)
     : QLineEdit(parent)
 {
     setMaxLength(std::numeric_limits<int>::max());
+    setValidator(new InsertionLimit(this));
     // A text longer than its box shows its start, except where somebody is typing.
     QObject::connect(this, &QLineEdit::textChanged, this, [this] {
         if (!hasFocus())
@@ -55,7 +97,7 @@ QString MultiLineTextBox::Text() const
 
 void MultiLineTextBox::SetText(const QString& text)
 {
-    m_textAsSet = m_maxLength > 0 ? text.left(m_maxLength) : text;
+    m_textAsSet = m_maxLength > 0 ? Shortened(text, m_maxLength).toString() : text;
     m_crLf = text.contains(QLatin1String("\r\n"));
     setPlainText(m_textAsSet);
     document()->setModified(false);
@@ -86,7 +128,7 @@ void MultiLineTextBox::keyPressEvent(QKeyEvent* event)
 void MultiLineTextBox::inputMethodEvent(QInputMethodEvent* event)
 {
     if (const int room = Room(); event->commitString().size() > room)
-        event->setCommitString(event->commitString().left(room));
+        event->setCommitString(Shortened(event->commitString(), room).toString());
     QPlainTextEdit::inputMethodEvent(event);
 }
 
@@ -97,7 +139,7 @@ void MultiLineTextBox::insertFromMimeData(const QMimeData* source)
     const QString text = source->text();
     if (textCursor().selectedText().size() == toPlainText().size())
         m_crLf = text.contains(QLatin1String("\r\n"));
-    QString fitting = WithLineEnds(text).left(Room());
+    QString fitting = Shortened(WithLineEnds(text), Room()).toString();
     if (fitting.endsWith(u'\r'))
         fitting.chop(1);
     textCursor().insertText(fitting);
@@ -106,10 +148,9 @@ void MultiLineTextBox::insertFromMimeData(const QMimeData* source)
 
 int MultiLineTextBox::Room() const
 {
-    if (m_maxLength <= 0)
-        return std::numeric_limits<int>::max();
     const QString replaced = WithLineEnds(textCursor().selectedText());
-    return m_maxLength - int(Text().size()) + int(replaced.size());
+    const int limit = m_maxLength > 0 ? m_maxLength : LongestTypedText;
+    return qMax(0, limit - int(Text().size()) + int(replaced.size()));
 }
 
 QString MultiLineTextBox::WithLineEnds(QString text) const

@@ -4,8 +4,13 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
+/// The most that typing and pasting make of a box without a limit of its own, the platform's limit. Qt takes seconds to
+/// lay out longer ones at each key.
+inline constexpr int LongestTypedText = 65535;
+
 /// A one-line text box without Qt's limit of 32767 characters. Texts keep their line ends and control characters;
-/// a length limit set with setMaxLength limits typing and pasting and cuts texts set by code.
+/// a length limit set with setMaxLength limits typing and pasting and cuts texts set by code. A text set by code is
+/// otherwise taken whole. No limit cuts a character in half.
 class TextBox : public QLineEdit {
 public:
     explicit TextBox(QWidget* parent = nullptr);
@@ -29,7 +34,7 @@ public:
     void SetText(const QString& text);
     /// As that of TextBox.
     void ShowWhole(const QString& text);
-    /// 0 for no limit. A longer text set by code is cut.
+    /// 0 for no limit but the one of typing. A longer text set by code is cut.
     void SetMaxLength(int length);
     int MaxLength() const { return m_maxLength; }
 

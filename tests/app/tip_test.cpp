@@ -77,6 +77,18 @@ TEST_F(TipTest, AMissingFileIsToldAndNextTipShowsNothingNew)
     EXPECT_EQ(GetOption("Current Tip", ""), "1");
 }
 
+TEST_F(TipTest, GarbageInTheStoreCountsAsOneAndATipOfMegabytesShowsItsBeginning)
+{
+    Tips("one\n" + QByteArray(3000000, 'x') + " \n");
+    for (const char* garbage : {"abc", "", "99999999999"}) {
+        SaveOption("Current Tip", garbage);
+        SaveOption("Show Tips at Startup", garbage);
+        EXPECT_TRUE(frmTip::ShowAtStartup()) << garbage;
+        const QString shown = Opened();
+        EXPECT_TRUE(shown.startsWith("xxx") && shown.size() < 10000) << garbage;
+    }
+}
+
 TEST_F(TipTest, AnEmptyFileShowsNoTip)
 {
     Tips("");

@@ -33,6 +33,26 @@ TEST_F(SettingsStore, TextsComeBackAsTheyWereSaved)
     }
 }
 
+TEST_F(SettingsStore, TextsWrittenByHandAreReadWholeAndStayAsTheyAre)
+{
+    const QList<std::pair<const char*, const char*>> written = {{"DBPath", "/home/ann,  bob/the shop; old, /"},
+        {"PostCode", "a;b"}, {"SalesTaxName", "#1 = VAT, GST"}, {"CostPerNight", "1,5"}, {"Price List", "50%, 100%"},
+        {"Odd", ",;,"}};
+    QFile file(m_folder.filePath("Tavrin Inventory.ini"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("; by hand\n[Config]\n");
+    for (const auto& [key, text] : written)
+        file.write(QByteArray(key) + " = " + text + "\n");
+    file.write("[Other]\nDBPath=x,y\n");
+    file.close();
+    for (int turn = 0; turn < 2; ++turn) {
+        for (const auto& [key, text] : written)
+            EXPECT_EQ(GetConfig(key, "absent"), text) << key << turn;
+        EXPECT_EQ(GetSetting("Tavrin Inventory", "Other", "DBPath", "absent"), "x,y");
+        SaveConfig("FirstRun", "False");
+    }
+}
+
 TEST_F(SettingsStore, EachAddressIsItsOwn)
 {
     SaveConfig("Current Tip", "config");
