@@ -34,16 +34,6 @@ QString Quoted(const QString& text)
     return u'\'' + SqlText(text) + u'\'';
 }
 
-QString DateText(const QDateTime& date)
-{
-    return Quoted(date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-}
-
-QString NumberText(double number)
-{
-    return QString::number(number, 'g', 17);
-}
-
 struct StatementCloser {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
@@ -148,13 +138,6 @@ void DatabaseTest::Run(const QString& sql) const
         m_plain) << "\n" << sql.toStdString();
 }
 
-int DatabaseTest::Insert(const QString& table, const QStringList& columns, const QStringList& values) const
-{
-    Run(QStringLiteral("INSERT INTO [%1] ([%2]) VALUES (%3)")
-            .arg(table, columns.join(QStringLiteral("], [")), values.join(QStringLiteral(", "))));
-    return int(sqlite3_last_insert_rowid(m_plain));
-}
-
 int DatabaseTest::Line(int invoiceId, int itemId, int quantity, const char* amount) const
 {
     Run(QStringLiteral("INSERT INTO invoiceline (InvoiceID, ItemID, Quantity, Amount, Number, Name, Description, "
@@ -168,37 +151,37 @@ int DatabaseTest::Line(int invoiceId, int itemId, int quantity, const char* amou
 
 int DatabaseTest::TaxRateRow(const QString& name, double percentage) const
 {
-    return Insert("taxrate", {"name", "percentage"}, {Quoted(name), NumberText(percentage)});
+    return RowBuilder(*this, "taxrate").Set("name", name).Set("percentage", percentage).Add();
 }
 
 int DatabaseTest::PriceListRow(const QString& name) const
 {
-    return Insert("PriceList", {"name"}, {Quoted(name)});
+    return RowBuilder(*this, "PriceList").Set("name", name).Add();
 }
 
 int DatabaseTest::VendorRow(const QString& businessName) const
 {
-    return Insert("vendor", {"BusinessName"}, {Quoted(businessName)});
+    return RowBuilder(*this, "vendor").Business(businessName).Add();
 }
 
 int DatabaseTest::CategoryRow(const QString& name) const
 {
-    return Insert("category", {"name"}, {Quoted(name)});
+    return RowBuilder(*this, "category").Set("name", name).Add();
 }
 
 int DatabaseTest::SubCategoryRow(int categoryId, const QString& name) const
 {
-    return Insert("subcategory", {"name", "CategoryID"}, {Quoted(name), QString::number(categoryId)});
+    return RowBuilder(*this, "subcategory").Set("name", name).Set("CategoryID", categoryId).Add();
 }
 
 int DatabaseTest::WarehouseRow(const QString& name) const
 {
-    return Insert("warehouse", {"name"}, {Quoted(name)});
+    return RowBuilder(*this, "warehouse").Set("name", name).Add();
 }
 
 int DatabaseTest::LocationRow(int warehouseId, const QString& name) const
 {
-    return Insert("location", {"name", "WarehouseID"}, {Quoted(name), QString::number(warehouseId)});
+    return RowBuilder(*this, "location").Set("name", name).Set("WarehouseID", warehouseId).Add();
 }
 
 double DatabaseTest::Stock(int itemId) const
@@ -206,239 +189,83 @@ double DatabaseTest::Stock(int itemId) const
     return Single(QStringLiteral("SELECT NoInStock FROM item WHERE id = %1").arg(itemId)).toDouble();
 }
 
-DatabaseTest::ItemRow DatabaseTest::Item(const QString& name) const
+RowBuilder DatabaseTest::Item(const QString& name) const
 {
-    return {*this, name};
+    RowBuilder row(*this, "item");
+    for (const char* column : {"TaxRateID", "LocationID", "SubCategoryID", "VendorID"})
+        row.Set(column, 1);
+    for (const char* column : {"NoInStock", "ReorderLevel", "MinStockLevel", "WarrantyReturns"})
+        row.Set(column, 0);
+    return row.Set("Name", name).Number({}).Description({}).Barcode({});
 }
 
-DatabaseTest::CustomerRow DatabaseTest::Customer(const QString& firstName, const QString& lastName) const
+RowBuilder DatabaseTest::Customer(const QString& firstName, const QString& lastName) const
 {
-    return {*this, firstName, lastName};
+    return RowBuilder(*this, "customer").Set("FirstName", firstName).Set("LastName", lastName).Discount(0).PriceList(1);
 }
 
-DatabaseTest::InvoiceRow DatabaseTest::Invoice(int customerId) const
+RowBuilder DatabaseTest::Invoice(int customerId) const
 {
-    return {*this, customerId};
+    RowBuilder row(*this, "invoice");
+    row.Set("CustomerID", customerId).Date(Now().date()).Paid(false).Warranty(false).Set("StockReturned", 0);
+    return row.No({}).PaymentMethod({}).Notes({}).SecondTax({});
 }
 
-void RowBuilder::SetColumn(const QString& column, const QString& value)
+RowBuilder::RowBuilder(const DatabaseTest& test, const char* table)
+    : m_test(test)
+    , m_table(table)
 {
-    const qsizetype index = m_columns.indexOf(column);
-    if (index >= 0) {
+}
+
+RowBuilder& RowBuilder::SetSql(const QString& column, const QString& value)
+{
+    if (const qsizetype index = m_columns.indexOf(column); index >= 0) {
         m_values[index] = value;
-        return;
+        return *this;
     }
     m_columns << column;
     m_values << value;
-}
-
-DatabaseTest::ItemRow::ItemRow(const DatabaseTest& test, const QString& name)
-    : m_test(test)
-{
-    Set("Name", Quoted(name));
-    for (const char* key : {"TaxRateID", "LocationID", "SubCategoryID", "VendorID"})
-        Set(key, "1");
-    for (const char* number : {"NoInStock", "ReorderLevel", "MinStockLevel", "WarrantyReturns"})
-        Set(number, "0");
-    for (const char* text : {"Number", "Description", "Barcode"})
-        Set(text, "''");
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Set(const QString& column, const QString& value)
-{
-    SetColumn(column, value);
     return *this;
 }
 
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Number(const QString& number)
+RowBuilder& RowBuilder::Set(const QString& column, const QString& text)
 {
-    return Set("Number", Quoted(number));
+    return SetSql(column, Quoted(text));
 }
 
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Description(const QString& description)
+RowBuilder& RowBuilder::Set(const QString& column, double number)
 {
-    return Set("Description", Quoted(description));
+    return SetSql(column, QString::number(number, 'g', 17));
 }
 
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Barcode(const QString& barcode)
+RowBuilder& RowBuilder::SetDate(const QString& column, const QDateTime& date)
 {
-    return Set("Barcode", Quoted(barcode));
+    return Set(column, date.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
 }
 
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Stock(double quantity)
-{
-    return Set("NoInStock", NumberText(quantity));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::ReorderLevel(double level)
-{
-    return Set("ReorderLevel", NumberText(level));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::MinStockLevel(double level)
-{
-    return Set("MinStockLevel", NumberText(level));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Price(const char* price)
-{
-    return Price("Sale Price", price);
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Price(const QString& priceList, const char* price)
+RowBuilder& RowBuilder::Price(const QString& priceList, const char* price)
 {
     m_prices.append({priceList, QString::fromLatin1(price)});
     return *this;
 }
 
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::TaxRate(int id)
-{
-    return Set("TaxRateID", QString::number(id));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::SubCategory(int id)
-{
-    return Set("SubCategoryID", QString::number(id));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Location(int id)
-{
-    return Set("LocationID", QString::number(id));
-}
-
-DatabaseTest::ItemRow& DatabaseTest::ItemRow::Vendor(int id)
-{
-    return Set("VendorID", QString::number(id));
-}
-
-int DatabaseTest::ItemRow::Add()
-{
-    const int id = m_test.Insert("item", m_columns, m_values);
-    m_test.Run(QStringLiteral("INSERT INTO ItemPriceList (ItemID, PriceListID, Price) SELECT %1, id, 0 FROM PriceList")
-                   .arg(id));
-    for (const auto& [list, price] : m_prices) {
-        m_test.Run(QStringLiteral("UPDATE ItemPriceList SET Price = %1 WHERE ItemID = %2 AND PriceListID = "
-                                  "(SELECT id FROM PriceList WHERE name = %3)")
-                       .arg(price, QString::number(id), Quoted(list)));
-    }
-    return id;
-}
-
-DatabaseTest::CustomerRow::CustomerRow(const DatabaseTest& test, const QString& firstName, const QString& lastName)
-    : m_test(test)
-{
-    Set("FirstName", firstName).Set("LastName", lastName);
-    SetColumn("Discount", "0");
-    SetColumn("PriceListID", "1");
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Set(const QString& column, const QString& value)
-{
-    SetColumn(column, Quoted(value));
-    return *this;
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Business(const QString& name)
-{
-    return Set("BusinessName", name);
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Address(
-    const QString& line1, const QString& city, const QString& postCode)
+RowBuilder& RowBuilder::Address(const QString& line1, const QString& city, const QString& postCode)
 {
     return Set("Address1", line1).Set("City", city).Set("PostCode", postCode);
 }
 
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Phone(const QString& phone)
+int RowBuilder::Add() const
 {
-    return Set("Phone", phone);
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Email(const QString& email)
-{
-    return Set("Email", email);
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::Discount(double percentage)
-{
-    SetColumn("Discount", NumberText(percentage));
-    return *this;
-}
-
-DatabaseTest::CustomerRow& DatabaseTest::CustomerRow::PriceList(int id)
-{
-    SetColumn("PriceListID", QString::number(id));
-    return *this;
-}
-
-int DatabaseTest::CustomerRow::Add()
-{
-    return m_test.Insert("customer", m_columns, m_values);
-}
-
-DatabaseTest::InvoiceRow::InvoiceRow(const DatabaseTest& test, int customerId)
-    : m_test(test)
-{
-    Set("CustomerID", QString::number(customerId));
-    Date(Now().date());
-    for (const char* truth : {"Paid", "WarrantyInvoice", "StockReturned"})
-        Set(truth, "0");
-    for (const char* text : {"InvoiceNo", "PaymentMethod", "Notes", "Total2ndTax"})
-        Set(text, "''");
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Set(const QString& column, const QString& value)
-{
-    SetColumn(column, value);
-    return *this;
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::No(const QString& number)
-{
-    return Set("InvoiceNo", Quoted(number));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Date(const QDate& date)
-{
-    return Date(date.startOfDay());
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Date(const QDateTime& date)
-{
-    return Set("SubmittedDate", DateText(date));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Shipped(const QDate& date)
-{
-    return Set("ShippedDate", DateText(date.startOfDay()));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Paid(bool paid)
-{
-    return Set("Paid", QString::number(int(paid)));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Warranty(bool warranty)
-{
-    return Set("WarrantyInvoice", QString::number(int(warranty)));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::Notes(const QString& notes)
-{
-    return Set("Notes", Quoted(notes));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::PaymentMethod(const QString& method)
-{
-    return Set("PaymentMethod", Quoted(method));
-}
-
-DatabaseTest::InvoiceRow& DatabaseTest::InvoiceRow::SecondTax(const QString& text)
-{
-    return Set("Total2ndTax", Quoted(text));
-}
-
-int DatabaseTest::InvoiceRow::Add()
-{
-    return m_test.Insert("invoice", m_columns, m_values);
+    m_test.Run(QStringLiteral("INSERT INTO [%1] ([%2]) VALUES (%3)")
+                   .arg(m_table, m_columns.join(QStringLiteral("], [")), m_values.join(QStringLiteral(", "))));
+    const int id = int(sqlite3_last_insert_rowid(m_test.m_plain));
+    if (m_table == QLatin1String("item"))
+        m_test.Run(QStringLiteral("INSERT INTO ItemPriceList (ItemID, PriceListID, Price) "
+                                  "SELECT %1, id, 0 FROM PriceList")
+                       .arg(id));
+    for (const auto& [list, price] : m_prices)
+        m_test.Run(QStringLiteral("UPDATE ItemPriceList SET Price = %1 WHERE ItemID = %2 AND PriceListID = "
+                                  "(SELECT id FROM PriceList WHERE name = %3)")
+                       .arg(price, QString::number(id), Quoted(list)));
+    return id;
 }

@@ -23,23 +23,63 @@ void PrintTo(const Table& table, std::ostream* out);
 /// The amount that a decimal text with a point names, whatever the locale.
 Currency Money(const char* text);
 
-/// The columns and values of a row to be, in plain SQL.
-class RowBuilder {
-protected:
-    void SetColumn(const QString& column, const QString& value);
+class DatabaseTest;
 
+/// A row to be, in plain SQL: `Item("Screws").Stock(10).Price("2.50").Add()`. Each table has its own setters, and `Set`
+/// for any other column.
+class RowBuilder {
+public:
+    RowBuilder(const DatabaseTest& test, const char* table);
+    RowBuilder& Set(const QString& column, const QString& text);
+    RowBuilder& Set(const QString& column, double number);
+    /// Writes the row and returns its id. An item gets a price of 0 in every price list that has none.
+    int Add() const;
+
+    RowBuilder& Number(const QString& number) { return Set("Number", number); }
+    RowBuilder& Description(const QString& description) { return Set("Description", description); }
+    RowBuilder& Barcode(const QString& barcode) { return Set("Barcode", barcode); }
+    RowBuilder& Stock(double quantity) { return Set("NoInStock", quantity); }
+    RowBuilder& ReorderLevel(double level) { return Set("ReorderLevel", level); }
+    RowBuilder& MinStockLevel(double level) { return Set("MinStockLevel", level); }
+    RowBuilder& Price(const char* price) { return Price("Sale Price", price); } ///< in the default price list
+    RowBuilder& Price(const QString& priceList, const char* price);
+    RowBuilder& TaxRate(int id) { return Set("TaxRateID", id); }
+    RowBuilder& SubCategory(int id) { return Set("SubCategoryID", id); }
+    RowBuilder& Location(int id) { return Set("LocationID", id); }
+    RowBuilder& Vendor(int id) { return Set("VendorID", id); }
+
+    RowBuilder& Business(const QString& name) { return Set("BusinessName", name); }
+    RowBuilder& Address(const QString& line1, const QString& city, const QString& postCode);
+    RowBuilder& Phone(const QString& phone) { return Set("Phone", phone); }
+    RowBuilder& Email(const QString& email) { return Set("Email", email); }
+    RowBuilder& Discount(double percentage) { return Set("Discount", percentage); }
+    RowBuilder& PriceList(int id) { return Set("PriceListID", id); }
+
+    RowBuilder& No(const QString& number) { return Set("InvoiceNo", number); }
+    RowBuilder& Date(const QDateTime& date) { return SetDate("SubmittedDate", date); }
+    RowBuilder& Date(const QDate& date) { return Date(date.startOfDay()); }
+    RowBuilder& Shipped(const QDate& date) { return SetDate("ShippedDate", date.startOfDay()); }
+    RowBuilder& Paid(bool paid) { return Set("Paid", paid); }
+    RowBuilder& Warranty(bool warranty) { return Set("WarrantyInvoice", warranty); }
+    RowBuilder& Notes(const QString& notes) { return Set("Notes", notes); }
+    RowBuilder& PaymentMethod(const QString& method) { return Set("PaymentMethod", method); }
+    RowBuilder& SecondTax(const QString& text) { return Set("Total2ndTax", text); }
+
+private:
+    RowBuilder& SetSql(const QString& column, const QString& value);
+    RowBuilder& SetDate(const QString& column, const QDateTime& date);
+
+    const DatabaseTest& m_test;
+    QString m_table;
     QStringList m_columns;
     QStringList m_values;
+    QList<std::pair<QString, QString>> m_prices;
 };
 
 /// A fresh db.mdb with its seed rows in a folder of its own, a settings store beside it, United States formats and the
 /// time fixed at 14 March 2026, 10:30. gConnection is open.
 class DatabaseTest : public ::testing::Test {
 protected:
-    class ItemRow;
-    class CustomerRow;
-    class InvoiceRow;
-
     DatabaseTest();
     ~DatabaseTest() override;
     void SetUp() override;
@@ -55,10 +95,10 @@ protected:
     qint64 Count(const QString& table) const;
     void Run(const QString& sql) const;
 
-    /// Rows as a test needs them; `Add()` writes the row and returns its id.
-    ItemRow Item(const QString& name) const;
-    CustomerRow Customer(const QString& firstName, const QString& lastName) const;
-    InvoiceRow Invoice(int customerId) const;
+    /// An item that points at the "None" rows, a customer, an unpaid invoice of the fixed day, until told otherwise.
+    RowBuilder Item(const QString& name) const;
+    RowBuilder Customer(const QString& firstName, const QString& lastName) const;
+    RowBuilder Invoice(int customerId) const;
     int Line(int invoiceId, int itemId, int quantity, const char* amount) const; ///< copies number, name and tax rate
     int TaxRateRow(const QString& name, double percentage) const;
     int PriceListRow(const QString& name) const;
@@ -72,74 +112,9 @@ protected:
     double Stock(int itemId) const;
 
 private:
-    friend class ItemRow;
-    friend class CustomerRow;
-    friend class InvoiceRow;
-    int Insert(const QString& table, const QStringList& columns, const QStringList& values) const;
+    friend class RowBuilder;
 
     QTemporaryDir m_folder;
     Connection m_connection;
     sqlite3* m_plain = nullptr;
-};
-
-/// An item that points at the "None" rows, with a price of 0 in every price list, until told otherwise.
-class DatabaseTest::ItemRow : RowBuilder {
-public:
-    ItemRow(const DatabaseTest& test, const QString& name);
-    ItemRow& Number(const QString& number);
-    ItemRow& Description(const QString& description);
-    ItemRow& Barcode(const QString& barcode);
-    ItemRow& Stock(double quantity);
-    ItemRow& ReorderLevel(double level);
-    ItemRow& MinStockLevel(double level);
-    ItemRow& Price(const char* price); ///< in the default price list
-    ItemRow& Price(const QString& priceList, const char* price);
-    ItemRow& TaxRate(int id);
-    ItemRow& SubCategory(int id);
-    ItemRow& Location(int id);
-    ItemRow& Vendor(int id);
-    int Add();
-
-private:
-    ItemRow& Set(const QString& column, const QString& value);
-
-    const DatabaseTest& m_test;
-    QList<std::pair<QString, QString>> m_prices;
-};
-
-class DatabaseTest::CustomerRow : RowBuilder {
-public:
-    CustomerRow(const DatabaseTest& test, const QString& firstName, const QString& lastName);
-    CustomerRow& Business(const QString& name);
-    CustomerRow& Address(const QString& line1, const QString& city, const QString& postCode);
-    CustomerRow& Phone(const QString& phone);
-    CustomerRow& Email(const QString& email);
-    CustomerRow& Discount(double percentage);
-    CustomerRow& PriceList(int id);
-    CustomerRow& Set(const QString& column, const QString& value); ///< any other column
-    int Add();
-
-private:
-    const DatabaseTest& m_test;
-};
-
-/// An unpaid invoice of the fixed day, until told otherwise.
-class DatabaseTest::InvoiceRow : RowBuilder {
-public:
-    InvoiceRow(const DatabaseTest& test, int customerId);
-    InvoiceRow& No(const QString& number);
-    InvoiceRow& Date(const QDate& date);
-    InvoiceRow& Date(const QDateTime& date);
-    InvoiceRow& Shipped(const QDate& date);
-    InvoiceRow& Paid(bool paid);
-    InvoiceRow& Warranty(bool warranty);
-    InvoiceRow& Notes(const QString& notes);
-    InvoiceRow& PaymentMethod(const QString& method);
-    InvoiceRow& SecondTax(const QString& text);
-    int Add();
-
-private:
-    InvoiceRow& Set(const QString& column, const QString& value);
-
-    const DatabaseTest& m_test;
 };
