@@ -101,6 +101,6 @@ function(tavrin_test folder)
     tavrin_compiled(${name} tests)
     add_test(NAME ${folder} COMMAND ${name})
     set_tests_properties(${folder} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TAVRIN_STATEMENTS=${TAVRIN_STATEMENTS}/${folder}.txt"
         TIMEOUT 600)
 endfunction()

@@ -20,6 +20,12 @@
 #include <cmath>
 
 namespace {
+
+/// What is said around the dialogs.
+struct Dialogs {
+    Q_DECLARE_TR_FUNCTIONS(Dialogs)
+};
+
 constexpr qreal ScreenDotsPerInch = 96;
 
 std::function<void(HelpCommand, int)> gHelpViewer;
@@ -91,7 +97,7 @@ QString SaveFileName(const QString& title, const QString& filter, const QString&
     dialog.selectFile(suggested);
     QString path = PickedFile(dialog);
     while (!path.isEmpty() && !QFileInfo(path).dir().exists()) {
-        MsgBox(QObject::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
+        MsgBox(Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
         path = PickedFile(dialog);
     }
     return path;
@@ -164,7 +170,7 @@ void OpenHelp(HelpCommand command, int data)
         return door->Help(int(command), data);
     if (gHelpViewer)
         return gHelpViewer(command, data);
-    MsgBox(QObject::tr("The help pages are not available."), Icon::Information);
+    MsgBox(Dialogs::tr("The help pages are not available."), Icon::Information);
 }
 
 void SetHelpViewer(std::function<void(HelpCommand command, int data)> viewer)

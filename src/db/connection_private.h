@@ -7,6 +7,10 @@
 
 struct sqlite3;
 
+/// Told of each statement, as the screens wrote it, that the engine could read. Nobody listens in the program; the
+/// tests do, to know which statements they ran.
+extern void (*gStatementListener)(const QString& statement);
+
 /// What the files of this folder share of a connection.
 class ConnectionPrivate {
 public:

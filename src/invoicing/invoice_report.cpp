@@ -13,10 +13,17 @@
 #include "paper/report_picture.h"
 #include "records/data_environment.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QPrinter>
 
 namespace {
+
+/// The texts that are printed.
+struct InvoiceReport {
+    Q_DECLARE_TR_FUNCTIONS(InvoiceReport)
+};
+
 const QString RepInvoice = QStringLiteral("repInvoice");
 
 void RegisterRepInvoice()
@@ -66,7 +73,7 @@ QString BusinessAddress(const Recordset& settings)
     QString address;
     for (const char* field : {"businessname", "Address1", "Address2", "City", "State", "PostCode", "Country"})
         address += GetS(settings[field]);
-    return address + GetS(Value(QObject::tr("Phone: ") + NullToText(settings["Phone"])));
+    return address + GetS(Value(InvoiceReport::tr("Phone: ") + NullToText(settings["Phone"])));
 }
 
 // A logo needs no more than what a printer shows of its place.
@@ -159,7 +166,7 @@ Report PrepareInvoice(qint32 invoiceId, bool isWarranty)
     if (DataEnvironment().IsOpen(RepInvoice))
         DataEnvironment().Requery(RepInvoice);
     if (isWarranty)
-        report.Control(QStringLiteral("Label6")).caption = QObject::tr("Warranty Invoice");
+        report.Control(QStringLiteral("Label6")).caption = InvoiceReport::tr("Warranty Invoice");
     DataEnvironment().SetParameter(RepInvoice, QStringLiteral("prmInvID"), invoiceId);
     report.Control(QStringLiteral("lblName")).caption = CustomerName(invoiceId);
     report.Control(QStringLiteral("lblDate")).caption = ShortDate(Now());

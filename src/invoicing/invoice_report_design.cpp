@@ -1,8 +1,15 @@
 #include "invoicing/invoice_report_design.h"
 
+#include <QCoreApplication>
 #include <QObject>
 
 namespace {
+
+/// The texts that are printed.
+struct InvoiceReport {
+    Q_DECLARE_TR_FUNCTIONS(InvoiceReport)
+};
+
 // Two centimetres around; the width is what they leave of an A4 sheet.
 constexpr int Margin = 1134;
 constexpr int Width = 9638;
@@ -38,7 +45,8 @@ void AddBusiness(ReportSection& header)
 void AddCustomer(ReportSection& header)
 {
     constexpr int ColumnWidth = 5300;
-    header.AddLabel(QStringLiteral("Label2"), QObject::tr("Invoice / Receipt for"), 0, AddressTop, ColumnWidth).Bold();
+    header.AddLabel(QStringLiteral("Label2"), InvoiceReport::tr("Invoice / Receipt for"), 0, AddressTop, ColumnWidth)
+        .Bold();
     header.AddLabel(QStringLiteral("lblName"), QString(), 0, AddressTop + LineStep, ColumnWidth).Wraps(2, 2);
     int top = AddressTop + 2 * LineStep;
     for (const char* field : CustomerFields) {
@@ -53,16 +61,17 @@ void AddReferences(ReportSection& header)
     constexpr int LabelWidth = RightFields - RightColumn - 100;
     constexpr int FieldWidth = Width - RightFields;
     const int top = AddressTop;
-    header.AddLabel(QStringLiteral("Label5"), QObject::tr("Invoice Number:"), RightColumn, top, LabelWidth);
+    header.AddLabel(QStringLiteral("Label5"), InvoiceReport::tr("Invoice Number:"), RightColumn, top, LabelWidth);
     // One line each: a wrapped number would push the dates away from their labels.
     header.AddField(QStringLiteral("txtInvoiceNo"), QStringLiteral("InvoiceNo"), RightFields, top, FieldWidth)
         .overflow = ReportOverflow::Shrink;
-    header.AddLabel(QStringLiteral("Label10"), QObject::tr("Your order of"), RightColumn, top + LineStep, LabelWidth);
+    header.AddLabel(
+        QStringLiteral("Label10"), InvoiceReport::tr("Your order of"), RightColumn, top + LineStep, LabelWidth);
     header
         .AddField(QStringLiteral("txtInvoiceSubmittedDate"), QStringLiteral("Invoice.SubmittedDate"), RightFields,
             top + LineStep, FieldWidth)
         .Formatted(QStringLiteral("d/MM/yyyy"));
-    header.AddLabel(QStringLiteral("Label8"), QObject::tr("Ref."), RightColumn, top + 2 * LineStep, LabelWidth);
+    header.AddLabel(QStringLiteral("Label8"), InvoiceReport::tr("Ref."), RightColumn, top + 2 * LineStep, LabelWidth);
     header.AddLabel(QStringLiteral("lblDate"), QString(), RightFields, top + 2 * LineStep, FieldWidth).overflow =
         ReportOverflow::Shrink;
 }
@@ -72,11 +81,13 @@ void AddTitles(ReportSection& header)
     constexpr int Top = TitlesTop + 50;
     header.repeatedFrom = TitlesTop;
     header.AddLine(QStringLiteral("Line1"), 0, TitlesTop, Width);
-    header.AddLabel(QStringLiteral("Label4"), QObject::tr("Quantity"), 0, Top, 800).RightAligned().Bold();
-    header.AddLabel(QStringLiteral("Label3"), QObject::tr("Item"), NumberColumn, Top, 4400).Bold();
-    header.AddLabel(QStringLiteral("Label7"), QObject::tr("Tax"), TaxNameColumn, Top, 1600).Bold();
-    header.AddLabel(QStringLiteral("Label9"), QObject::tr("Our Price"), PriceColumn, Top, 1150).RightAligned().Bold();
-    header.AddLabel(QStringLiteral("Label11"), QObject::tr("Total Price"), TotalColumn, Top, Width - TotalColumn)
+    header.AddLabel(QStringLiteral("Label4"), InvoiceReport::tr("Quantity"), 0, Top, 800).RightAligned().Bold();
+    header.AddLabel(QStringLiteral("Label3"), InvoiceReport::tr("Item"), NumberColumn, Top, 4400).Bold();
+    header.AddLabel(QStringLiteral("Label7"), InvoiceReport::tr("Tax"), TaxNameColumn, Top, 1600).Bold();
+    header.AddLabel(QStringLiteral("Label9"), InvoiceReport::tr("Our Price"), PriceColumn, Top, 1150)
+        .RightAligned()
+        .Bold();
+    header.AddLabel(QStringLiteral("Label11"), InvoiceReport::tr("Total Price"), TotalColumn, Top, Width - TotalColumn)
         .RightAligned()
         .Bold();
     header.AddLine(QStringLiteral("Line2"), 0, TitlesTop + 300, Width);
@@ -107,15 +118,18 @@ void AddTotals(ReportSection& footer)
     constexpr int AmountWidth = Width - AmountLeft;
     constexpr int Top = 150;
     footer.height = 1250;
-    footer.AddLabel(QStringLiteral("Label12"), QObject::tr("Tax Total"), LabelLeft, Top, LabelWidth).RightAligned();
+    footer.AddLabel(QStringLiteral("Label12"), InvoiceReport::tr("Tax Total"), LabelLeft, Top, LabelWidth)
+        .RightAligned();
     footer.AddField(QStringLiteral("Text1"), QStringLiteral("Aggregate2"), AmountLeft, Top, AmountWidth).RightAligned();
     footer
-        .AddLabel(
-            QStringLiteral("Label1"), QObject::tr("Order Total (including tax)"), LabelLeft, Top + LineStep, LabelWidth)
+        .AddLabel(QStringLiteral("Label1"), InvoiceReport::tr("Order Total (including tax)"), LabelLeft, Top + LineStep,
+            LabelWidth)
         .RightAligned();
     footer.AddField(QStringLiteral("Text2"), QStringLiteral("Aggregate1"), AmountLeft, Top + LineStep, AmountWidth)
         .RightAligned();
-    footer.AddLabel(QStringLiteral("TaxName2"), QObject::tr("2nd Tax Total"), LabelLeft, Top + 2 * LineStep, LabelWidth)
+    footer
+        .AddLabel(
+            QStringLiteral("TaxName2"), InvoiceReport::tr("2nd Tax Total"), LabelLeft, Top + 2 * LineStep, LabelWidth)
         .RightAligned()
         .Wraps(2, 2);
     footer
@@ -141,12 +155,12 @@ void SizeTexts(ReportSection& section)
 
 Report InvoiceDesign()
 {
-    Report report(QObject::tr("Invoice"), Width);
+    Report report(InvoiceReport::tr("Invoice"), Width);
     report.margins = {Margin, Margin, Margin, Margin};
     ReportSection& title = report.Section(ReportSectionKind::ReportHeader);
     title.name = QStringLiteral("ReportHeader");
     title.height = 420;
-    title.AddLabel(QStringLiteral("Label6"), QObject::tr("Invoice"), 0, 0, Width).RightAligned().Bold();
+    title.AddLabel(QStringLiteral("Label6"), InvoiceReport::tr("Invoice"), 0, 0, Width).RightAligned().Bold();
     report.Section(ReportSectionKind::PageHeader).name = QStringLiteral("PageHeader");
 
     ReportSection& header = report.Section(ReportSectionKind::GroupHeader);

@@ -4,10 +4,17 @@
 #include "paper/report_band.h"
 #include "records/data_environment.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QPrinter>
 
 namespace {
+
+/// The texts that are printed.
+struct PickingList {
+    Q_DECLARE_TR_FUNCTIONS(PickingList)
+};
+
 const QString RepPickingList = QStringLiteral("repPickingList");
 
 constexpr int Margin = 1134;
@@ -38,11 +45,14 @@ void AddTitles(ReportSection& header)
 {
     header.repeatedFrom = 0;
     header.height = 330;
-    header.AddLabel(QStringLiteral("Label1"), QObject::tr("Invoice No:"), 0, 0, 1300).Bold();
-    header.AddLabel(QStringLiteral("Label2"), QObject::tr("Quantity"), QuantityColumn, 0, 850).RightAligned().Bold();
-    header.AddLabel(QStringLiteral("Label3"), QObject::tr("Name"), NameColumn, 0, 3400).Bold();
-    header.AddLabel(QStringLiteral("Label4"), QObject::tr("Location:"), LocationColumn, 0, 1900).Bold();
-    header.AddLabel(QStringLiteral("Label5"), QObject::tr("Warehouse:"), WarehouseColumn, 0, Width - WarehouseColumn)
+    header.AddLabel(QStringLiteral("Label1"), PickingList::tr("Invoice No:"), 0, 0, 1300).Bold();
+    header.AddLabel(QStringLiteral("Label2"), PickingList::tr("Quantity"), QuantityColumn, 0, 850)
+        .RightAligned()
+        .Bold();
+    header.AddLabel(QStringLiteral("Label3"), PickingList::tr("Name"), NameColumn, 0, 3400).Bold();
+    header.AddLabel(QStringLiteral("Label4"), PickingList::tr("Location:"), LocationColumn, 0, 1900).Bold();
+    header
+        .AddLabel(QStringLiteral("Label5"), PickingList::tr("Warehouse:"), WarehouseColumn, 0, Width - WarehouseColumn)
         .Bold();
 }
 
@@ -61,12 +71,13 @@ void AddDetail(ReportSection& detail)
 
 Report PickingListDesign()
 {
-    Report report(QObject::tr("Picking List"), Width);
+    Report report(PickingList::tr("Picking List"), Width);
     report.margins = {Margin, Margin, Margin, Margin};
     ReportSection& title = report.Section(ReportSectionKind::ReportHeader);
     title.name = QStringLiteral("ReportHeader");
     title.height = 480;
-    title.AddLabel(QStringLiteral("Label6"), QObject::tr("Picking List"), 0, 0, Width).Bold().Sized(12).height = 300;
+    title.AddLabel(QStringLiteral("Label6"), PickingList::tr("Picking List"), 0, 0, Width).Bold().Sized(12).height =
+        300;
 
     ReportSection& header = report.Section(ReportSectionKind::GroupHeader);
     header.name = QStringLiteral("repPickingList_Header");

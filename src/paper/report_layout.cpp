@@ -211,7 +211,7 @@ QString ReportLayout::PageNumberText(int index)
 {
     if (m_report.Section(ReportSectionKind::PageFooter).controls.empty() || PageCount() == 1)
         return {};
-    return QObject::tr("Page %1 of %2").arg(index + 1).arg(PageCount());
+    return tr("Page %1 of %2").arg(index + 1).arg(PageCount());
 }
 
 qreal ReportLayout::BodyEnd() const

@@ -2,6 +2,7 @@
 
 #include "paper/report_band.h"
 
+#include <QCoreApplication>
 #include <QSizeF>
 
 #include <array>
@@ -18,6 +19,7 @@ struct ReportPage {
 /// Breaks a report into pages, each when it is asked for. A page is laid out in twips with device-independent fonts, so
 /// that preview, printer and PDF show the same.
 class ReportLayout {
+    Q_DECLARE_TR_FUNCTIONS(ReportLayout)
 public:
     ReportLayout(Report report, ReportPaper paper);
     ReportLayout(const ReportLayout&) = delete;

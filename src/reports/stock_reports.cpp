@@ -6,10 +6,17 @@
 #include "records/data_environment.h"
 #include "reports/reorder_filter.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QPrinter>
 
 namespace {
+
+/// The texts that are printed.
+struct StockReports {
+    Q_DECLARE_TR_FUNCTIONS(StockReports)
+};
+
 // What margins of an inch leave of an A4 sheet.
 constexpr int Width = 9026;
 constexpr int NameColumn = 1250;
@@ -30,13 +37,15 @@ void AddTitles(ReportSection& header)
 {
     header.name = QStringLiteral("PageHeader");
     header.height = 400;
-    header.AddLabel(QStringLiteral("Label2"), QObject::tr("Number"), 0, 0, NumberWidth).Bold();
-    header.AddLabel(QStringLiteral("Label3"), QObject::tr("Name"), NameColumn, 0, NameWidth).Bold();
-    header.AddLabel(QStringLiteral("Label4"), QObject::tr("No In Stock"), StockColumn, 0, 1050).RightAligned().Bold();
-    header.AddLabel(QStringLiteral("Label5"), QObject::tr("Min Stock Level"), MinStockColumn, 0, 1480)
+    header.AddLabel(QStringLiteral("Label2"), StockReports::tr("Number"), 0, 0, NumberWidth).Bold();
+    header.AddLabel(QStringLiteral("Label3"), StockReports::tr("Name"), NameColumn, 0, NameWidth).Bold();
+    header.AddLabel(QStringLiteral("Label4"), StockReports::tr("No In Stock"), StockColumn, 0, 1050)
         .RightAligned()
         .Bold();
-    header.AddLabel(QStringLiteral("Label6"), QObject::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
+    header.AddLabel(QStringLiteral("Label5"), StockReports::tr("Min Stock Level"), MinStockColumn, 0, 1480)
+        .RightAligned()
+        .Bold();
+    header.AddLabel(QStringLiteral("Label6"), StockReports::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
     header.AddLine(QStringLiteral("Line1"), 0, 280, Width);
 }
 
@@ -116,7 +125,7 @@ Report PrepareReorderReport()
         "item.reorderlevel");
     if (DataEnvironment().IsOpen(QStringLiteral("repReorder")))
         DataEnvironment().Requery(QStringLiteral("repReorder"));
-    Report report = StockDesign(QObject::tr("Reorder Report"), QStringLiteral("number"));
+    Report report = StockDesign(StockReports::tr("Reorder Report"), QStringLiteral("number"));
     WidenToPaper(report);
     DataEnvironment().Bind(report, QStringLiteral("repReorder"));
     return report;
@@ -126,7 +135,7 @@ Report PrepareFilteredReorderReport()
 {
     if (DataEnvironment().IsOpen(QStringLiteral("repFilteredReorder")))
         DataEnvironment().Close(QStringLiteral("repFilteredReorder"));
-    Report report = StockDesign(QObject::tr("Filtered Reorder Report"), QStringLiteral("Number"));
+    Report report = StockDesign(StockReports::tr("Filtered Reorder Report"), QStringLiteral("Number"));
     WidenToPaper(report);
     RewriteFilteredCommand();
     if (DataEnvironment().IsOpen(QStringLiteral("repFilteredReorder")))
@@ -140,7 +149,7 @@ Report PrepareStockLevelReport()
     Register("repStockLevel", "SELECT * FROM item, vendor WHERE item.vendorid = vendor.id ORDER BY item.name");
     if (DataEnvironment().IsOpen(QStringLiteral("repStockLevel")))
         DataEnvironment().Requery(QStringLiteral("repStockLevel"));
-    Report report = StockDesign(QObject::tr("Stock Level Report"), QStringLiteral("Number"));
+    Report report = StockDesign(StockReports::tr("Stock Level Report"), QStringLiteral("Number"));
     DataEnvironment().Bind(report, QStringLiteral("repStockLevel"));
     return report;
 }

@@ -11,27 +11,42 @@
 
 namespace {
 
+template <typename Dialog>
+std::unique_ptr<Form> Opened()
+{
+    return std::make_unique<Dialog>(nullptr);
+}
+
 /// One key table, as its dialog shows it.
 struct KeyDialog {
     const char* table;
-    std::function<std::unique_ptr<Form>(void)> open;
-    const char* list; ///< the list or drop-down list of its rows
-    const char* add;
-    const char* edit;
-    const char* remove;
-    const char* form;
-    const char* formTitle;
-
+    std::unique_ptr<Form> (*open)();
+    const char* noun;
+    const char* users; ///< what points at its rows
     const char* emptied; ///< leaves no row to select
     const char* row; ///< adds row 500, "Zeta", which the dialog selects when it opens
     const char* use; ///< lets something point at it
     const char* unuse;
+    const char* groups = nullptr; ///< the drop-down list of a table that is the upper one of its dialog
+    const char* nounAsMisspelt = noun; ///< in the second half of the refusal of a row in use
 
-    const char* nothingToEdit;
-    const char* nothingToRemove;
-    const char* inUse;
-    const char* question;
-    const char* nameMissing;
+    /// "cmdAdd", or "cmdCatAdd" for the upper table.
+    std::string Button(const char* what) const { return std::string(groups ? "cmdCat" : "cmd") + what; }
+    QString DetailsName() const { return QStringLiteral("frmAdd") + QString(noun).remove(' ').remove('-'); }
+
+    QString NothingToEdit() const
+    {
+        return QStringLiteral("No %1 has been selected to edit. Please select a %1 and try again.").arg(noun);
+    }
+    QString NothingToRemove() const { return QStringLiteral("Please select a %1 to remove.").arg(noun); }
+    QString InUse() const
+    {
+        return QStringLiteral("This %1 is in use by one or more %2 and so cannot be deleted. To delete this %3 first "
+                              "remove the %2 and then try again.")
+            .arg(noun, users, nounAsMisspelt);
+    }
+    QString Question() const { return QStringLiteral("Are you sure you want to delete this %1?").arg(noun); }
+    QString NameMissing() const { return QStringLiteral("Please enter a %1 name to continue.").arg(noun); }
 };
 
 void PrintTo(const KeyDialog& dialog, std::ostream* out)
@@ -39,62 +54,26 @@ void PrintTo(const KeyDialog& dialog, std::ostream* out)
     *out << dialog.table;
 }
 
-template <typename Dialog>
-std::unique_ptr<Form> Opened()
-{
-    return std::make_unique<Dialog>(nullptr);
-}
-
-const KeyDialog TaxRatesDialog{"taxrate", Opened<frmTaxRate>, "lstItems", "cmdAdd", "cmdEdit", "cmdRemove",
-    "frmAddTaxRate", "Tax Rate Details", "DELETE FROM taxrate WHERE id <> 1",
-    "INSERT INTO taxrate (id, name, percentage) VALUES (500, 'Zeta', 5)",
-    "INSERT INTO item (name, TaxRateID) VALUES ('Saw', 500)", "DELETE FROM item",
-    "No Tax Rate has been selected to edit. Please select a Tax Rate and try again.",
-    "Please select a Tax Rate to remove.",
-    "This Tax Rate is in use by one or more items and so cannot be deleted. To delete this Tax Rate first remove the "
-    "items and then try again.",
-    "Are you sure you want to delete this Tax Rate?", "Please enter a Tax Rate name to continue."};
-
-const KeyDialog WarehousesDialog{"warehouse", Opened<frmLocations>, "cboWarehouses", "cmdCatAdd", "cmdCatEdit",
-    "cmdCatRemove", "frmAddWarehouse", "Warehouse Details", "DELETE FROM warehouse",
-    "INSERT INTO warehouse (id, name) VALUES (500, 'Zeta')",
-    "INSERT INTO location (name, WarehouseID) VALUES ('Shelf', 500)", "DELETE FROM location WHERE id <> 1",
-    "No Warehouse has been selected to edit. Please select a Warehouse and try again.",
-    "Please select a Warehouse to remove.",
-    "This Warehouse is in use by one or more locations and so cannot be deleted. To delete this Warehouse first remove "
-    "the locations and then try again.",
-    "Are you sure you want to delete this Warehouse?", "Please enter a Warehouse name to continue."};
-
-const KeyDialog LocationsDialog{"location", Opened<frmLocations>, "lstItems", "cmdAdd", "cmdEdit", "cmdRemove",
-    "frmAddLocation", "Location Details", "DELETE FROM location WHERE id <> 1",
-    "INSERT INTO location (id, name, WarehouseID) VALUES (500, 'Zeta', 1)",
-    "INSERT INTO item (name, LocationID) VALUES ('Saw', 500)", "DELETE FROM item",
-    "No Location has been selected to edit. Please select a Location and try again.",
-    "Please select a Location to remove.",
-    "This Location is in use by one or more items and so cannot be deleted. To delete this Location first remove the "
-    "items and then try again.",
-    "Are you sure you want to delete this Location?", "Please enter a Location name to continue."};
-
-const KeyDialog CategoriesDialog{"category", Opened<frmCategories>, "cboCategories", "cmdCatAdd", "cmdCatEdit",
-    "cmdCatRemove", "frmAddCategory", "Category Details", "DELETE FROM category WHERE id <> 1",
-    "INSERT INTO category (id, name) VALUES (500, 'Zeta')",
-    "INSERT INTO subcategory (name, CategoryID) VALUES ('None', 500)", "DELETE FROM subcategory WHERE id <> 1",
-    "No Category has been selected to edit. Please select a Category and try again.",
-    "Please select a Category to remove.",
-    "This Category is in use by one or more Sub-Categories and so cannot be deleted. To delete this Sub-Category first "
-    "remove the Sub-Categories and then try again.",
-    "Are you sure you want to delete this Category?", "Please enter a Category name to continue."};
-
-const KeyDialog SubCategoriesDialog{"subcategory", Opened<frmCategories>, "lstItems", "cmdAdd", "cmdEdit", "cmdRemove",
-    "frmAddSubCategory", "Sub-Category Details",
-    "DELETE FROM subcategory WHERE id <> 1; INSERT INTO category (id, name) VALUES (400, 'Tools')",
-    "INSERT INTO subcategory (id, name, CategoryID) VALUES (500, 'Zeta', 400)",
-    "INSERT INTO item (name, SubCategoryID) VALUES ('Saw', 500)", "DELETE FROM item",
-    "No Sub-Category has been selected to edit. Please select a Sub-Category and try again.",
-    "Please select a Sub-Category to remove.",
-    "This Sub-Category is in use by one or more items and so cannot be deleted. To delete this Sub-Category first "
-    "remove the items and then try again.",
-    "Are you sure you want to delete this Sub-Category?", "Please enter a Sub-Category name to continue."};
+const KeyDialog Dialogs[] = {
+    {"taxrate", Opened<frmTaxRate>, "Tax Rate", "items", "DELETE FROM taxrate WHERE id <> 1",
+        "INSERT INTO taxrate (id, name, percentage) VALUES (500, 'Zeta', 5)",
+        "INSERT INTO item (name, TaxRateID) VALUES ('Saw', 500)", "DELETE FROM item"},
+    {"warehouse", Opened<frmLocations>, "Warehouse", "locations", "DELETE FROM warehouse",
+        "INSERT INTO warehouse (id, name) VALUES (500, 'Zeta')",
+        "INSERT INTO location (name, WarehouseID) VALUES ('Shelf', 500)", "DELETE FROM location WHERE id <> 1",
+        "cboWarehouses"},
+    {"location", Opened<frmLocations>, "Location", "items", "DELETE FROM location WHERE id <> 1",
+        "INSERT INTO location (id, name, WarehouseID) VALUES (500, 'Zeta', 1)",
+        "INSERT INTO item (name, LocationID) VALUES ('Saw', 500)", "DELETE FROM item"},
+    {"category", Opened<frmCategories>, "Category", "Sub-Categories", "DELETE FROM category WHERE id <> 1",
+        "INSERT INTO category (id, name) VALUES (500, 'Zeta')",
+        "INSERT INTO subcategory (name, CategoryID) VALUES ('None', 500)", "DELETE FROM subcategory WHERE id <> 1",
+        "cboCategories", "Sub-Category"},
+    {"subcategory", Opened<frmCategories>, "Sub-Category", "items",
+        "DELETE FROM subcategory WHERE id <> 1; INSERT INTO category (id, name) VALUES (400, 'Tools')",
+        "INSERT INTO subcategory (id, name, CategoryID) VALUES (500, 'Zeta', 400)",
+        "INSERT INTO item (name, SubCategoryID) VALUES ('Saw', 500)", "DELETE FROM item"},
+};
 
 class KeyTablesTest : public DatabaseTest, public ::testing::WithParamInterface<KeyDialog> {
 protected:
@@ -110,27 +89,27 @@ protected:
         Run(GetParam().row);
         Open();
     }
-    void Press(const char* button) { Click(Find<QPushButton>(form.get(), button)); }
+    void Press(const char* button) { Click(Find<QPushButton>(form.get(), GetParam().Button(button).c_str())); }
+    QListWidget* List() const { return GetParam().groups ? nullptr : Find<QListWidget>(form.get(), "lstItems"); }
     QString Name() const { return Single(QStringLiteral("SELECT name FROM %1 WHERE id = 500").arg(GetParam().table)); }
     qint64 RowCount() const { return Count(GetParam().table); }
     /// The texts that the dialog lists.
     QStringList Listed() const
     {
-        if (const auto* combo = form->findChild<QComboBox*>(GetParam().list))
-            return Entries(combo);
+        if (GetParam().groups)
+            return Entries(Find<QComboBox>(form.get(), GetParam().groups));
         QStringList texts;
-        const auto* list = Find<QListWidget>(form.get(), GetParam().list);
-        for (int i = 0; i < list->count(); ++i)
-            texts.append(list->item(i)->text());
+        for (int i = 0; i < List()->count(); ++i)
+            texts.append(List()->item(i)->text());
         return texts;
     }
     void WhenDetailsShow(const std::function<void(NameForm&)>& visit)
     {
         WhenDialogShows(
-            GetParam().form,
+            GetParam().noun,
             [](QDialog* dialog) {
-                return dialog->objectName() == QLatin1String(GetParam().form)
-                    && dialog->windowTitle() == QLatin1String(GetParam().formTitle);
+                return dialog->objectName() == GetParam().DetailsName()
+                    && dialog->windowTitle() == GetParam().noun + QStringLiteral(" Details");
             },
             [visit](QDialog* dialog) { visit(dynamic_cast<NameForm&>(*dialog)); });
     }
@@ -145,13 +124,13 @@ TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemove)
 {
     Run(GetParam().emptied);
     Open();
-    answers.ExpectMessage(GetParam().nothingToEdit, Icon::Critical);
-    Press(GetParam().edit);
-    answers.ExpectMessage(GetParam().nothingToRemove, Icon::Critical);
-    Press(GetParam().remove);
-    if (auto* list = Find<QWidget>(form.get(), GetParam().list); qobject_cast<QListWidget*>(list)) {
-        answers.ExpectMessage(GetParam().nothingToEdit, Icon::Critical);
-        QTest::mouseDClick(qobject_cast<QListWidget*>(list)->viewport(), Qt::LeftButton);
+    answers.ExpectMessage(GetParam().NothingToEdit(), Icon::Critical);
+    Press("Edit");
+    answers.ExpectMessage(GetParam().NothingToRemove(), Icon::Critical);
+    Press("Remove");
+    if (List()) {
+        answers.ExpectMessage(GetParam().NothingToEdit(), Icon::Critical);
+        QTest::mouseDClick(List()->viewport(), Qt::LeftButton);
     }
 }
 
@@ -160,17 +139,17 @@ TEST_P(KeyTablesTest, ARowInUseIsRefusedAndAnotherGoesOnYesAlone)
     OpenOverOneRow();
     const qint64 before = RowCount();
     Run(GetParam().use);
-    answers.ExpectMessage(GetParam().inUse, Icon::Critical);
-    Press(GetParam().remove);
+    answers.ExpectMessage(GetParam().InUse(), Icon::Critical);
+    Press("Remove");
     Run(GetParam().unuse);
 
     for (const Answer answer : {Answer::No, Answer::Cancel}) {
-        answers.Expect(GetParam().question, Icon::Question, Buttons::YesNoCancel, answer);
-        Press(GetParam().remove);
+        answers.Expect(GetParam().Question(), Icon::Question, Buttons::YesNoCancel, answer);
+        Press("Remove");
         EXPECT_EQ(RowCount(), before);
     }
-    answers.Expect(GetParam().question, Icon::Question, Buttons::YesNoCancel, Answer::Yes);
-    Press(GetParam().remove);
+    answers.Expect(GetParam().Question(), Icon::Question, Buttons::YesNoCancel, Answer::Yes);
+    Press("Remove");
     EXPECT_EQ(RowCount(), before - 1);
     EXPECT_EQ(Name(), "");
     EXPECT_TRUE(Listed().filter("Zeta").isEmpty());
@@ -183,13 +162,13 @@ TEST_P(KeyTablesTest, ANewRowNeedsANameAndIsListed)
     WhenDetailsShow([&](NameForm& details) {
         CheckForm(details);
         EXPECT_EQ(details.txtName->text(), "");
-        answers.ExpectMessage(GetParam().nameMissing, Icon::Critical);
+        answers.ExpectMessage(GetParam().NameMissing(), Icon::Critical);
         Click(details.cmdOK);
         EXPECT_TRUE(details.isVisible() && details.txtName->hasFocus());
         Type(details.txtName, QString::fromUtf8(" O'Brien's \"Süd\" [50%] "));
         ::Press(details.txtName, Qt::Key_Return);
     });
-    Press(GetParam().add);
+    Press("Add");
     EXPECT_EQ(RowCount(), before + 1);
     EXPECT_EQ(Listed().filter(QString::fromUtf8(" O'Brien's \"Süd\" [50%] ")).size(), 1);
 
@@ -197,7 +176,7 @@ TEST_P(KeyTablesTest, ANewRowNeedsANameAndIsListed)
         Type(details.txtName, "Left");
         ::Press(details.txtName, Qt::Key_Escape);
     });
-    Press(GetParam().add);
+    Press("Add");
     EXPECT_EQ(RowCount(), before + 1);
 }
 
@@ -210,12 +189,12 @@ TEST_P(KeyTablesTest, EditingRenamesTheSelectedRowAlone)
         Type(details.txtName, "ZETA");
         Click(details.cmdOK);
     });
-    Press(GetParam().edit);
+    Press("Edit");
     EXPECT_EQ(Name(), "ZETA");
     EXPECT_EQ(RowCount(), before);
     EXPECT_EQ(Listed().filter("ZETA").size(), 1);
 
-    if (auto* list = dynamic_cast<QListWidget*>(Find<QWidget>(form.get(), GetParam().list))) {
+    if (QListWidget* list = List()) {
         WhenDetailsShow([](NameForm& details) { Click(details.cmdCancel); });
         ::Press(list, Qt::Key_Return);
         // Beside the entries, where the selected one stays selected.
@@ -243,10 +222,9 @@ TEST_P(KeyTablesTest, ARowThatHasGoneIsReportedAndNotWrittenAnew)
         Type(details.txtName, "Again");
         Click(details.cmdOK);
     });
-    Press(GetParam().edit);
+    Press("Edit");
     EXPECT_EQ(RowCount(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, KeyTablesTest,
-    ::testing::Values(TaxRatesDialog, WarehousesDialog, LocationsDialog, CategoriesDialog, SubCategoriesDialog),
+INSTANTIATE_TEST_SUITE_P(Dialogs, KeyTablesTest, ::testing::ValuesIn(Dialogs),
     [](const auto& table) { return std::string(table.param.table); });

@@ -3,45 +3,36 @@
 #include "base/runtime_error.h"
 #include "support/temporary_database.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
-class SecondaryTaxTest : public DatabaseTest { };
+struct Stored {
+    const char* statement;
+    bool enable;
+    const char* name;
+    double percentage;
+};
 
-TEST_F(SecondaryTaxTest, ComesFromTheSettingsRow)
-{
-    Run("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'City Tax', SecondaryTaxPercentage = 7.5");
-    LoadSecondaryTax();
-    EXPECT_TRUE(SecondaryTaxEnable);
-    EXPECT_EQ(SecondaryTaxName, "City Tax");
-    EXPECT_EQ(SecondaryTaxPercentage, 7.5);
-}
-
-TEST_F(SecondaryTaxTest, AnEmptyTableGivesTheDefaultsSwitchedOff)
-{
-    Run("DELETE FROM settings");
-    LoadSecondaryTax();
-    EXPECT_FALSE(SecondaryTaxEnable);
-    EXPECT_EQ(SecondaryTaxName, "2nd Sales Tax");
-    EXPECT_EQ(SecondaryTaxPercentage, 10);
-}
-
-TEST_F(SecondaryTaxTest, NullsReadAsNothing)
-{
-    Run("UPDATE settings SET SecondaryTaxEnable = NULL, SecondaryTaxName = NULL, SecondaryTaxPercentage = NULL");
-    LoadSecondaryTax();
-    EXPECT_FALSE(SecondaryTaxEnable);
-    EXPECT_EQ(SecondaryTaxName, "");
-    EXPECT_EQ(SecondaryTaxPercentage, 0);
-}
-
-TEST_F(SecondaryTaxTest, AMissingTableLeavesTheTripleAndThrows)
-{
-    SecondaryTaxName = "kept";
-    Run("DROP TABLE settings");
-    EXPECT_THROW(LoadSecondaryTax(), RuntimeError);
-    EXPECT_EQ(SecondaryTaxName, "kept");
-}
+class SecondaryTaxTest : public DatabaseTest, public ::testing::WithParamInterface<Stored> { };
 
 } // namespace
+
+TEST_P(SecondaryTaxTest, ComesFromTheSettingsRow)
+{
+    Run(GetParam().statement);
+    LoadSecondaryTax();
+    EXPECT_EQ(SecondaryTaxEnable, GetParam().enable);
+    EXPECT_EQ(SecondaryTaxName, GetParam().name);
+    EXPECT_EQ(SecondaryTaxPercentage, GetParam().percentage);
+
+    Run("DROP TABLE settings");
+    EXPECT_THROW(LoadSecondaryTax(), RuntimeError);
+    EXPECT_EQ(SecondaryTaxName, GetParam().name) << "a failure leaves the triple";
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, SecondaryTaxTest,
+    ::testing::Values(Stored{"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'City Tax', "
+                             "SecondaryTaxPercentage = 7.5",
+                          true, "City Tax", 7.5},
+        Stored{"DELETE FROM settings", false, "2nd Sales Tax", 10},
+        Stored{"UPDATE settings SET SecondaryTaxEnable = NULL, SecondaryTaxName = NULL, SecondaryTaxPercentage = NULL",
+            false, "", 0}));

@@ -98,21 +98,4 @@ TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)
     EXPECT_EQ(opened, QList<int>({1, 1003}));
 }
 
-TEST(Dialogs, TheScriptAnswersEveryDoor)
-{
-    ScriptedAnswers answers;
-    answers.ExpectOpenFile("/home/ann/in.csv");
-    answers.ExpectSaveFile("");
-    answers.ExpectLink("https://example.invalid/");
-    answers.ExpectHelp(HelpCommand::Context, 7);
-    answers.Expect("Go on?", Icon::Question, Buttons::YesNo, Answer::No);
-    EXPECT_EQ(OpenFileName("Open", "CSV (*.csv)"), "/home/ann/in.csv");
-    EXPECT_EQ(SaveFileName("Save", "CSV (*.csv)", "out.csv"), "");
-    OpenLink("https://example.invalid/");
-    OpenHelp(HelpCommand::Context, 7);
-    EXPECT_EQ(MsgBox("Go on?", Icon::Question, Buttons::YesNo), Answer::No);
-    EXPECT_TRUE(answers.Done());
-    EXPECT_EQ(answers.Asked().last(), "Go on?");
-}
-
 } // namespace

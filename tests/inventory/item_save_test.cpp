@@ -41,6 +41,7 @@ TEST_F(ItemSave, AllFieldsOfAnEditedItemAreWritten)
     const int shed = WarehouseRow("Shed");
     const int bin = LocationRow(shed, "Bin 1");
     const int vat = TaxRateRow("VAT", 17.5);
+    VendorRow("Acorn"); // so that no two ids are alike
     const int acme = VendorRow("Acme");
     const int trade = PriceListRow("Trade");
     Item("Without number or bar code").Add();

@@ -146,6 +146,15 @@ void CheckScreen(
     CheckTabOrder(screen, seen);
 }
 
+QString ScreenText(const QWidget* screen)
+{
+    QString text = QStringLiteral("== ") + screen->windowTitle() + u'\n';
+    for (const QWidget* widget : screen->findChildren<QWidget*>())
+        if (const QString caption = Caption(widget); widget->isVisibleTo(screen) && !caption.isEmpty())
+            text += caption + u'\n';
+    return text;
+}
+
 QStringList ControlNames(const QList<QWidget*>& controls)
 {
     QStringList names;

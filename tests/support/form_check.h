@@ -17,5 +17,8 @@ void CheckForm(FormClass& form, const QStringList& leftOut = {}, const QString& 
     CheckScreen(&form, form.Controls(), leftOut, sharedMnemonics);
 }
 
+/// What the screen says, for a golden file: its title and the captions that show, a line each.
+QString ScreenText(const QWidget* screen);
+
 /// The names and captions of the controls in order of declaration: "cmdOK &OK".
 QStringList ControlNames(const QList<QWidget*>& controls);

@@ -1,6 +1,7 @@
 #include "base/regional.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
+#include "support/statement_record.h"
 
 #include <gtest/gtest.h>
 
@@ -51,5 +52,6 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("TavrinInventory"));
     QApplication::setQuitOnLastWindowClosed(false);
     testing::UnitTest::GetInstance()->listeners().Append(new EveryTest);
+    RecordStatements();
     return RUN_ALL_TESTS();
 }
