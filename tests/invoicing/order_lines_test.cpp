@@ -46,26 +46,24 @@ TEST_F(OrderLines, AddingTheSameItemTwiceKeepsTheFirstPrice)
     EXPECT_EQ(Lines(), Table({{"7", "2.5"}, {"1", "4"}})) << "another invoice has a line of its own";
 }
 
-struct PriceCase {
-    const char* price;
-    double discount;
-    bool warranty;
-    const char* amount;
-};
-class StoredAmounts : public OrderLines, public ::testing::WithParamInterface<PriceCase> { };
-
-TEST_P(StoredAmounts, AreNetOfDiscountAndNothingUnderWarranty)
+TEST_F(OrderLines, AmountsAreNetOfDiscountAndNothingUnderWarranty)
 {
-    const auto& [price, discount, warranty, amount] = GetParam();
-    const int screws = Item("Screws").Stock(10).Add();
-    AddNewOrderItemToDB(screws, 2, discount, warranty, Money(price));
-    EXPECT_EQ(Lines(), Table({{"2", amount}}));
-    EXPECT_EQ(Stock(screws), 8);
+    struct Case {
+        const char* price;
+        double discount;
+        bool warranty;
+        const char* amount;
+    };
+    for (const auto& [price, discount, warranty, amount] :
+        {Case{"9.99", 10, false, "8.991"}, Case{"9.99", 0, false, "9.99"}, Case{"9.99", 10, true, "0"},
+            Case{"10", -5, false, "10.5"}, Case{"0.07", 33, false, "0.0469"}}) {
+        Run("DELETE FROM invoiceline");
+        const int screws = Item("Screws").Stock(10).Add();
+        AddNewOrderItemToDB(screws, 2, discount, warranty, Money(price));
+        EXPECT_EQ(Lines(), Table({{"2", amount}}));
+        EXPECT_EQ(Stock(screws), 8);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Prices, StoredAmounts,
-    ::testing::Values(PriceCase{"9.99", 10, false, "8.991"}, PriceCase{"9.99", 0, false, "9.99"},
-        PriceCase{"9.99", 10, true, "0"}, PriceCase{"10", -5, false, "10.5"}, PriceCase{"0.07", 33, false, "0.0469"}));
 
 TEST_F(OrderLines, AnItemThatIsGoneOrHasNoTaxRateAddsNothing)
 {
