@@ -1,8 +1,9 @@
 #include "app/load_step.h"
 
 #include "app/database_folder.h"
-#include "app/main_grids.h"
 #include "app/main_window.h"
+#include "app/menu_table.h"
+#include "app/toolbar.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/regional.h"
@@ -20,19 +21,11 @@ bool OpenDatabase(Connection& connection, const QString& folder)
     try {
         connection.Open(NativePath(folder, fileName));
     } catch (const RuntimeError&) {
-        MsgBox(QObject::tr("Unable to open database ") + folder + fileName, Icon::Critical);
+        MsgBox(MainWindow::tr("Unable to open database ") + folder + fileName, Icon::Critical);
         return false;
     }
     gConnection = &connection;
     return true;
-}
-
-void FillFixedLists(MainWindow& window)
-{
-    for (const char* method : {"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"})
-        window.picNewInvoice->cboPaymentMethod->AddItem(QObject::tr(method), 0);
-    for (const char* filter : {"All Invoices", "Unpaid Invoices"})
-        window.picArrivals->cboInvoiceFilter->AddItem(QObject::tr(filter), 0);
 }
 
 /// Terms that a store of long ago may hold. Nothing uses them any more but the last.
@@ -51,26 +44,28 @@ void ReadTerms(MainWindow& window)
 
 bool LoadStep(MainWindow& window, Connection& connection)
 {
-    window.SetupToolbar();
+    BuildMenus(window);
+    BuildToolbar(window);
+    SetupToolbar(window);
     window.setWindowState(Qt::WindowMaximized);
     if (!OpenDatabase(connection, ResolveDatabaseFolder()))
         return false;
 
-    FillFixedLists(window);
+    window.picNewInvoice->FillPaymentMethods();
+    window.picArrivals->FillInvoiceFilter();
     OpenInvoice::gCurrentInvoiceId = -1;
     OpenInvoice::gCurrentCustomerId = -1;
     Ignoring([] { LoadSecondaryTax(); });
     window.picNewInvoice->ShowSecondaryTax();
     Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });
-    SetUpMainGrids(window);
+    window.Grids().SetUpColumns();
     window.picReports->Frame2->ShowWeekdays(WeekdayNames());
     ShowAllWelcomePages();
     window.picReports->SelectFirstGraph();
     window.picBack->PlaceHiddenPanels();
     ReadTerms(window);
-    SelectIgnoring(window.picArrivals->cboInvoiceFilter, 0, [&] { window.picArrivals->RefreshInvoiceList(1, 0); });
-    SelectIgnoring(window.picInventory->cboInvoicePriceList, 0,
-        [&] { window.picInventory->RefreshInventoryList(window.picInventory->gInventory->Row(), 0); });
+    window.picArrivals->ShowAllInvoices();
+    window.picInventory->ShowFirstPriceList();
     window.ShowMainPanel(InvoiceHistoryPanel);
     Ignoring([&] { window.picArrivals->RefreshInvoiceList(1, 0); });
     return true;

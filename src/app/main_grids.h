@@ -1,28 +1,21 @@
 #pragma once
 
-#include "records/lists.h"
+#include "records/record_list.h"
 
-#include <QList>
+/// The six lists of the main window, which keep their widths between runs.
+struct MainGrids {
+    RecordList* gInvoices;
+    RecordList* gcust;
+    RecordList* gInventory;
+    RecordList* gNewInvoice;
+    RecordList* gItemGroups;
+    RecordList* gVendors;
 
-class MainWindow;
-
-/// A list grid of the main window: its columns, and the column that takes up spare width, which at load may be another
-/// than when the window is resized.
-struct MainGrid {
-    FlexGrid* grid;
-    QList<GridColumn> columns;
-    int stretchAtLoad;
-    int stretchAtResize;
-    int marginAtResize; ///< twips; room for the scroll bar
+    /// Gives the columns their first widths.
+    void SetUpColumns() const;
+    /// Lets each list's column for spare width take up what the others leave.
+    void Stretch() const;
+    /// Stored when the window closes, restored as the last step of the start.
+    void SaveWidths() const;
+    void RestoreWidths() const;
 };
-
-/// The six grids in the order in which the load sets them up.
-QList<MainGrid> MainGrids(const MainWindow& window);
-
-void SetUpMainGrids(const MainWindow& window);
-/// Lets each grid's stretch column take up what the other columns leave.
-void StretchMainGrids(const MainWindow& window);
-
-/// Column widths between runs: stored when the window closes, restored as the last step of the start.
-void SaveMainGridWidths(const MainWindow& window);
-void RestoreMainGridWidths(const MainWindow& window);

@@ -1,10 +1,5 @@
 #include "app/main_window.h"
 
-#include "app/image_lists.h"
-#include "app/main_grids.h"
-#include "app/menu_table.h"
-#include "app/toolbar.h"
-#include "base/regional.h"
 #include "config/configuration_wizard.h"
 #include "config/tax_rates.h"
 #include "controls/dialogs.h"
@@ -23,10 +18,6 @@ namespace {
 
 constexpr QSize FirstSize(1024, 700);
 constexpr QSize ToolbarIconSize(32, 32);
-constexpr QSize TopIconSize(32, 32);
-
-/// The picture of each panel's head, numbered in the toolbar's list.
-constexpr int TopImages[]{6, 7, 4, 2, 3, 4, 3};
 
 bool IsTitleLabel(const QWidget* panel, const QWidget* pressed)
 {
@@ -56,8 +47,6 @@ MainWindow::MainWindow()
         picBack->AddPanel(panel);
     setCentralWidget(picBack);
 
-    BuildMenus(*this, menuBar());
-
     Toolbar->setObjectName(QStringLiteral("Toolbar"));
     Toolbar->setWindowTitle(tr("Toolbar"));
     Toolbar->setMovable(false);
@@ -67,7 +56,6 @@ MainWindow::MainWindow()
     Toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     Toolbar->setIconSize(ToolbarIconSize);
     addToolBar(Toolbar);
-    BuildToolbar(*this, Toolbar);
 
     ConnectPanels();
     LetPanelsDragTheWindow();
@@ -119,25 +107,15 @@ void MainWindow::ShowNotice(const QString& text)
     statusBar()->showMessage(text, LongEnoughToRead);
 }
 
-void MainWindow::SetupToolbar()
+MainGrids MainWindow::Grids() const
 {
-    const bool xp = IsWindowsXP();
-    for (const ToolbarButton& button : ToolbarButtons()) {
-        if (button.position == 10)
-            continue;
-        auto* action = Toolbar->findChild<QAction*>(QLatin1String(button.key));
-        action->setIcon(xp ? ImageOfImageListXP(button.imageInImageListXP) : ImageOfImToolbar(button.imageInImToolbar));
-    }
-    if (xp)
-        return;
-    for (int number = 0; number < m_panels.size(); ++number)
-        m_panels.at(number)->TopIcon()->setPixmap(
-            ImageOfImToolbar(TopImages[number]).pixmap(TopIconSize, devicePixelRatio()));
+    return {picArrivals->gInvoices, picCustomers->gcust, picInventory->gInventory, picNewInvoice->gNewInvoice,
+        picItemGroups->gItemGroups, picVendors->gVendors};
 }
 
 void MainWindow::RunResizeRules()
 {
-    StretchMainGrids(*this);
+    Grids().Stretch();
 }
 
 QAction* MainWindow::MenuEntry(const QString& name) const
@@ -251,7 +229,7 @@ void MainWindow::FirstRun()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    Guarded([this] { SaveMainGridWidths(*this); });
+    Guarded([this] { Grids().SaveWidths(); });
     QMainWindow::closeEvent(event);
     emit Closed();
 }

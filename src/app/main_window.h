@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/main_grids.h"
 #include "app/panel_area.h"
 #include "inventory/inventory_list.h"
 #include "inventory/item_groups.h"
@@ -24,7 +25,7 @@ enum MainPanel {
 };
 
 /// The one large window: seven panels over one area, a menu and a toolbar that switch between them. It is made empty;
-/// the load step (app/load_step.h) opens the database and fills it.
+/// the load step (app/load_step.h) gives it menu and toolbar, opens the database and fills it.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -32,8 +33,8 @@ public:
 
     /// Shows the numbered panel and hides the others. Numbers that no panel has do nothing.
     void ShowMainPanel(int panelNumber);
-    /// Gives the toolbar's buttons, and on the classic look the panels' heads, their pictures.
-    void SetupToolbar();
+    const QList<Panel*>& Panels() const { return m_panels; }
+    MainGrids Grids() const;
     /// Lets the grids' stretch columns take up the width that the window has now.
     void RunResizeRules();
 

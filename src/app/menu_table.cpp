@@ -65,115 +65,133 @@ void Help(MainWindow&)
     OpenHelp(HelpCommand(Command), Data);
 }
 
+/// The context of the captions.
+class MainMenu {
+    Q_DECLARE_TR_FUNCTIONS(MainMenu)
+public:
+    static const QList<MenuRow>& Table();
+};
+
 constexpr int ContextCommand = int(HelpCommand::Context);
 constexpr int TabCommand = int(HelpCommand::Tab);
 
 } // namespace
 
-const QList<MenuRow>& MenuTable()
+const QList<MenuRow>& MainMenu::Table()
 {
     using Window = MainWindow;
     static const QList<MenuRow> table{
-        Menu("mnuFile", "&File"),
-        Entry("mnuFileImportInventory", "Import In&ventory...", nullptr),
+        Menu("mnuFile", QT_TR_NOOP("&File")),
+        Entry("mnuFileImportInventory", QT_TR_NOOP("Import In&ventory..."), nullptr),
         Separator(),
-        Entry("mnuFileExportResCSV", "Export &Invoices...", nullptr),
-        Entry("mnuFileExpInventory", "Export Inv&entory...", nullptr),
-        Entry("mnuFileExportCustomers", "Export &Customers...", nullptr),
-        SwitchedOff("mnuFileExportTodayRes", "Export &Today's Invoices...", nullptr),
+        Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), nullptr),
+        Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), nullptr),
+        Entry("mnuFileExportCustomers", QT_TR_NOOP("Export &Customers..."), nullptr),
+        SwitchedOff("mnuFileExportTodayRes", QT_TR_NOOP("Export &Today's Invoices..."), nullptr),
         Separator(),
-        Entry("mnuFileBackup", "&Backup Database...", nullptr),
+        Entry("mnuFileBackup", QT_TR_NOOP("&Backup Database..."), nullptr),
         Separator(),
-        Entry("mnuFilePageSetup", "Page &Setup...", PageSetup),
-        Entry("mnuFilePrint", "&Print...", [](Window& window) { PrintWindowImage(&window); }),
+        Entry("mnuFilePageSetup", QT_TR_NOOP("Page &Setup..."), PageSetup),
+        Entry("mnuFilePrint", QT_TR_NOOP("&Print..."), [](Window& window) { PrintWindowImage(&window); }),
         Separator(),
-        Entry("mnuFileExit", "E&xit", [](Window& window) { window.close(); }),
+        Entry("mnuFileExit", QT_TR_NOOP("E&xit"), [](Window& window) { window.close(); }),
 
-        Menu("mnuEdit", "&Edit"),
-        Entry("mnuEditUndo", "&Undo", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_Z); }),
+        Menu("mnuEdit", QT_TR_NOOP("&Edit")),
+        Entry("mnuEditUndo", QT_TR_NOOP("&Undo"), [](Window&) { SendKeys(Qt::CTRL | Qt::Key_Z); }),
         Separator(),
-        Entry("mnuEditCut", "Cu&t", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_X); }),
-        Entry("mnuEditCopy", "&Copy", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_C); }),
-        Entry("mnuEditPaste", "&Paste", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_V); }),
-        Entry("mnuEditClear", "Cle&ar", [](Window&) { SendKeys(Qt::Key_Delete); }),
+        Entry("mnuEditCut", QT_TR_NOOP("Cu&t"), [](Window&) { SendKeys(Qt::CTRL | Qt::Key_X); }),
+        Entry("mnuEditCopy", QT_TR_NOOP("&Copy"), [](Window&) { SendKeys(Qt::CTRL | Qt::Key_C); }),
+        Entry("mnuEditPaste", QT_TR_NOOP("&Paste"), [](Window&) { SendKeys(Qt::CTRL | Qt::Key_V); }),
+        Entry("mnuEditClear", QT_TR_NOOP("Cle&ar"), [](Window&) { SendKeys(Qt::Key_Delete); }),
         Separator(),
-        Entry("mnuEditSelectAll", "Select &All", [](Window&) { SendKeys(Qt::CTRL | Qt::Key_A); }),
+        Entry("mnuEditSelectAll", QT_TR_NOOP("Select &All"), [](Window&) { SendKeys(Qt::CTRL | Qt::Key_A); }),
 
-        MenuSwitchedOff("mnuWeb", "&Web Orders"),
-        SwitchedOff("mnuWebConfig", "&Configure Web Orders...", [](Window& window) { RunWebOrdersWizard(&window); }),
-        SwitchedOff("mnuWebCreatePage", "&Create Web Orders Page...", [](Window&) { CreateWebOrdersPage(); }),
+        MenuSwitchedOff("mnuWeb", QT_TR_NOOP("&Web Orders")),
+        SwitchedOff("mnuWebConfig", QT_TR_NOOP("&Configure Web Orders..."),
+            [](Window& window) { RunWebOrdersWizard(&window); }),
+        SwitchedOff(
+            "mnuWebCreatePage", QT_TR_NOOP("&Create Web Orders Page..."), [](Window&) { CreateWebOrdersPage(); }),
 
-        Menu("mnuReservations", "Inv&oices"),
-        Entry("mnuListInvoices", "Invoice &History", [](Window& window) { window.ListInvoices(); }),
-        Entry("mnuReservationAdd", "&New Invoice", [](Window& window) { window.OpenInvoicePage(); }),
-        Entry("mnuReservationFind", "&Find Invoice...", [](Window& window) { window.FindInvoice(); }),
+        Menu("mnuReservations", QT_TR_NOOP("Inv&oices")),
+        Entry("mnuListInvoices", QT_TR_NOOP("Invoice &History"), [](Window& window) { window.ListInvoices(); }),
+        Entry("mnuReservationAdd", QT_TR_NOOP("&New Invoice"), [](Window& window) { window.OpenInvoicePage(); }),
+        Entry("mnuReservationFind", QT_TR_NOOP("&Find Invoice..."), [](Window& window) { window.FindInvoice(); }),
         Separator(),
-        Entry("mnuInvoiceSetInvoiceNo", "&Set Next Invoice No...", ShowForm<frmSetNextInvoiceNo>),
+        Entry("mnuInvoiceSetInvoiceNo", QT_TR_NOOP("&Set Next Invoice No..."), ShowForm<frmSetNextInvoiceNo>),
 
-        Menu("mnuInventory", "&Inventory"),
-        Entry("mnuViewInventory", "&View Inventory", [](Window& window) { window.ViewInventory(); }),
-        Entry("mnuInventoryViewItemGroup", "View Item &Groups", [](Window& window) { window.ViewItemGroups(); }),
+        Menu("mnuInventory", QT_TR_NOOP("&Inventory")),
+        Entry("mnuViewInventory", QT_TR_NOOP("&View Inventory"), [](Window& window) { window.ViewInventory(); }),
+        Entry("mnuInventoryViewItemGroup", QT_TR_NOOP("View Item &Groups"),
+            [](Window& window) { window.ViewItemGroups(); }),
         Separator(),
-        Entry("mnuInvAddItem", "&Add Item...", [](Window& window) { window.AddItem(); }),
-        Entry("mnuInventoryReceive", "&Receive Stock...", ShowForm<frmReceiveStock>),
+        Entry("mnuInvAddItem", QT_TR_NOOP("&Add Item..."), [](Window& window) { window.AddItem(); }),
+        Entry("mnuInventoryReceive", QT_TR_NOOP("&Receive Stock..."), ShowForm<frmReceiveStock>),
 
-        Menu("mnuCustomers", "&Customers"),
-        Entry("mnuCustomersView", "&View Customers", [](Window& window) { window.ViewCustomers(); }),
-        Entry("mnuCustomerAdd", "&Add Customer...", [](Window& window) { window.picCustomers->AddCustomer(); }),
-        Entry("mnuCustomerFind", "&Find Customer...", ShowForm<frmFindCustomer>),
+        Menu("mnuCustomers", QT_TR_NOOP("&Customers")),
+        Entry("mnuCustomersView", QT_TR_NOOP("&View Customers"), [](Window& window) { window.ViewCustomers(); }),
+        Entry("mnuCustomerAdd", QT_TR_NOOP("&Add Customer..."),
+            [](Window& window) { window.picCustomers->AddCustomer(); }),
+        Entry("mnuCustomerFind", QT_TR_NOOP("&Find Customer..."), ShowForm<frmFindCustomer>),
         Separator(),
-        Entry("mnuCustMailingList", "Email Mailing List &Wizard...",
+        Entry("mnuCustMailingList", QT_TR_NOOP("Email Mailing List &Wizard..."),
             [](Window& window) { RunMailingListWizard(&window); }),
 
-        Menu("mnuReportS", "&Reports"),
-        Entry("mnuReportQuick", "&Quick Statistics", [](Window& window) { window.ViewReports(); }),
+        Menu("mnuReportS", QT_TR_NOOP("&Reports")),
+        Entry("mnuReportQuick", QT_TR_NOOP("&Quick Statistics"), [](Window& window) { window.ViewReports(); }),
         Separator(),
-        Entry("mnuReportReorder", "&Reorder Report", [](Window&) { ShowReorderReport(); }),
-        Entry("mnuReportFilterReorder", "&Filtered Reorder Report...",
+        Entry("mnuReportReorder", QT_TR_NOOP("&Reorder Report"), [](Window&) { ShowReorderReport(); }),
+        Entry("mnuReportFilterReorder", QT_TR_NOOP("&Filtered Reorder Report..."),
             [](Window& window) { ShowFilteredReorderReport(&window); }),
-        Entry("mnuReportStockLevel", "&Stock Level Report", [](Window&) { ShowStockLevelReport(); }),
+        Entry("mnuReportStockLevel", QT_TR_NOOP("&Stock Level Report"), [](Window&) { ShowStockLevelReport(); }),
         Separator(),
-        Entry("mnuCustomReports", "&Custom Reports...", [](Window&) { OpenLink(CustomReportsPage()); }),
+        Entry("mnuCustomReports", QT_TR_NOOP("&Custom Reports..."), [](Window&) { OpenLink(CustomReportsPage()); }),
 
-        Menu("mnuVendors", "&Vendors"),
-        Entry("mnuVendorsView", "&View Vendors", [](Window& window) { window.ViewVendors(); }),
-        Entry("mnuVendorAdd", "&Add Vendor...", [](Window& window) { window.picVendors->AddVendor(); }),
+        Menu("mnuVendors", QT_TR_NOOP("&Vendors")),
+        Entry("mnuVendorsView", QT_TR_NOOP("&View Vendors"), [](Window& window) { window.ViewVendors(); }),
+        Entry("mnuVendorAdd", QT_TR_NOOP("&Add Vendor..."), [](Window& window) { window.picVendors->AddVendor(); }),
 
-        Menu("mnuConfigure", "Confi&gure"),
-        Entry("mnuConfigureWizard", "&Configuration Wizard...", [](Window& window) { window.ConfigureBusiness(); }),
-        SwitchedOff("mnuConfigureTerminology", "&Regional Settings...", nullptr),
+        Menu("mnuConfigure", QT_TR_NOOP("Confi&gure")),
+        Entry("mnuConfigureWizard", QT_TR_NOOP("&Configuration Wizard..."),
+            [](Window& window) { window.ConfigureBusiness(); }),
+        SwitchedOff("mnuConfigureTerminology", QT_TR_NOOP("&Regional Settings..."), nullptr),
         Separator(),
-        Entry("mnuInvTaxRates", "&Tax Rates...", [](Window& window) { window.ConfigureTaxRates(); }),
-        Entry("mnuInvLocations", "Item &Locations and Warehouses...", ShowForm<frmLocations>),
-        Entry("mnuInvCats", "Item C&ategories...", ShowForm<frmCategories>),
+        Entry("mnuInvTaxRates", QT_TR_NOOP("&Tax Rates..."), [](Window& window) { window.ConfigureTaxRates(); }),
+        Entry("mnuInvLocations", QT_TR_NOOP("Item &Locations and Warehouses..."), ShowForm<frmLocations>),
+        Entry("mnuInvCats", QT_TR_NOOP("Item C&ategories..."), ShowForm<frmCategories>),
         Separator(),
-        Entry("mnuConfigInvoiceStyle", "&Invoice Style...", ShowForm<frmConfigInvoice>),
-        Entry("mnuConfigMultipleItemPricing", "Multiple Item &Pricing...",
+        Entry("mnuConfigInvoiceStyle", QT_TR_NOOP("&Invoice Style..."), ShowForm<frmConfigInvoice>),
+        Entry("mnuConfigMultipleItemPricing", QT_TR_NOOP("Multiple Item &Pricing..."),
             [](Window& window) { window.ConfigurePriceLists(); }),
 
-        Menu("mnuHelp", "&Help"),
-        Entry("mnuHelpContents", "&Contents...", Help<ContextCommand, 1>),
-        Entry("mnuHelpTipOfTheDay", "Tip of the &Day...", ShowForm<frmTip>),
-        Entry("mnuHelpIndex", "&Index...", Help<TabCommand, -2>),
-        Entry("mnuHelpSearch", "&Search...", Help<TabCommand, -1>),
+        Menu("mnuHelp", QT_TR_NOOP("&Help")),
+        Entry("mnuHelpContents", QT_TR_NOOP("&Contents..."), Help<ContextCommand, 1>),
+        Entry("mnuHelpTipOfTheDay", QT_TR_NOOP("Tip of the &Day..."), ShowForm<frmTip>),
+        Entry("mnuHelpIndex", QT_TR_NOOP("&Index..."), Help<TabCommand, -2>),
+        Entry("mnuHelpSearch", QT_TR_NOOP("&Search..."), Help<TabCommand, -1>),
         Separator(),
-        Entry("mnuHelpOnlineSupport", "&Online Support", [](Window&) { OpenLink(SupportSite()); }),
-        Entry("mnuHelpSendFeedback", "Send &Feedback", [](Window&) { OpenLink(FeedbackMail()); }),
+        Entry("mnuHelpOnlineSupport", QT_TR_NOOP("&Online Support"), [](Window&) { OpenLink(SupportSite()); }),
+        Entry("mnuHelpSendFeedback", QT_TR_NOOP("Send &Feedback"), [](Window&) { OpenLink(FeedbackMail()); }),
         Separator(),
-        Entry("mnuAbout", "&About...", ShowForm<frmAbout>),
+        Entry("mnuAbout", QT_TR_NOOP("&About..."), ShowForm<frmAbout>),
     };
     return table;
 }
 
-void BuildMenus(MainWindow& window, QMenuBar* bar)
+const QList<MenuRow>& MenuTable()
 {
+    return MainMenu::Table();
+}
+
+void BuildMenus(MainWindow& window)
+{
+    QMenuBar* bar = window.menuBar();
     QMenu* menu = nullptr;
     for (const MenuRow& row : MenuTable()) {
         if (row.kind == MenuRow::Kind::Separator) {
             menu->addSeparator();
             continue;
         }
-        const QString caption = QCoreApplication::translate("MainWindow", row.caption);
+        const QString caption = MainMenu::tr(row.caption);
         if (row.kind == MenuRow::Kind::Menu) {
             menu = bar->addMenu(caption);
             menu->setObjectName(QLatin1String(row.name));

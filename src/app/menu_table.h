@@ -3,7 +3,6 @@
 #include <QList>
 
 class MainWindow;
-class QMenuBar;
 
 /// A row of the menu table. A menu stands in the menu bar; an entry stands in the menu last begun.
 struct MenuRow {
@@ -22,4 +21,4 @@ struct MenuRow {
 const QList<MenuRow>& MenuTable();
 
 /// Fills the menu bar from the table. Each entry's action has the control's name and runs guarded.
-void BuildMenus(MainWindow& window, QMenuBar* bar);
+void BuildMenus(MainWindow& window);

@@ -1,7 +1,6 @@
 #include "app/start.h"
 
 #include "app/load_step.h"
-#include "app/main_grids.h"
 #include "app/splash.h"
 #include "app/tip.h"
 #include "base/guard.h"
@@ -58,7 +57,7 @@ bool Program::Main()
     if (frmTip::ShowAtStartup())
         frmTip(m_window.get()).ShowModal();
     RunFirstRunPrompts();
-    RestoreMainGridWidths(*m_window);
+    m_window->Grids().RestoreWidths();
     return true;
 }
 

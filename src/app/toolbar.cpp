@@ -3,7 +3,9 @@
 #include "app/image_lists.h"
 #include "app/main_window.h"
 #include "base/guard.h"
+#include "base/regional.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QMenu>
 #include <QToolBar>
@@ -11,10 +13,21 @@
 
 namespace {
 
-constexpr auto FindKey = "Find";
-constexpr auto WebOrdersKey = "Web Orders";
+/// The context of the captions.
+class ToolbarTexts {
+    Q_DECLARE_TR_FUNCTIONS(ToolbarTexts)
+public:
+    static const QList<ToolbarButton>& Buttons();
+};
+
+constexpr auto FindKey = QT_TRANSLATE_NOOP("ToolbarTexts", "Find");
+constexpr auto WebOrdersKey = QT_TRANSLATE_NOOP("ToolbarTexts", "Web Orders");
 /// The picture that the form itself gives the last button: no setup changes it.
 constexpr int WebOrdersImage = 1;
+
+constexpr QSize TopIconSize(32, 32);
+/// The picture of each panel's head, numbered in the toolbar's list.
+constexpr int TopImages[]{6, 7, 4, 2, 3, 4, 3};
 
 void AddFindEntry(MainWindow& window, QMenu* menu, const QString& text, const QString& key, const QString& entryName)
 {
@@ -28,33 +41,38 @@ QMenu* FindMenu(MainWindow& window)
 {
     auto* menu = new QMenu(&window);
     AddFindEntry(
-        window, menu, QObject::tr("Customer..."), QStringLiteral("Customer"), QStringLiteral("mnuCustomerFind"));
+        window, menu, ToolbarTexts::tr("Customer..."), QStringLiteral("Customer"), QStringLiteral("mnuCustomerFind"));
     AddFindEntry(
-        window, menu, QObject::tr("Invoice..."), QStringLiteral("Invoice"), QStringLiteral("mnuReservationFind"));
+        window, menu, ToolbarTexts::tr("Invoice..."), QStringLiteral("Invoice"), QStringLiteral("mnuReservationFind"));
     return menu;
 }
 
-void AddFindDropDown(MainWindow& window, QToolBar* toolbar, QAction* find)
+void AddFindDropDown(MainWindow& window, QAction* find)
 {
     find->setMenu(FindMenu(window));
-    auto* button = qobject_cast<QToolButton*>(toolbar->widgetForAction(find));
+    auto* button = qobject_cast<QToolButton*>(window.Toolbar->widgetForAction(find));
     button->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 } // namespace
 
-const QList<ToolbarButton>& ToolbarButtons()
+const QList<ToolbarButton>& ToolbarTexts::Buttons()
 {
     static const QList<ToolbarButton> buttons{
-        {1, "New Invoice", 6, 2},
-        {3, "Invoices", 7, 3},
-        {4, "Inventory", 3, 1},
-        {5, "Customers", 4, 4},
-        {6, "Reports", 2, 5},
+        {1, QT_TR_NOOP("New Invoice"), 6, 2},
+        {3, QT_TR_NOOP("Invoices"), 7, 3},
+        {4, QT_TR_NOOP("Inventory"), 3, 1},
+        {5, QT_TR_NOOP("Customers"), 4, 4},
+        {6, QT_TR_NOOP("Reports"), 2, 5},
         {8, FindKey, 5, 6},
         {10, WebOrdersKey, WebOrdersImage, 7},
     };
     return buttons;
+}
+
+const QList<ToolbarButton>& ToolbarButtons()
+{
+    return ToolbarTexts::Buttons();
 }
 
 QString EntryOfToolbarKey(const QString& key)
@@ -72,20 +90,38 @@ QString EntryOfToolbarKey(const QString& key)
     return entries.value(key);
 }
 
-void BuildToolbar(MainWindow& window, QToolBar* toolbar)
+void BuildToolbar(MainWindow& window)
 {
+    QToolBar* toolbar = window.Toolbar;
     int position = 1;
     for (const ToolbarButton& button : ToolbarButtons()) {
         for (; position < button.position; ++position)
             toolbar->addSeparator();
         ++position;
         const QString key = QLatin1String(button.key);
-        QAction* action = toolbar->addAction(key);
+        QAction* action = toolbar->addAction(ToolbarTexts::tr(button.key));
         action->setObjectName(key);
         if (key == QLatin1String(WebOrdersKey))
             action->setIcon(ImageOfImToolbar(WebOrdersImage));
         if (key == QLatin1String(FindKey))
-            AddFindDropDown(window, toolbar, action);
+            AddFindDropDown(window, action);
         On(action, &QAction::triggered, &window, [&window, key] { window.Run(EntryOfToolbarKey(key)); });
     }
+}
+
+void SetupToolbar(MainWindow& window)
+{
+    const bool xp = IsWindowsXP();
+    for (const ToolbarButton& button : ToolbarButtons()) {
+        if (QLatin1String(button.key) == QLatin1String(WebOrdersKey))
+            continue;
+        auto* action = window.Toolbar->findChild<QAction*>(QLatin1String(button.key));
+        action->setIcon(xp ? ImageOfImageListXP(button.imageInImageListXP) : ImageOfImToolbar(button.imageInImToolbar));
+    }
+    if (xp)
+        return;
+    const QList<Panel*>& panels = window.Panels();
+    for (int number = 0; number < panels.size(); ++number)
+        panels.at(number)->TopIcon()->setPixmap(
+            ImageOfImToolbar(TopImages[number]).pixmap(TopIconSize, window.devicePixelRatio()));
 }

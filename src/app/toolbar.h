@@ -4,7 +4,6 @@
 #include <QString>
 
 class MainWindow;
-class QToolBar;
 
 /// A button of the toolbar. Positions 2, 7 and 9 are separators.
 struct ToolbarButton {
@@ -18,5 +17,7 @@ const QList<ToolbarButton>& ToolbarButtons();
 /// The menu entry that a click on the button with this key runs; "" when the click does nothing.
 QString EntryOfToolbarKey(const QString& key);
 
-/// Makes the buttons, the web orders picture among them, and connects them.
-void BuildToolbar(MainWindow& window, QToolBar* toolbar);
+/// Makes the buttons, the web orders picture among them, and connects them. The menus must stand.
+void BuildToolbar(MainWindow& window);
+/// Gives the other buttons, and on the classic look the panels' heads, their pictures.
+void SetupToolbar(MainWindow& window);

@@ -3,15 +3,14 @@
 #include "records/key_group_form.h"
 #include "records/name_form.h"
 
-/// What the forms below edit, NewRow for a new one; a form puts the id of a row that it added here.
-extern qint32 CurrentCategoryID;
-extern qint32 CurrentSubCategoryID;
-/// The category that a new sub-category goes into.
-extern qint32 SubCategoryParentID;
-
 /// Names a category. A new one gets a sub-category "None" with it, for items to stand in.
 class frmAddCategory : public NameForm {
+    Q_OBJECT
 public:
+    /// The category to edit, NewRow for a new one. The form puts the id of a category it added here.
+    static qint32 CurrentCategoryID;
+    static const KeyTable& Table();
+
     explicit frmAddCategory(QWidget* parent);
 
 protected:
@@ -20,7 +19,14 @@ protected:
 
 /// Names a sub-category. A new one goes into SubCategoryParentID; one that exists stays where it is.
 class frmAddSubCategory : public NameForm {
+    Q_OBJECT
 public:
+    /// The sub-category to edit, NewRow for a new one. The form puts the id of a sub-category it added here.
+    static qint32 CurrentSubCategoryID;
+    /// The category that a new sub-category goes into.
+    static qint32 SubCategoryParentID;
+    static const KeyTable& Table();
+
     explicit frmAddSubCategory(QWidget* parent);
 
 protected:
@@ -29,6 +35,7 @@ protected:
 
 /// Keeps the categories and their sub-categories.
 class frmCategories : public KeyGroupForm {
+    Q_OBJECT
 public:
     explicit frmCategories(QWidget* parent);
 

@@ -79,8 +79,8 @@ void StoreBusiness(const ConfigurationWizard& wizard, const QString& logo)
             .Text("name", wizard.ConfigBusinessName)
             .Raw("secondTax", TruthText(wizard.ConfigSecondTaxEnable))
             .Text("secondTaxName", wizard.ConfigSecondTaxName));
-    SecondaryTaxName = wizard.ConfigSecondTaxName;
-    SecondaryTaxEnable = wizard.ConfigSecondTaxEnable;
+    SecondaryTax::SecondaryTaxName = wizard.ConfigSecondTaxName;
+    SecondaryTax::SecondaryTaxEnable = wizard.ConfigSecondTaxEnable;
 }
 
 void AddTaxRate(const ConfigurationWizard& wizard)
@@ -110,8 +110,8 @@ bool ReadConfiguration(ConfigurationWizard& wizard)
     if (!ReadBusiness(wizard))
         return false;
     ReadTaxRate(wizard);
-    wizard.ConfigSecondTaxName = SecondaryTaxName;
-    wizard.ConfigSecondTaxEnable = SecondaryTaxEnable;
+    wizard.ConfigSecondTaxName = SecondaryTax::SecondaryTaxName;
+    wizard.ConfigSecondTaxEnable = SecondaryTax::SecondaryTaxEnable;
     wizard.ConfigHideTax = CBool(GetConfig(HideTaxKey, TruthText(false)));
     return true;
 }

@@ -2,23 +2,23 @@
 
 #include "db/connection.h"
 
-bool SecondaryTaxEnable = false;
-double SecondaryTaxPercentage = 0;
-QString SecondaryTaxName;
+bool SecondaryTax::SecondaryTaxEnable = false;
+double SecondaryTax::SecondaryTaxPercentage = 0;
+QString SecondaryTax::SecondaryTaxName;
 
 void LoadSecondaryTax()
 {
     const Recordset rs =
         gConnection->Execute("SELECT SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage FROM settings");
     if (rs.Eof()) {
-        SecondaryTaxEnable = false;
-        SecondaryTaxPercentage = 10;
-        SecondaryTaxName = QStringLiteral("2nd Sales Tax");
+        SecondaryTax::SecondaryTaxEnable = false;
+        SecondaryTax::SecondaryTaxPercentage = 10;
+        SecondaryTax::SecondaryTaxName = QStringLiteral("2nd Sales Tax");
         return;
     }
     const Value enable = rs["SecondaryTaxEnable"];
     const Value percentage = rs["SecondaryTaxPercentage"];
-    SecondaryTaxEnable = !enable.IsNull() && enable.ToBool();
-    SecondaryTaxName = NullToText(rs["SecondaryTaxName"]);
-    SecondaryTaxPercentage = percentage.IsNull() ? 0 : percentage.ToDouble();
+    SecondaryTax::SecondaryTaxEnable = !enable.IsNull() && enable.ToBool();
+    SecondaryTax::SecondaryTaxName = NullToText(rs["SecondaryTaxName"]);
+    SecondaryTax::SecondaryTaxPercentage = percentage.IsNull() ? 0 : percentage.ToDouble();
 }

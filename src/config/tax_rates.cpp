@@ -11,39 +11,39 @@ QString NameWithPercentage(const Recordset& rate)
     return QStringLiteral("%1 (%2%)").arg(NullToText(rate["name"]), NullToText(rate["percentage"]));
 }
 
-const KeyTable& TaxRates()
+} // namespace
+
+const KeyTable& frmAddTaxRate::Table()
 {
     static const KeyTable table{
         .name = "[taxrate]",
         .entries = "SELECT id, name, percentage FROM [taxrate] WHERE id<>1 ORDER BY name",
         .entryText = NameWithPercentage,
-        .nothingToEdit = QObject::tr("No Tax Rate has been selected to edit. Please select a Tax Rate and try again."),
-        .nothingToRemove = QObject::tr("Please select a Tax Rate to remove."),
+        .nothingToEdit = tr("No Tax Rate has been selected to edit. Please select a Tax Rate and try again."),
+        .nothingToRemove = tr("Please select a Tax Rate to remove."),
         .uses = "SELECT COUNT(*) FROM item, taxrate WHERE item.taxrateid = taxrate.id AND taxrate.id = {id}",
-        .inUse = QObject::tr("This Tax Rate is in use by one or more items and so cannot be deleted. To delete this "
-                             "Tax Rate first remove the items and then try again."),
-        .removeQuestion = QObject::tr("Are you sure you want to delete this Tax Rate?"),
+        .inUse = tr("This Tax Rate is in use by one or more items and so cannot be deleted. To delete this "
+                    "Tax Rate first remove the items and then try again."),
+        .removeQuestion = tr("Are you sure you want to delete this Tax Rate?"),
         .remove = "DELETE FROM [taxrate] WHERE id = {id}",
         .form = "frmAddTaxRate",
-        .formTitle = QObject::tr("Tax Rate Details"),
-        .formInstructions = QObject::tr("Instructions - enter the Tax Rate name, tax percentage and then click OK."),
-        .nameMissing = QObject::tr("Please enter a Tax Rate name to continue."),
+        .formTitle = tr("Tax Rate Details"),
+        .formInstructions = tr("Instructions - enter the Tax Rate name, tax percentage and then click OK."),
+        .nameMissing = tr("Please enter a Tax Rate name to continue."),
         .storedRow = "SELECT name, percentage FROM taxrate WHERE id = {id}",
         .update = "UPDATE taxrate SET name = '{name}', percentage = {percentage} WHERE id = {id}",
     };
     return table;
 }
 
-} // namespace
-
-qint32 CurrentTaxRateID = NewRow;
+qint32 frmAddTaxRate::CurrentTaxRateID = NewRow;
 
 frmTaxRate::frmTaxRate(QWidget* parent)
     : KeyListForm("frmTaxRate",
         {tr("Configure Tax Rates"),
             tr("Instructions - configure the available Tax Rates. Each item can have any Tax Rate associated with it."),
             tr("Tax Rates:")},
-        TaxRates(), parent)
+        frmAddTaxRate::Table(), parent)
 {
     chkEnableTax2->setText(tr("Enable Secondary Tax"));
     AddBelowList(column({
@@ -61,7 +61,7 @@ frmTaxRate::frmTaxRate(QWidget* parent)
 
 void frmTaxRate::ShowDetails(qint64 id)
 {
-    CurrentTaxRateID = qint32(id);
+    frmAddTaxRate::CurrentTaxRateID = qint32(id);
     frmAddTaxRate(this).ShowModal();
 }
 
@@ -73,9 +73,9 @@ void frmTaxRate::Reload()
 
 void frmTaxRate::ShowSecondaryTax()
 {
-    chkEnableTax2->setChecked(SecondaryTaxEnable);
-    txtSalesTaxName2->setText(SecondaryTaxName);
-    txtSalesTax2->setText(CStr(SecondaryTaxPercentage));
+    chkEnableTax2->setChecked(SecondaryTax::SecondaryTaxEnable);
+    txtSalesTaxName2->setText(SecondaryTax::SecondaryTaxName);
+    txtSalesTax2->setText(CStr(SecondaryTax::SecondaryTaxPercentage));
     EnableBoxes();
 }
 
@@ -102,7 +102,7 @@ void frmTaxRate::StoreSecondaryTax()
 }
 
 frmAddTaxRate::frmAddTaxRate(QWidget* parent)
-    : NameForm(TaxRates(), CurrentTaxRateID, parent)
+    : NameForm(Table(), CurrentTaxRateID, parent)
 {
     AddField(tr("Percentage:"), txtPercentage);
     ShowStoredRow();
@@ -129,5 +129,5 @@ void frmAddTaxRate::SetFields(AddRow& row)
 void frmAddTaxRate::Update(const QString& name)
 {
     gConnection->Execute(
-        Sql(TaxRates().update).Text("name", name).Raw("percentage", Percentage()).Number("id", CurrentId()));
+        Sql(Table().update).Text("name", name).Raw("percentage", Percentage()).Number("id", CurrentId()));
 }

@@ -6,12 +6,14 @@
 
 #include <QCheckBox>
 
-/// The tax rate that frmAddTaxRate edits, NewRow for a new one.
-extern qint32 CurrentTaxRateID;
-
 /// Edits the name and the percentage of a tax rate. A percentage that is no number is stored as 0.
 class frmAddTaxRate : public NameForm {
+    Q_OBJECT
 public:
+    /// The tax rate to edit, NewRow for a new one. The form puts the id of a rate it added here.
+    static qint32 CurrentTaxRateID;
+    static const KeyTable& Table();
+
     explicit frmAddTaxRate(QWidget* parent);
 
     CONTROL(TextBox, txtPercentage);
@@ -29,6 +31,7 @@ private:
 /// anew; whoever shows it lets the invoice page follow. Adding, editing or removing a rate brings the stored secondary
 /// tax back into its boxes.
 class frmTaxRate : public KeyListForm {
+    Q_OBJECT
 public:
     explicit frmTaxRate(QWidget* parent);
 

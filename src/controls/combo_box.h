@@ -61,14 +61,15 @@ void SelectComboByText(ComboBox* combo, const QString& text);
 /// Selects the first entry whose item data equals `value` compared as numbers; with no match the selection stays.
 void SelectComboByData(ComboBox* combo, qint64 value);
 
-/// Selects an entry where failures are dropped: what choosing it does runs as `chosen` on its own, so that a failing
-/// statement there ends that and nothing more.
+/// Selects an entry where failures are dropped. What choosing it does runs as `chosen` on its own, so that a failing
+/// statement there ends that and nothing more; it does not run when there is no such entry.
 template <typename Handler>
 void SelectIgnoring(ComboBox* combo, int index, Handler chosen)
 {
-    Ignoring([&] {
+    const bool selected = Ignoring([&] {
         const QSignalBlocker quiet(combo);
         combo->SetListIndex(index);
     });
-    Ignoring(chosen);
+    if (selected)
+        Ignoring(chosen);
 }

@@ -18,6 +18,8 @@ protected:
         m_controls.append(control);
         return control;
     }
+    /// Takes a control that was made elsewhere in at this place of the order.
+    void Adopt(QWidget* control) { m_controls.append(control); }
 
     /// Lets `control`, declared later, come right before `next` in the tab order.
     void PutInTabOrderBefore(QWidget* next, QWidget* control);

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -332,6 +333,18 @@ bool FlexGrid::RowIsVisible(int row) const
     return top >= 0 && top + rowHeight(row - 1) <= viewport()->height();
 }
 
+bool FlexGrid::event(QEvent* event)
+{
+    const bool handled = QTableView::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        for (int line = 0; line < frameWidth(); ++line)
+            painter.drawRect(rect().adjusted(line, line, -line - 1, -line - 1));
+    }
+    return handled;
+}
+
 void FlexGrid::keyPressEvent(QKeyEvent* event)
 {
     const auto goTo = [&](int row) {
@@ -363,6 +376,13 @@ void FlexGrid::focusInEvent(QFocusEvent* event)
     QTableView::focusInEvent(event);
     m_setByCode = false;
     ShowCurrent();
+    update();
+}
+
+void FlexGrid::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    update();
 }
 
 void FlexGrid::resizeEvent(QResizeEvent* event)

@@ -13,31 +13,28 @@ constexpr qint64 DefaultPriceList = 1;
 QString MarkedName(const Recordset& list)
 {
     const QString name = NullToText(list["name"]);
-    return list["id"].ToLong() == DefaultPriceList ? QObject::tr("%1 (Default)").arg(name) : name;
+    return list["id"].ToLong() == DefaultPriceList ? frmAddPriceList::tr("%1 (Default)").arg(name) : name;
 }
 
 } // namespace
 
-int gEditPriceListId = NewRow;
-
-const KeyTable& PriceLists()
+const KeyTable& frmAddPriceList::Table()
 {
     static const KeyTable table{
         .name = "[PriceList]",
         .entries = "SELECT id, name FROM [PriceList] ORDER BY name",
         .entryText = MarkedName,
-        .nothingToEdit =
-            QObject::tr("No Price List has been selected to edit. Please select a Price List and try again."),
-        .nothingToRemove = QObject::tr("Please select a Price List to remove."),
+        .nothingToEdit = tr("No Price List has been selected to edit. Please select a Price List and try again."),
+        .nothingToRemove = tr("Please select a Price List to remove."),
         .keptId = DefaultPriceList,
-        .keptRefusal = QObject::tr("This is the default Price List and so cannot be deleted. However it can be "
-                                   "renamed, to rename press the Edit button."),
-        .removeQuestion = QObject::tr("All pricing for this Price List will be lost. Are you sure you want to delete "
-                                      "this Price List?"),
+        .keptRefusal = tr("This is the default Price List and so cannot be deleted. However it can be "
+                          "renamed, to rename press the Edit button."),
+        .removeQuestion = tr("All pricing for this Price List will be lost. Are you sure you want to delete "
+                             "this Price List?"),
         .form = "frmAddPriceList",
-        .formTitle = QObject::tr("Price List Details"),
-        .formInstructions = QObject::tr("Instructions - enter the Price List name and then click OK."),
-        .nameMissing = QObject::tr("Please enter a Price List name to continue."),
+        .formTitle = tr("Price List Details"),
+        .formInstructions = tr("Instructions - enter the Price List name and then click OK."),
+        .nameMissing = tr("Please enter a Price List name to continue."),
         .storedRow = "SELECT name FROM PriceList WHERE id = {id}",
         .notFoundIcon = Icon::Critical,
         .update = "UPDATE PriceList SET name = '{name}' WHERE id = {id}",
@@ -45,8 +42,10 @@ const KeyTable& PriceLists()
     return table;
 }
 
+int frmAddPriceList::gEditPriceListId = NewRow;
+
 frmAddPriceList::frmAddPriceList(QWidget* parent)
-    : NameForm(PriceLists(), gEditPriceListId, parent)
+    : NameForm(Table(), gEditPriceListId, parent)
 {
     ShowStoredRow();
 }

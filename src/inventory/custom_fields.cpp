@@ -2,11 +2,20 @@
 
 #include "db/add_row.h"
 #include "db/connection.h"
-#include "inventory/item_details.h"
+#include "inventory/name_label.h"
 
 namespace {
 
 constexpr int LongestValue = 255;
+
+/// A control of the array `name`.
+template <typename Control>
+Control* MakeMember(const char* name, qsizetype index)
+{
+    auto* control = new Control;
+    control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
+    return control;
+}
 
 QString TextOfList(const ComboBox* list)
 {
@@ -35,13 +44,14 @@ void SaveValue(qint32 itemId, qint64 fieldId, const QString& value)
 
 } // namespace
 
-CustomFields::CustomFields(frmItemDetails* form)
+CustomFields::CustomFields()
 {
     if (gConnection->Execute("SELECT COUNT(*) FROM ItemCustomField;")[0].ToLong() == 0)
         return;
     for (const Definition& field : ReadDefinitions()) {
-        QLabel* label = form->MakeNameLabel("lblCustom", int(m_lines.size()), field.name);
-        m_lines.append({label, MakeControl(form, field)});
+        auto* label = MakeMember<QLabel>("lblCustom", m_lines.size());
+        ShowName(label, field.name);
+        m_lines.append({label, MakeControl(field)});
     }
 }
 
@@ -59,26 +69,26 @@ QList<CustomFields::Definition> CustomFields::ReadDefinitions()
     return fields;
 }
 
-QWidget* CustomFields::MakeControl(frmItemDetails* form, const Definition& field)
+QWidget* CustomFields::MakeControl(const Definition& field)
 {
     switch (field.kind) {
     case Kind::CheckBox:
-        m_checkBoxes.append(form->MakeMember<QCheckBox>("chkCustom", int(m_checkBoxes.size())));
+        m_checkBoxes.append(MakeMember<QCheckBox>("chkCustom", m_checkBoxes.size()));
         return m_checkBoxes.last();
     case Kind::List:
-        m_lists.append(MakeList(form, field.id));
+        m_lists.append(MakeList(field.id));
         return m_lists.last();
     case Kind::TextBox:
         break;
     }
-    m_textBoxes.append(form->MakeMember<TextBox>("txtCustom", int(m_textBoxes.size())));
+    m_textBoxes.append(MakeMember<TextBox>("txtCustom", m_textBoxes.size()));
     m_textBoxes.last()->setMaxLength(LongestValue);
     return m_textBoxes.last();
 }
 
-ComboBox* CustomFields::MakeList(frmItemDetails* form, qint64 fieldId)
+ComboBox* CustomFields::MakeList(qint64 fieldId)
 {
-    auto* list = form->MakeMember<ComboBox>("cboCustom", int(m_lists.size()));
+    auto* list = MakeMember<ComboBox>("cboCustom", m_lists.size());
     for (Recordset rs = gConnection->Execute(
              Sql("SELECT option FROM itemCustomFieldOption WHERE itemCustomFieldID = {id} ORDER BY option")
                  .Number("id", fieldId));
@@ -121,18 +131,25 @@ void CustomFields::Save(qint32 itemId) const
 {
     Counters next;
     for (const Definition& field : ReadDefinitions())
-        SaveValue(itemId, field.id, TakeValue(field.kind, next));
+        if (const std::optional<QString> value = TakeValue(field.kind, next))
+            SaveValue(itemId, field.id, *value);
 }
 
-QString CustomFields::TakeValue(Kind kind, Counters& next) const
+std::optional<QString> CustomFields::TakeValue(Kind kind, Counters& next) const
 {
+    const auto take = [](const auto& controls, qsizetype& counter, auto value) -> std::optional<QString> {
+        if (counter == controls.size())
+            return std::nullopt;
+        return value(controls[counter++]);
+    };
     switch (kind) {
     case Kind::CheckBox:
-        return m_checkBoxes[next.checkBoxes++]->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+        return take(m_checkBoxes, next.checkBoxes,
+            [](const QCheckBox* box) { return box->isChecked() ? QStringLiteral("1") : QStringLiteral("0"); });
     case Kind::List:
-        return TextOfList(m_lists[next.lists++]);
+        return take(m_lists, next.lists, TextOfList);
     case Kind::TextBox:
         break;
     }
-    return m_textBoxes[next.textBoxes++]->text();
+    return take(m_textBoxes, next.textBoxes, [](const TextBox* box) { return box->text(); });
 }

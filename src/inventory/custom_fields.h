@@ -7,15 +7,15 @@
 #include <QLabel>
 #include <QList>
 
-class frmItemDetails;
+#include <optional>
 
 /// The extra fields of an item, one control each, as the tables define them. Each kind is numbered for itself
 /// (chkCustom_0, cboCustom_0, txtCustom_0), the labels are numbered by field. Values are found by walking the fields in
 /// their order, never by a control's id.
 class CustomFields {
 public:
-    /// Makes the controls on `form`; none when no field is defined.
-    explicit CustomFields(frmItemDetails* form);
+    /// Makes the controls, for a form to lay out; none when no field is defined.
+    CustomFields();
 
     bool IsEmpty() const { return m_lines.isEmpty(); }
     struct Line {
@@ -29,7 +29,8 @@ public:
     void Load(qint32 itemId);
 
     /// Writes a row of `ItemCustomFieldData` for each field: adds it, or updates the one there is. An update takes the
-    /// text as typed, so that a quote in it throws RuntimeError.
+    /// text as typed, so that a quote in it throws RuntimeError. A field that was defined since the form was opened has
+    /// no control, and its rows stay as they are.
     void Save(qint32 itemId) const;
 
 private:
@@ -41,16 +42,17 @@ private:
     };
     /// How many controls of each kind a walk has passed.
     struct Counters {
-        int checkBoxes = 0;
-        int lists = 0;
-        int textBoxes = 0;
+        qsizetype checkBoxes = 0;
+        qsizetype lists = 0;
+        qsizetype textBoxes = 0;
     };
 
     static QList<Definition> ReadDefinitions();
-    QWidget* MakeControl(frmItemDetails* form, const Definition& field);
-    ComboBox* MakeList(frmItemDetails* form, qint64 fieldId);
+    QWidget* MakeControl(const Definition& field);
+    ComboBox* MakeList(qint64 fieldId);
     void ShowValue(Kind kind, const QString& data, Counters& next);
-    QString TakeValue(Kind kind, Counters& next) const;
+    /// The value of the next control of a kind; nothing when there is none left.
+    std::optional<QString> TakeValue(Kind kind, Counters& next) const;
 
     QList<Line> m_lines;
     QList<QCheckBox*> m_checkBoxes;

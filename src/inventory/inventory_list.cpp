@@ -2,77 +2,32 @@
 
 #include "base/numbers.h"
 #include "controls/hourglass.h"
-#include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/connection.h"
 #include "db/new_row.h"
-#include "inventory/edit_item.h"
 #include "inventory/item_details.h"
 #include "records/lists.h"
 
+#include <optional>
+
 namespace {
 
-constexpr int PriceColumn = 2;
+/// The fields of the list's statement.
+enum { Id, Number, Name, NoInStock, TaxName, Price, PriceListId };
 
-const QStringList& SortExpressions()
+constexpr const char* PriceField = "price";
+
+void AddPrice(const Recordset& item, int price, GridFill& fill)
 {
-    static const QStringList expressions{QStringLiteral("[number]"), QString(), QStringLiteral("price"),
-        QStringLiteral("taxrate.name"), QStringLiteral("noinstock")};
-    return expressions;
+    if (item.IsNull(price) && !item.IsNull(PriceListId))
+        throw InvalidUseOfNull();
+    fill.Add(FormatCurrency(item.IsNull(PriceListId) ? Currency() : item.Money(price)));
 }
-
-/// Writes the rows of the list's statement. The price list is chosen here and not in the statement: an item without any
-/// price shows in every list, one with prices in other lists alone in none.
-class InventoryRowWriter {
-public:
-    explicit InventoryRowWriter(const ComboBox* priceLists)
-        : m_priceLists(priceLists)
-    {
-    }
-
-    std::optional<qint64> operator()(const Recordset& item, GridFill& fill)
-    {
-        const qint64 chosen = ChosenPriceList();
-        const bool hasNoPrice = item.IsNull(PriceListId);
-        if (!hasNoPrice && item.Long(PriceListId) != chosen)
-            return std::nullopt;
-
-        fill.Add(item.Text(Number));
-        fill.Add(item.Text(Name));
-        fill.Add(FormatCurrency(hasNoPrice ? Currency() : PriceOf(item)));
-        fill.Add(item.Text(TaxName));
-        fill.Add(item.Text(NoInStock));
-        return item.Long(Id);
-    }
-
-private:
-    enum Column { Id, Number, Name, NoInStock, TaxName, Price, PriceListId };
-
-    /// Asked of the list with the first row: without rows it does not matter that none is chosen.
-    qint64 ChosenPriceList()
-    {
-        if (!m_chosen)
-            m_chosen = m_priceLists->SelectedData();
-        return *m_chosen;
-    }
-
-    static Currency PriceOf(const Recordset& item)
-    {
-        if (item.IsNull(Price))
-            throw InvalidUseOfNull();
-        return item.Money(Price);
-    }
-
-    const ComboBox* m_priceLists;
-    std::optional<qint64> m_chosen;
-};
 
 } // namespace
 
-qint32 gEditItemId = NewRow;
-
 InventoryList::InventoryList(QWidget* parent)
-    : Panel("picInventory", parent)
+    : ListPanel("picInventory", parent)
 {
     lblInvoicePriceList->setText(tr("Price List:"));
     cmdAddInventory->setText(tr("New Item"));
@@ -81,32 +36,29 @@ InventoryList::InventoryList(QWidget* parent)
     gInventory->setAccessibleName(tr("Inventory"));
     SetLabelOf(lblInvoicePriceList, cboInvoicePriceList);
 
-    auto* buttonBar = new QWidget;
-    buttonBar->setObjectName(QStringLiteral("picInventoryButBar"));
-    buttonBar->setLayout(row({lblInventoryTotal, stretch(), cmdAddInventory, cmdEditInventory, cmdDeleteInventory}));
-    buttonBar->layout()->setContentsMargins(0, 0, 0, 0);
+    // Spare width goes to the number at load, and to the name from the first resize on.
+    gInventory->SetColumns({
+        {"number", tr("Number"), 800, CellAlign::LeftCenter, CellAlign::LeftCenter, "[number]", Spare::AtLoad},
+        {"name", tr("Name"), 2400, CellAlign::CenterTop, CellAlign::LeftCenter, DefaultOrder, Spare::AtResize},
+        {PriceField, tr("Sale Price"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "price", Spare::No,
+            AddPrice},
+        {"tname", tr("Tax Rate"), 1100, CellAlign::RightCenter, CellAlign::RightCenter, "taxrate.name"},
+        {"noinstock", tr("In Stock"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "noinstock"},
+    });
 
+    TitleLabel()->setObjectName(QStringLiteral("Label1_16"));
     setLayout(column({
         head(tr("Inventory"),
             tr("Instructions - you are currently viewing your inventory. This includes all inventory items. To "
                "sort by a column click it's title. For more details press F1 for help.")),
         row({lblInvoicePriceList, cboInvoicePriceList, stretch()}),
         gInventory,
-        buttonBar,
+        ButtonBar("picInventoryButBar",
+            {lblInventoryTotal, stretch(), cmdAddInventory, cmdEditInventory, cmdDeleteInventory}),
     }));
 
-    gInventory->SetCols(int(SortExpressions().size()));
-    for (int col = 0; col < gInventory->Cols(); ++col)
-        gInventory->SetColAlignment(col, col < PriceColumn ? CellAlign::LeftCenter : CellAlign::RightCenter);
-
-    On(cboInvoicePriceList, &ComboBox::Click, this, [this] { RefreshInventoryList(gInventory->Row(), 0); });
-    On(gInventory, &FlexGrid::Click, this, [this] {
-        SortOnTitleClick(gInventory, SortExpressions(), [this] { RefreshInventoryList(gInventory->Row(), 0); });
-    });
-    On(gInventory, &FlexGrid::DblClick, this, [this] {
-        if (gInventory->MouseRow() != 0)
-            EditItem();
-    });
+    ShowList(gInventory, cmdEditInventory, [this](int row, qint64 selectId) { RefreshInventoryList(row, selectId); });
+    On(cboInvoicePriceList, &ComboBox::Click, this, &InventoryList::LoadInPlace);
     On(cmdAddInventory, &QPushButton::clicked, this, &InventoryList::AddItem);
     On(cmdEditInventory, &QPushButton::clicked, this, &InventoryList::EditItem);
     On(cmdDeleteInventory, &QPushButton::clicked, this, &InventoryList::DeleteItem);
@@ -117,14 +69,22 @@ void InventoryList::RefreshInventoryList(int row, qint64 selectId)
     Hourglass hourglass;
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
-    gInventory->SetTitle(PriceColumn, cboInvoicePriceList->Text(), CellAlign::CenterTop);
+    gInventory->SetTitleOf(PriceField, cboInvoicePriceList->Text());
 
     const Sql items =
-        Ordered(QStringLiteral("SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, price, "
-                               "PriceListID FROM (TaxRate INNER JOIN Item ON TaxRate.ID = Item.TaxRateID) LEFT JOIN "
-                               "ItemPriceList ON Item.ID = ItemPriceList.ItemID "),
-            gInventory, QStringLiteral("ORDER BY item.name"));
-    LoadList(gInventory, items, row, selectId, InventoryRowWriter(cboInvoicePriceList));
+        gInventory->Ordered(QStringLiteral("SELECT item.id, [number], item.name, noinstock, taxrate.name AS tname, "
+                                           "price, PriceListID FROM (TaxRate INNER JOIN Item ON TaxRate.ID = "
+                                           "Item.TaxRateID) LEFT JOIN ItemPriceList ON Item.ID = "
+                                           "ItemPriceList.ItemID "),
+            "ORDER BY item.name");
+    // The price list is chosen here and not in the statement: an item without any price shows in every list, one with
+    // prices in other lists alone in none. With no rows to choose from it does not matter that no list is chosen.
+    std::optional<qint64> chosen;
+    gInventory->LoadSome(items, row, selectId, [&](const Recordset& item) {
+        if (!chosen)
+            chosen = cboInvoicePriceList->SelectedData();
+        return item.IsNull(PriceListId) || item.Long(PriceListId) == *chosen;
+    });
 
     lblInventoryTotal->setText(tr("%1 items.").arg(gInventory->Rows() - 1));
 }
@@ -143,9 +103,9 @@ void InventoryList::EditItem()
 
 void InventoryList::ShowItemRecord(qint32 itemId)
 {
-    gEditItemId = itemId;
+    frmItemDetails::gEditItemId = itemId;
     frmItemDetails(window()).ShowModal();
-    RefreshInventoryList(1, gEditItemId);
+    RefreshInventoryList(1, frmItemDetails::gEditItemId);
 }
 
 void InventoryList::DeleteItem()
@@ -173,6 +133,11 @@ void InventoryList::DeleteItem()
 void InventoryList::FillInvoicePriceLists()
 {
     FillPriceLists(cboInvoicePriceList);
+}
+
+void InventoryList::ShowFirstPriceList()
+{
+    SelectIgnoring(cboInvoicePriceList, 0, [this] { LoadInPlace(); });
 }
 
 void InventoryList::RefillInvoicePriceLists()

@@ -1,22 +1,22 @@
 #pragma once
 
 #include "controls/combo_box.h"
-#include "controls/flex_grid.h"
-#include "controls/form.h"
+#include "records/list_panel.h"
 
 #include <QLabel>
 #include <QPushButton>
 
 /// The inventory view: every item with its price in one chosen price list, its tax rate and its stock. The door to the
 /// item record.
-class InventoryList : public Panel {
+class InventoryList : public ListPanel {
+    Q_OBJECT
 public:
     explicit InventoryList(QWidget* parent = nullptr);
 
     CONTROL(QLabel, lblInvoicePriceList);
     CONTROL(ComboBox, cboInvoicePriceList);
     CONTROL(QLabel, lblInventoryTotal);
-    CONTROL(FlexGrid, gInventory);
+    CONTROL(RecordList, gInventory);
     CONTROL(QPushButton, cmdAddInventory);
     CONTROL(QPushButton, cmdEditInventory);
     CONTROL(QPushButton, cmdDeleteInventory);
@@ -31,7 +31,10 @@ public:
 
     /// Reads the price lists anew and selects none.
     void FillInvoicePriceLists();
-    /// As above, then selects the first by name, which reloads the list. For when price lists may have changed.
+    /// Selects the first of them, which loads the list. A failure is dropped: without price lists it stays empty.
+    void ShowFirstPriceList();
+    /// Reads the price lists anew and selects the first by name, which reloads the list. For when price lists may have
+    /// changed.
     void RefillInvoicePriceLists();
 
 private:

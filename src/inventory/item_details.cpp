@@ -3,8 +3,8 @@
 #include "controls/layout.h"
 #include "db/connection.h"
 #include "db/new_row.h"
-#include "inventory/edit_item.h"
 #include "inventory/item_details_scroll.h"
+#include "inventory/name_label.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -14,8 +14,6 @@ namespace {
 constexpr int LongestText = 255;
 constexpr int LongestBarcode = 50;
 constexpr int LongestNumber = 10;
-constexpr int WidestLabel = 200;
-constexpr int LabelRoom = 12;
 constexpr int ColumnWidth = 420;
 constexpr int DescriptionLines = 4;
 
@@ -32,7 +30,21 @@ void AddLine(QGridLayout* grid, const QString& label, QWidget* control)
     AddLine(grid, new QLabel(label), control);
 }
 
+/// Gives the labels of two blocks of fields one width.
+void AlignLabels(QGridLayout* one, QGridLayout* other)
+{
+    int width = 0;
+    for (const QGridLayout* block : {one, other})
+        for (int line = 0; line < block->rowCount(); ++line)
+            if (const QLayoutItem* label = block->itemAtPosition(line, 0))
+                width = qMax(width, label->sizeHint().width());
+    one->setColumnMinimumWidth(0, width);
+    other->setColumnMinimumWidth(0, width);
+}
+
 } // namespace
+
+qint32 frmItemDetails::gEditItemId = NewRow;
 
 frmItemDetails::frmItemDetails(QWidget* parent)
     : Form("frmItemDetails", tr("Item Details"), parent)
@@ -40,6 +52,9 @@ frmItemDetails::frmItemDetails(QWidget* parent)
     cmdOk->setText(tr("OK"));
     cmdCancel->setText(tr("&Cancel"));
     SetLengths();
+
+    picBotButts->setLayout(row({stretch(), cmdOk, cmdCancel}));
+    picBotButts->layout()->setContentsMargins(0, 0, 0, 0);
 
     auto* content = new QWidget;
     content->setLayout(
@@ -52,7 +67,7 @@ frmItemDetails::frmItemDetails(QWidget* parent)
     setLayout(column({
         instructionLine,
         new ItemDetailsScroll(content, m_customFields.IsEmpty() ? ColumnWidth : 2 * ColumnWidth),
-        row({stretch(), cmdOk, cmdCancel}),
+        picBotButts,
     }));
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
@@ -90,17 +105,20 @@ QLayout* frmItemDetails::MainFields()
     });
     for (const PriceBox& price : m_prices)
         AddLine(grid, price.label, price.box);
-    AddLine(grid, tr("No In Stock:"), m_noInStock);
-    AddLine(grid, tr("Reorder Level:"), m_reorderLevel);
-    AddLine(grid, tr("Min Stock Level:"), m_minStockLevel);
-    AddLine(grid, tr("Warranty Returns:"), m_warrantyReturns);
-    AddLine(grid, tr("Category:"), cboCategory);
-    AddLine(grid, tr("Sub Category:"), cboSubCategory);
-    AddLine(grid, tr("Vendor:"), cboVendor);
-    AddLine(grid, tr("Tax Rate:"), cboTaxRate);
-    AddLine(grid, tr("Warehouse:"), cboWarehouse);
-    AddLine(grid, tr("Storage Location:"), cboStorage);
-    return column({grid, stretch()});
+    QGridLayout* bottom = fields({{tr("No In Stock:"), m_noInStock}});
+    AddLine(bottom, tr("Reorder Level:"), m_reorderLevel);
+    AddLine(bottom, tr("Min Stock Level:"), m_minStockLevel);
+    AddLine(bottom, tr("Warranty Returns:"), m_warrantyReturns);
+    AddLine(bottom, tr("Category:"), cboCategory);
+    AddLine(bottom, tr("Sub Category:"), cboSubCategory);
+    AddLine(bottom, tr("Vendor:"), cboVendor);
+    AddLine(bottom, tr("Tax Rate:"), cboTaxRate);
+    AddLine(bottom, tr("Warehouse:"), cboWarehouse);
+    AddLine(bottom, tr("Storage Location:"), cboStorage);
+    AlignLabels(grid, bottom);
+    bottom->setContentsMargins(0, 0, 0, 0);
+    picBot->setLayout(bottom);
+    return column({grid, picBot, stretch()});
 }
 
 QLayout* frmItemDetails::CustomFieldLines()
@@ -112,22 +130,14 @@ QLayout* frmItemDetails::CustomFieldLines()
     return column({grid, stretch()});
 }
 
-QLabel* frmItemDetails::MakeNameLabel(const char* array, int index, const QString& name)
+CustomFields frmItemDetails::MakeCustomFields()
 {
-    auto* label = MakeMember<QLabel>(array, index);
-    ShowName(label, name);
-    return label;
-}
-
-void frmItemDetails::ShowName(QLabel* label, const QString& name)
-{
-    QString shown = name;
-    label->setTextFormat(Qt::PlainText);
-    label->setText(shown.replace(QLatin1Char('&'), QStringLiteral("&&")) + u':');
-    label->setToolTip(name.toHtmlEscaped());
-    label->setWordWrap(true);
-    label->setMinimumWidth(qMin(label->fontMetrics().horizontalAdvance(name) + LabelRoom, WidestLabel));
-    label->setMaximumWidth(WidestLabel);
+    CustomFields fields;
+    for (const CustomFields::Line& line : fields.Lines()) {
+        Adopt(line.label);
+        Adopt(line.control);
+    }
+    return fields;
 }
 
 QList<frmItemDetails::PriceBox> frmItemDetails::MakePriceBoxes()

@@ -8,11 +8,14 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// The item record: creates and edits one item, its price in every price list and its custom field values. Edits
-/// `gEditItemId`; for a new item puts the new id there. Controls made when the form loads stand in the order of the
-/// declarations like all others, as the form is read.
+/// The item record: creates and edits one item, its price in every price list and its custom field values. Controls
+/// made when the form loads stand in the order of the declarations like all others, as the form is read.
 class frmItemDetails : public Form {
+    Q_OBJECT
 public:
+    /// The item to edit, NewRow for a new one. The form puts the id of an item it added here.
+    static qint32 gEditItemId;
+
     explicit frmItemDetails(QWidget* parent);
 
     CONTROL_AT(TextBox, txtFields, 3);
@@ -31,6 +34,7 @@ private:
     QList<PriceBox> m_prices = MakePriceBoxes();
 
 public:
+    CONTROL(QWidget, picBot); ///< holds the fields below the prices
     CONTROL_AT(TextBox, txtFields, 6);
     CONTROL_AT(TextBox, txtFields, 7);
     CONTROL_AT(TextBox, txtFields, 4);
@@ -43,9 +47,10 @@ public:
     CONTROL(ComboBox, cboStorage);
 
 private:
-    CustomFields m_customFields{this};
+    CustomFields m_customFields = MakeCustomFields();
 
 public:
+    CONTROL(QWidget, picBotButts); ///< holds the buttons
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
 
@@ -53,8 +58,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    friend class CustomFields;
-
     // What the boxes of the array are for.
     TextBox* const m_number = txtFields_3;
     TextBox* const m_name = txtFields_5;
@@ -70,10 +73,8 @@ private:
     {
         return Make<Control>(QStringLiteral("%1_%2").arg(QLatin1String(array)).arg(index).toLatin1().constData());
     }
-    /// A label that shows a name out of the data: as it is, wrapped, no markup and no access key read into it.
-    QLabel* MakeNameLabel(const char* array, int index, const QString& name);
-    static void ShowName(QLabel* label, const QString& name);
     QList<PriceBox> MakePriceBoxes();
+    CustomFields MakeCustomFields();
 
     void SetLengths();
     QLayout* MainFields();

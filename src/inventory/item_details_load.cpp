@@ -1,6 +1,5 @@
 #include "base/numbers.h"
 #include "db/connection.h"
-#include "inventory/edit_item.h"
 #include "inventory/item_details.h"
 #include "records/lists.h"
 

@@ -4,7 +4,6 @@
 #include "db/batch.h"
 #include "db/connection.h"
 #include "db/new_row.h"
-#include "inventory/edit_item.h"
 #include "inventory/item_details.h"
 
 namespace {
@@ -16,8 +15,8 @@ bool MayBeUsed(const QString& value, const char* count, const QString& question)
     if (value.isEmpty())
         return true;
     Sql items = Sql(count).Text("value", value);
-    if (gEditItemId != NewRow)
-        items.Append(QStringLiteral(" AND id<>{gEditItemId}")).Number("gEditItemId", gEditItemId);
+    if (frmItemDetails::gEditItemId != NewRow)
+        items.Append(QStringLiteral(" AND id<>{gEditItemId}")).Number("gEditItemId", frmItemDetails::gEditItemId);
     if (gConnection->Execute(items)[0].ToLong() == 0)
         return true;
     return MsgBox(question, Icon::Exclamation, Buttons::YesNoCancel) == Answer::Yes;
@@ -27,13 +26,13 @@ void SavePrice(const QString& price, const QString& priceListId)
 {
     const Recordset stored = gConnection->Execute(
         Sql("SELECT id, price FROM itempricelist WHERE itemid = {gEditItemId} AND pricelistid = {Tag}")
-            .Number("gEditItemId", gEditItemId)
+            .Number("gEditItemId", frmItemDetails::gEditItemId)
             .Raw("Tag", priceListId));
     if (!stored.Eof()) {
         gConnection->Execute(
             Sql("UPDATE itempricelist SET price = '{text}' WHERE itemid = {gEditItemId} AND pricelistid = {Tag}")
                 .Text("text", price)
-                .Number("gEditItemId", gEditItemId)
+                .Number("gEditItemId", frmItemDetails::gEditItemId)
                 .Raw("Tag", priceListId));
         return;
     }
@@ -41,7 +40,7 @@ void SavePrice(const QString& price, const QString& priceListId)
     row.AddNew();
     row.Set("Price", price);
     row.Set("PriceListID", priceListId);
-    row.Set("ItemID", gEditItemId);
+    row.Set("ItemID", frmItemDetails::gEditItemId);
     row.Update();
 }
 

@@ -1,5 +1,6 @@
 #include "inventory/item_group_form.h"
 
+#include "controls/focus.h"
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
@@ -10,11 +11,7 @@
 #include "records/lists.h"
 #include "sql/schema.h"
 
-namespace {
-constexpr int ScrollBarTwips = 400;
-}
-
-qint32 gEditItemGroupId = NewRow;
+qint32 frmItemGroup::gEditItemGroupId = NewRow;
 
 frmItemGroup::frmItemGroup(QWidget* parent)
     : Form("frmItemGroup", tr("Item Group Details"), parent)
@@ -45,15 +42,18 @@ frmItemGroup::frmItemGroup(QWidget* parent)
     SetCancelButton(cmdCancel);
     resize(480, 480);
 
-    SetUpColumns(gItems, {{"Name", 2400, CellAlign::CenterTop}}, 0);
-    gItems->SetColAlignment(0, CellAlign::LeftCenter);
+    gItems->SetColumns(
+        {{"name", tr("Name"), 2400, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::Always}});
+    gItems->StretchWithSize();
     FillItems();
     if (gEditItemGroupId == NewRow)
         gItems->SetRows(1);
     else
         ShowStoredGroup();
 
-    On(gItems, &FlexGrid::Resized, this, [this] { StretchColumn(gItems, 0, ScrollBarTwips); });
+    // Enter in the list of items adds the one that is chosen there.
+    OnFocusGained(cboItems, [this] { SetDefaultButton(cmdAdd, true); });
+    OnFocusLeft(cboItems, [this] { SetDefaultButton(cmdOk, true); });
     On(cmdAdd, &QPushButton::clicked, this, &frmItemGroup::AddMember);
     On(cmdRemove, &QPushButton::clicked, this, &frmItemGroup::RemoveMember);
     On(cmdOk, &QPushButton::clicked, this, &frmItemGroup::Save);
@@ -78,14 +78,10 @@ void frmItemGroup::ShowStoredGroup()
 
 void frmItemGroup::RefreshItemGroupList(int row, qint64 selectId)
 {
-    LoadList(gItems,
-        Sql("SELECT item.id, name FROM itemgroup_item, item WHERE itemgroup_item.itemid = item.id "
-            "AND itemgroupid = {gEditItemGroupId}")
-            .Number("gEditItemGroupId", gEditItemGroupId),
-        row, selectId, [](const Recordset& item, GridFill& fill) {
-            fill.Add(item.Text(1));
-            return item.Long(0);
-        });
+    gItems->Load(Sql("SELECT item.id, name FROM itemgroup_item, item WHERE itemgroup_item.itemid = item.id "
+                     "AND itemgroupid = {gEditItemGroupId}")
+                     .Number("gEditItemGroupId", gEditItemGroupId),
+        row, selectId);
 }
 
 void frmItemGroup::AddMember()

@@ -1,39 +1,30 @@
 #include "inventory/item_groups.h"
 
-#include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "inventory/item_group_form.h"
-#include "records/lists.h"
 
 ItemGroups::ItemGroups(QWidget* parent)
-    : Panel("picItemGroups", parent)
+    : ListPanel("picItemGroups", parent)
 {
     cmdItemGroupEdit->setText(tr("View/Edit Item Group"));
     cmdItemGroupNew->setText(tr("New Item Group"));
     cmdItemGroupDelete->setText(tr("Delete Item Group"));
     gItemGroups->setAccessibleName(tr("Item Groups"));
-    gItemGroups->SetCols(1);
-    gItemGroups->SetColAlignment(0, CellAlign::LeftCenter);
-
-    auto* buttonBar = new QWidget;
-    buttonBar->setObjectName(QStringLiteral("picItemGroupsBot"));
-    buttonBar->setLayout(row({stretch(), cmdItemGroupEdit, cmdItemGroupNew, cmdItemGroupDelete}));
-    buttonBar->layout()->setContentsMargins(0, 0, 0, 0);
+    // The instructions promise sorting, but this list stays in order of name.
+    gItemGroups->SetColumns(
+        {{"name", tr("Name"), 800, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::Always}});
 
     setLayout(column({
         head(tr("Item Groups"),
             tr("Instructions - you are currently viewing your item groups. To sort by a column click it's title. "
                "For more details press F1 for help.")),
         gItemGroups,
-        buttonBar,
+        ButtonBar("picItemGroupsBot", {stretch(), cmdItemGroupEdit, cmdItemGroupNew, cmdItemGroupDelete}),
     }));
 
-    On(gItemGroups, &FlexGrid::DblClick, this, [this] {
-        if (gItemGroups->MouseRow() != 0)
-            EditGroup();
-    });
+    ShowList(gItemGroups, cmdItemGroupEdit, [this](int row, qint64 selectId) { RefreshItemGroupList(row, selectId); });
     On(cmdItemGroupEdit, &QPushButton::clicked, this, &ItemGroups::EditGroup);
     On(cmdItemGroupNew, &QPushButton::clicked, this, &ItemGroups::NewGroup);
     On(cmdItemGroupDelete, &QPushButton::clicked, this, &ItemGroups::DeleteGroup);
@@ -43,12 +34,8 @@ void ItemGroups::RefreshItemGroupList(int row, qint64 selectId)
 {
     gConnection->Execute("SELECT count(*) FROM itemgroup").Close();
 
-    LoadList(gItemGroups,
-        Ordered(QStringLiteral("SELECT id, name FROM itemgroup "), gItemGroups, QStringLiteral("ORDER BY name")), row,
-        selectId, [](const Recordset& group, GridFill& fill) {
-            fill.Add(group.Text(1));
-            return group.Long(0);
-        });
+    gItemGroups->Load(
+        gItemGroups->Ordered(QStringLiteral("SELECT id, name FROM itemgroup "), "ORDER BY name"), row, selectId);
 }
 
 void ItemGroups::EditGroup()
@@ -60,14 +47,14 @@ void ItemGroups::EditGroup()
             Icon::Information);
         return;
     }
-    gEditItemGroupId = qint32(groupId);
+    frmItemGroup::gEditItemGroupId = qint32(groupId);
     frmItemGroup(window()).ShowModal();
-    RefreshItemGroupList(gItemGroups->Row(), 0);
+    LoadInPlace();
 }
 
 void ItemGroups::NewGroup()
 {
-    gEditItemGroupId = NewRow;
+    frmItemGroup::gEditItemGroupId = NewRow;
     frmItemGroup(window()).ShowModal();
     RefreshItemGroupList(1, 0);
 }
@@ -89,5 +76,5 @@ void ItemGroups::DeleteGroup()
     if (MsgBox(tr("Delete Item Group?"), Icon::Question, Buttons::YesNo) == Answer::No)
         return;
     gConnection->Execute(Sql("DELETE FROM itemgroup WHERE id = {id}").Number("id", groupId));
-    RefreshItemGroupList(gItemGroups->Row(), 0);
+    LoadInPlace();
 }

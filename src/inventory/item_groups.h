@@ -1,16 +1,16 @@
 #pragma once
 
-#include "controls/flex_grid.h"
-#include "controls/form.h"
+#include "records/list_panel.h"
 
 #include <QPushButton>
 
 /// The view of the item groups, always in order of name.
-class ItemGroups : public Panel {
+class ItemGroups : public ListPanel {
+    Q_OBJECT
 public:
     explicit ItemGroups(QWidget* parent = nullptr);
 
-    CONTROL(FlexGrid, gItemGroups);
+    CONTROL(RecordList, gItemGroups);
     CONTROL(QPushButton, cmdItemGroupEdit);
     CONTROL(QPushButton, cmdItemGroupNew);
     CONTROL(QPushButton, cmdItemGroupDelete);

@@ -9,13 +9,13 @@ frmMultiplePricing::frmMultiplePricing(QWidget* parent)
         {tr("Configure Multiple Item Pricing"),
             tr("Instructions - configure the available Pricing Lists. Each item can multiple pricing."),
             tr("Price Lists:")},
-        PriceLists(), parent)
+        frmAddPriceList::Table(), parent)
 {
 }
 
 void frmMultiplePricing::ShowDetails(qint64 id)
 {
-    gEditPriceListId = ToInteger16(id);
+    frmAddPriceList::gEditPriceListId = ToInteger16(id);
     frmAddPriceList(this).ShowModal();
 }
 

@@ -4,6 +4,7 @@
 
 /// Keeps the price lists: adds, renames and removes them. Whoever shows it reads the lists anew afterwards.
 class frmMultiplePricing : public KeyListForm {
+    Q_OBJECT
 public:
     explicit frmMultiplePricing(QWidget* parent);
 

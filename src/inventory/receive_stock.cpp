@@ -6,13 +6,8 @@
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/connection.h"
-#include "records/lists.h"
 
 namespace {
-
-constexpr int ScrollBarTwips = 400;
-
-enum Column { Number, Name, InStock };
 
 /// While the focus is in `box`, Enter runs `button`.
 void MakeDefaultWhileIn(TextBox* box, QPushButton* button)
@@ -45,16 +40,15 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     resize(640, 520);
 
     txtAddQuantity->setText(QStringLiteral("0"));
-    SetUpColumns(gInventory,
-        {{"Number", 1600, CellAlign::LeftCenter}, {"Name", 3200, CellAlign::CenterTop},
-            {"In Stock", 1600, CellAlign::CenterTop}},
-        Name);
-    gInventory->SetColAlignment(Number, CellAlign::LeftCenter);
-    gInventory->SetColAlignment(Name, CellAlign::LeftCenter);
-    gInventory->SetColAlignment(InStock, CellAlign::RightCenter);
+    gInventory->SetColumns({
+        {"number", tr("Number"), 1600, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder},
+        {"name", tr("Name"), 3200, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::Always},
+        {"noinstock", tr("In Stock"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, NoOrder},
+    });
+    gInventory->StretchWithSize();
+    gInventory->ShowFoundRowOnTop();
     RefreshInventoryList(1, 0);
 
-    On(gInventory, &FlexGrid::Resized, this, [this] { StretchColumn(gInventory, Name, ScrollBarTwips); });
     On(cmdAddBarCodeItem, &QPushButton::clicked, this, &frmReceiveStock::FindByBarcode);
     On(cmdUpdateStockLevel, &QPushButton::clicked, this, &frmReceiveStock::UpdateStockLevel);
 }
@@ -64,17 +58,9 @@ void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
     Hourglass hourglass;
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
-    LoadList(gInventory,
-        Ordered(QStringLiteral("SELECT id, [number], name, noinstock FROM item "), gInventory,
-            QStringLiteral("ORDER BY item.name")),
-        row, selectId, [](const Recordset& item, GridFill& fill) {
-            fill.Add(item.Text(1));
-            fill.Add(item.Text(2));
-            fill.Add(item.Text(3));
-            return item.Long(0);
-        });
-    if (!gInventory->RowIsVisible(gInventory->Row()))
-        gInventory->SetTopRow(gInventory->Row());
+    gInventory->Load(
+        gInventory->Ordered(QStringLiteral("SELECT id, [number], name, noinstock FROM item "), "ORDER BY item.name"),
+        row, selectId);
 }
 
 void frmReceiveStock::FindByBarcode()

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "records/record_list.h"
 
 #include <QPushButton>
 
@@ -10,12 +10,13 @@
 /// scanner that ends its text with Enter drives the form alone, as Enter searches in one box and books in from the
 /// other.
 class frmReceiveStock : public Form {
+    Q_OBJECT
 public:
     explicit frmReceiveStock(QWidget* parent);
 
     CONTROL(TextBox, txtBarcode);
     CONTROL(QPushButton, cmdAddBarCodeItem);
-    CONTROL(FlexGrid, gInventory);
+    CONTROL(RecordList, gInventory);
     CONTROL(TextBox, txtAddQuantity);
     CONTROL(QPushButton, cmdUpdateStockLevel);
     CONTROL(QPushButton, cmdCancel);

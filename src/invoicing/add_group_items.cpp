@@ -2,14 +2,11 @@
 
 #include "controls/layout.h"
 #include "controls/message_box.h"
-#include "records/lists.h"
 
 std::vector<GroupItem> frmAddGroupItems::GroupItems;
 qint32 frmAddGroupItems::GroupItemCount = 0;
 
 namespace {
-
-constexpr int MarginForScrollBar = 400;
 
 std::vector<GroupItem> ReadGroupItems(qint64 groupId, qint64 priceListId)
 {
@@ -43,17 +40,13 @@ frmAddGroupItems::frmAddGroupItems(qint64 priceListId, QWidget* parent)
         row({stretch(), cmdOk, cmdCancel}),
     }));
     resize(480, 400);
-    layout()->activate();
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
 
-    SetUpColumns(gItemGroups, {{QT_TR_NOOP("Name"), 6300, CellAlign::LeftCenter}}, 0);
-    StretchColumn(gItemGroups, 0, MarginForScrollBar);
-    LoadList(gItemGroups, Sql("SELECT id, name FROM itemgroup ORDER BY name"), 1, 0,
-        [](const Recordset& group, GridFill& fill) {
-            fill.Add(group.Text(1));
-            return group.Long(0);
-        });
+    gItemGroups->SetColumns(
+        {{"name", tr("Name"), 6300, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder, Spare::Always}});
+    gItemGroups->StretchWithSize();
+    gItemGroups->Load(Sql("SELECT id, name FROM itemgroup ORDER BY name"), 1, 0);
 
     On(cmdOk, &QPushButton::clicked, this, &frmAddGroupItems::TakeItems);
     On(gItemGroups, &FlexGrid::DblClick, this, &frmAddGroupItems::TakeItems);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/currency.h"
-#include "controls/flex_grid.h"
 #include "controls/form.h"
+#include "records/record_list.h"
 
 #include <QPushButton>
 
@@ -25,7 +25,7 @@ public:
 
     frmAddGroupItems(qint64 priceListId, QWidget* parent);
 
-    CONTROL(FlexGrid, gItemGroups);
+    CONTROL(RecordList, gItemGroups);
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
 

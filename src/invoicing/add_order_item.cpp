@@ -15,9 +15,6 @@ Currency frmAddOrderItem::SelectedItemPrice;
 
 namespace {
 
-constexpr int DescriptionColumn = 2;
-constexpr int ScrollBarMargin = 400; ///< twips
-
 bool IsInStock(qint64 itemId, qint32 quantity)
 {
     const Recordset item = gConnection->Execute(Sql("SELECT noinstock FROM item WHERE id = {id}").Number("id", itemId));
@@ -32,14 +29,17 @@ frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
     SetCaptions();
     BuildLayout();
     resize(760, 600);
-    SetUpColumns(gItems,
-        {{QT_TR_NOOP("Number"), 1300, CellAlign::LeftCenter}, {QT_TR_NOOP("Name"), 2600, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Description"), 3600, CellAlign::LeftCenter},
-            {QT_TR_NOOP("No In Stock"), 1200, CellAlign::RightCenter},
-            {QT_TR_NOOP("Sale Price"), 1400, CellAlign::RightCenter}},
-        DescriptionColumn);
-    for (int col = 0; col < gItems->Cols(); ++col)
-        gItems->SetColAlignment(col, col <= DescriptionColumn ? CellAlign::LeftCenter : CellAlign::RightCenter);
+    constexpr CellAlign Left = CellAlign::LeftCenter;
+    constexpr CellAlign Right = CellAlign::RightCenter;
+    gItems->SetColumns({
+        {"number", tr("Number"), 1300, Left, Left, NoOrder},
+        {"name", tr("Name"), 2600, Left, Left, NoOrder},
+        {"description", tr("Description"), 3600, Left, Left, NoOrder, Spare::Always},
+        {"noinstock", tr("No In Stock"), 1200, Right, Right, NoOrder},
+        {"id", tr("Sale Price"), 1400, Right, Right, NoOrder, Spare::No,
+            [this](const Recordset& item, int id, GridFill& fill) { fill.Add(PriceText(item.Long(id))); }},
+    });
+    gItems->StretchWithSize();
     Connect();
 
     txtQuantityToAdd->setText(QStringLiteral("1"));
@@ -104,12 +104,6 @@ void frmAddOrderItem::Connect()
     }
 }
 
-void frmAddOrderItem::resizeEvent(QResizeEvent* event)
-{
-    Form::resizeEvent(event);
-    StretchColumn(gItems, DescriptionColumn, ScrollBarMargin);
-}
-
 void frmAddOrderItem::FillCategories()
 {
     cboCategory->AddItem(tr("All Categories"), 0);
@@ -137,15 +131,7 @@ void frmAddOrderItem::DoSearch()
 
     const Sql items = ItemSearchStatement({txtItemName->text(), txtItemDescription->text(), txtItemNumber->text(),
         cboSubCategory->SelectedData(), cboCategory->SelectedData()});
-    LoadList(gItems, items, 1, 0, [this](const Recordset& item, GridFill& fill) {
-        enum { Id, Number, Name, Description, NoInStock };
-        fill.Add(item.Text(Number));
-        fill.Add(item.Text(Name));
-        fill.Add(item.Text(Description));
-        fill.Add(NullToText(item[NoInStock]));
-        fill.Add(PriceText(item.Long(Id)));
-        return item.Long(Id);
-    });
+    gItems->Load(items, 1, 0);
 
     lblItemMatches->setText(tr("%1 Item Matches:").arg(gItems->Rows() - 1));
     ShowPriceOfCurrentItem();

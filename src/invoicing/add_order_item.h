@@ -2,9 +2,9 @@
 
 #include "base/currency.h"
 #include "controls/combo_box.h"
-#include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "records/record_list.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -33,14 +33,11 @@ public:
     CONTROL(QPushButton, cmdSearch);
     CONTROL(ComboBox, cboPriceList);
     CONTROL(QLabel, lblItemMatches);
-    CONTROL(FlexGrid, gItems);
+    CONTROL(RecordList, gItems);
     CONTROL(TextBox, txtQuantityToAdd);
     CONTROL(TextBox, txtItemPrice);
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void SetCaptions();

@@ -4,7 +4,6 @@
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "parties/customer_matches.h"
-#include "records/lists.h"
 
 qint16 frmResCustSearch::SelectedCustomerID = -1;
 
@@ -50,10 +49,7 @@ frmResCustSearch::frmResCustSearch(const QString& firstName, const QString& last
     cmdSelect->setAutoDefault(false);
     SetCancelButton(cmdCancel);
 
-    SetUpColumns(gcust,
-        {{QT_TR_NOOP("Name"), 2700, CellAlign::LeftCenter}, {QT_TR_NOOP("Address"), 3600, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Postcode"), 1300, CellAlign::LeftCenter}, {QT_TR_NOOP("Phone"), 1700, CellAlign::LeftCenter}},
-        1);
+    gcust->SetColumns(CustomerMatchColumns({2700, 3600, 1300, 1700}));
     txtFirstname->setText(firstName);
     txtLastname->setText(lastName);
 
@@ -74,7 +70,7 @@ void frmResCustSearch::ListMatches()
 {
     const Hourglass hourglass;
     cmdSelect->setEnabled(false);
-    LoadList(gcust, SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0, AddMatchCells);
+    gcust->Load(SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0);
     cmdSelect->setEnabled(gcust->Rows() > 1);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "records/record_list.h"
 
 #include <QPushButton>
 
@@ -22,7 +22,7 @@ public:
     CONTROL(TextBox, txtFirstname);
     CONTROL(TextBox, txtLastname);
     CONTROL(QPushButton, cmdOk);
-    CONTROL(FlexGrid, gcust);
+    CONTROL(RecordList, gcust);
     CONTROL(QPushButton, cmdSelect);
     CONTROL(QPushButton, cmdCancel);
 

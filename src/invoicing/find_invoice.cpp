@@ -5,17 +5,10 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
-#include "records/lists.h"
+#include "invoicing/invoice_cells.h"
 
 qint16 frmFindInvoice::SelectedInvoiceID = -1;
 bool frmFindInvoice::InvoiceSelected = false;
-
-namespace {
-
-constexpr int BusinessNameColumn = 1;
-constexpr int ScrollBarMargin = 400; ///< twips
-
-} // namespace
 
 frmFindInvoice::frmFindInvoice(QWidget* parent)
     : Form("frmFindInvoice", tr("Find Invoice"), parent)
@@ -37,24 +30,19 @@ frmFindInvoice::frmFindInvoice(QWidget* parent)
     resize(600, 440);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
-    SetUpColumns(gres,
-        {{QT_TR_NOOP("Contact Name"), 3000, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Business Name"), 3000, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Invoice Date"), 1600, CellAlign::LeftCenter}},
-        BusinessNameColumn);
+    gres->SetColumns({
+        {"firstname", tr("Contact Name"), 3000, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder, Spare::No,
+            FullNameCell()},
+        {"businessname", tr("Business Name"), 3000, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder,
+            Spare::Always},
+        {"isubmitteddate", tr("Invoice Date"), 1600, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder, Spare::No,
+            ShortDateCell()},
+    });
+    gres->StretchWithSize();
 
     On(cmdOk, &QPushButton::clicked, this, &frmFindInvoice::Search);
     On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindInvoice::TakeInvoice);
-    On(gres, &FlexGrid::DblClick, this, [this] {
-        if (gres->MouseRow() != 0)
-            TakeInvoice();
-    });
-}
-
-void frmFindInvoice::resizeEvent(QResizeEvent* event)
-{
-    Form::resizeEvent(event);
-    StretchColumn(gres, BusinessNameColumn, ScrollBarMargin);
+    On(gres, &RecordList::Opened, this, &frmFindInvoice::TakeInvoice);
 }
 
 void frmFindInvoice::Search()
@@ -73,16 +61,7 @@ void frmFindInvoice::Search()
             "ORDER BY invoice.SubmittedDate")
             .Raw("from", DateToYmd(dtFromDate->Value()))
             .Raw("to", DateToYmd(dtToDate->Value()));
-    ShortDateWriter shortDate;
-    std::string name;
-    LoadList(gres, invoices, 1, 0, [&](const Recordset& invoice, GridFill& fill) {
-        enum { Id, BusinessName, SubmittedDate, FirstName, LastName };
-        name.assign(invoice.Text(FirstName)).append(1, ' ').append(invoice.Text(LastName));
-        fill.Add(name);
-        fill.Add(invoice.Text(BusinessName));
-        fill.Add(shortDate(invoice.StoredText(SubmittedDate)));
-        return invoice.Long(Id);
-    });
+    gres->Load(invoices, 1, 0);
     lblTotalCustomers->setText(QString::number(gres->Rows() - 1));
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/date_picker.h"
-#include "controls/flex_grid.h"
 #include "controls/form.h"
+#include "records/record_list.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -21,13 +21,10 @@ public:
     CONTROL(DatePicker, dtFromDate);
     CONTROL(DatePicker, dtToDate);
     CONTROL(QPushButton, cmdOk);
-    CONTROL(FlexGrid, gres);
+    CONTROL(RecordList, gres);
     CONTROL(QLabel, lblTotalCustomers);
     CONTROL(QPushButton, cmdEditCustomer);
     CONTROL(QPushButton, cmdCancel);
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void Search();

@@ -101,7 +101,7 @@ bool InvoicePage::AddChosenGroupItems()
 
 qint32 InvoicePage::QuantityInRow(int row) const
 {
-    return CLng(gNewInvoice->TextMatrix(row, 0));
+    return CLng(gNewInvoice->CellText(row, "quantity"));
 }
 
 void InvoicePage::EditOrderItem()
@@ -115,8 +115,8 @@ void InvoicePage::EditOrderItem()
 void InvoicePage::EditLine(qint64 lineId)
 {
     const int row = gNewInvoice->Row();
-    const QString quantity = gNewInvoice->TextMatrix(row, 0);
-    const QString price = gNewInvoice->TextMatrix(row, 3);
+    const QString quantity = gNewInvoice->CellText(row, "quantity");
+    const QString price = gNewInvoice->CellText(row, "amount");
     const qint32 oldQuantity = QuantityInRow(row);
     // The price as shown: it replaces the stored one even when the form is cancelled.
     frmItemQuantity::EditLineQuantity = oldQuantity;

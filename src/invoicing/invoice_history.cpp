@@ -1,41 +1,13 @@
 #include "invoicing/invoice_history.h"
 
-#include "base/dates.h"
 #include "controls/hourglass.h"
-#include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/batch.h"
-#include "records/lists.h"
+#include "invoicing/invoice_cells.h"
 
 namespace {
 
 constexpr int UnpaidInvoices = 1; ///< the filter's second entry
-
-const QStringList& SortExpressions()
-{
-    static const QStringList expressions{QStringLiteral("invoiceno"), QString(), QStringLiteral("firstname, lastname"),
-        QStringLiteral("invoice.submitteddate")};
-    return expressions;
-}
-
-/// Writes the rows of the list's statement. Texts go from the row to the grid as they are, since the list may be long.
-class InvoiceRowWriter {
-public:
-    std::optional<qint64> operator()(const Recordset& invoice, GridFill& fill)
-    {
-        enum { Id, InvoiceNo, SubmittedDate, FirstName, LastName, BusinessName };
-        fill.Add(invoice.Text(InvoiceNo));
-        fill.Add(invoice.Text(BusinessName));
-        m_name.assign(invoice.Text(FirstName)).append(1, ' ').append(invoice.Text(LastName));
-        fill.Add(m_name);
-        fill.Add(m_shortDate(invoice.StoredText(SubmittedDate)));
-        return invoice.Long(Id);
-    }
-
-private:
-    std::string m_name;
-    ShortDateWriter m_shortDate;
-};
 
 } // namespace
 
@@ -50,7 +22,7 @@ void DoDelete(qint64 invoiceId)
 }
 
 InvoiceHistory::InvoiceHistory(QWidget* parent)
-    : Panel("picArrivals", parent)
+    : ListPanel("picArrivals", parent)
 {
     cmdViewDetails->setText(tr("View/Edit Invoice"));
     cmdAddReservation->setText(tr("New Invoice"));
@@ -59,26 +31,42 @@ InvoiceHistory::InvoiceHistory(QWidget* parent)
     auto* filterLabel = new QLabel(tr("Show invoices:"));
     SetLabelOf(filterLabel, cboInvoiceFilter);
 
+    gInvoices->SetColumns({
+        {"invoiceno", tr("Number"), 800, CellAlign::CenterTop, CellAlign::LeftCenter, "invoiceno"},
+        {"businessname", tr("Business Name"), 800, CellAlign::CenterTop, CellAlign::LeftCenter, DefaultOrder,
+            Spare::Always},
+        {"firstname", tr("Name"), 2400, CellAlign::CenterTop, CellAlign::LeftCenter, "firstname, lastname", Spare::No,
+            FullNameCell()},
+        {"submitteddate", tr("Invoice Date"), 1440, CellAlign::CenterTop, CellAlign::LeftCenter,
+            "invoice.submitteddate", Spare::No, ShortDateCell()},
+    });
+
+    TitleLabel()->setObjectName(QStringLiteral("Label1_8"));
     setLayout(column({
         head(tr("Invoice History"),
             tr("Instructions - you are currently viewing your Invoice History. This includes all past invoices that "
                "have been created. To sort by a column click it's title. For more details press F1 for help.")),
         row({filterLabel, cboInvoiceFilter, stretch()}),
         gInvoices,
-        row({stretch(), cmdViewDetails, cmdAddReservation, cmdSimpleCalCancel}),
+        ButtonBar("picSimpleCalButBar", {stretch(), cmdViewDetails, cmdAddReservation, cmdSimpleCalCancel}),
     }));
 
     On(cboInvoiceFilter, &ComboBox::Click, this, [this] { RefreshInvoiceList(1, 0); });
-    On(gInvoices, &FlexGrid::Click, this, [this] {
-        SortOnTitleClick(gInvoices, SortExpressions(), [this] { RefreshInvoiceList(gInvoices->Row(), 0); });
-    });
-    On(gInvoices, &FlexGrid::DblClick, this, [this] {
-        if (gInvoices->MouseRow() != 0)
-            ViewDetails();
-    });
+    ShowList(gInvoices, cmdViewDetails, [this](int row, qint64 selectId) { RefreshInvoiceList(row, selectId); });
     On(cmdViewDetails, &QPushButton::clicked, this, &InvoiceHistory::ViewDetails);
     On(cmdAddReservation, &QPushButton::clicked, this, [this] { emit NewInvoice(); });
     On(cmdSimpleCalCancel, &QPushButton::clicked, this, &InvoiceHistory::DeleteInvoice);
+}
+
+void InvoiceHistory::FillInvoiceFilter()
+{
+    for (const QString& filter : {tr("All Invoices"), tr("Unpaid Invoices")})
+        cboInvoiceFilter->AddItem(filter, 0);
+}
+
+void InvoiceHistory::ShowAllInvoices()
+{
+    SelectIgnoring(cboInvoiceFilter, 0, [this] { RefreshInvoiceList(1, 0); });
 }
 
 void InvoiceHistory::RefreshInvoiceList(int selectRow, qint64 selectId)
@@ -91,8 +79,7 @@ void InvoiceHistory::RefreshInvoiceList(int selectRow, qint64 selectId)
                                   "WHERE invoice.customerid = customer.id ");
     if (cboInvoiceFilter->ListIndex() == UnpaidInvoices)
         head += QStringLiteral("AND paid=0 ");
-    LoadList(gInvoices, Ordered(head, gInvoices, QStringLiteral("ORDER BY businessname")), selectRow, selectId,
-        InvoiceRowWriter());
+    gInvoices->Load(gInvoices->Ordered(head, "ORDER BY businessname"), selectRow, selectId);
 }
 
 qint64 InvoiceHistory::SelectedInvoice() const
@@ -117,5 +104,5 @@ void InvoiceHistory::DeleteInvoice()
     if (MsgBox(tr("Are you sure you want to delete this invoice?"), Icon::Question, Buttons::YesNo) != Answer::Yes)
         return;
     DoDelete(invoiceId);
-    RefreshInvoiceList(gInvoices->Row(), 0);
+    LoadInPlace();
 }

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "controls/combo_box.h"
-#include "controls/flex_grid.h"
-#include "controls/form.h"
+#include "records/list_panel.h"
 
 #include <QPushButton>
 
@@ -10,18 +9,21 @@
 void DoDelete(qint64 invoiceId);
 
 /// The list of all invoices that have a customer. It is what shows when an invoice has ended.
-///
-/// The main window fills cboInvoiceFilter and sets up the columns of gInvoices when it loads.
-class InvoiceHistory : public Panel {
+class InvoiceHistory : public ListPanel {
     Q_OBJECT
 public:
     explicit InvoiceHistory(QWidget* parent);
+
+    /// The entries of the filter, with none selected.
+    void FillInvoiceFilter();
+    /// Selects the filter's first entry and fills the list. A failure is dropped.
+    void ShowAllInvoices();
 
     /// Refills the list. The invoice `selectId` is selected, else row `selectRow` or the last one.
     void RefreshInvoiceList(int selectRow, qint64 selectId);
 
     CONTROL(ComboBox, cboInvoiceFilter);
-    CONTROL(FlexGrid, gInvoices);
+    CONTROL(RecordList, gInvoices);
     CONTROL(QPushButton, cmdViewDetails);
     CONTROL(QPushButton, cmdAddReservation);
     CONTROL(QPushButton, cmdSimpleCalCancel);

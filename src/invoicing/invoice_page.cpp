@@ -21,11 +21,11 @@ void InvoicePage::ShowInvoicePage()
 
 void InvoicePage::ShowSecondaryTax()
 {
-    lblLabels_26->setText(SecondaryTaxName + QLatin1Char(':'));
-    lblLabels_26->setToolTip(QStringLiteral("<span>%1</span>").arg(SecondaryTaxName.toHtmlEscaped()));
-    lblSecondTax->setAccessibleName(SecondaryTaxName);
-    lblLabels_26->setVisible(SecondaryTaxEnable);
-    lblSecondTax->setVisible(SecondaryTaxEnable);
+    lblLabels_26->setText(SecondaryTax::SecondaryTaxName + QLatin1Char(':'));
+    lblLabels_26->setToolTip(QStringLiteral("<span>%1</span>").arg(SecondaryTax::SecondaryTaxName.toHtmlEscaped()));
+    lblSecondTax->setAccessibleName(SecondaryTax::SecondaryTaxName);
+    lblLabels_26->setVisible(SecondaryTax::SecondaryTaxEnable);
+    lblSecondTax->setVisible(SecondaryTax::SecondaryTaxEnable);
 }
 
 void InvoicePage::FillPriceListChoice()
@@ -36,7 +36,7 @@ void InvoicePage::FillPriceListChoice()
 
 void InvoicePage::PriceListChosen()
 {
-    gNewInvoice->SetTitle(3, cboPriceList->Text(), CellAlign::RightCenter);
+    gNewInvoice->SetTitleOf("amount", cboPriceList->Text());
     RefreshNewInvoiceItemsList(1, 0);
 }
 
@@ -103,7 +103,7 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
 {
     RunningTotal running;
     TaxRateColumn taxRates;
-    LoadList(gNewInvoice, OpenInvoice::LinesStatement(), selectRow, selectId,
+    gNewInvoice->LoadRows(OpenInvoice::LinesStatement(), selectRow, selectId,
         [&running, &taxRates](const Recordset& line, GridFill& fill) {
             enum { Id, Quantity, Number, Name, Amount, TaxRateName, TaxRatePercentage };
             const Currency amount = line.Money(Amount);
@@ -116,7 +116,6 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
             fill.Add(taxRates.Text(line.Text(TaxRateName), taxPercentage));
             fill.Add(FormatCurrency(lineTotal));
             running.Add(lineTotal);
-            return line.Long(Id);
         });
     const InvoiceTotals totals = running.Totals();
     ShowTotals(totals.secondTax, totals.total);

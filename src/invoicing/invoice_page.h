@@ -3,11 +3,11 @@
 #include "base/currency.h"
 #include "controls/combo_box.h"
 #include "controls/date_picker.h"
-#include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
 #include "invoicing/open_invoice.h"
 #include "parties/party_fields.h"
+#include "records/record_list.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -15,13 +15,13 @@
 
 /// The invoice page: the one invoice that is open, new or old. It has no Save button and keeps no copy of the data:
 /// each control writes through when the focus leaves it, so the rows are as current as the last control left.
-///
-/// The main window fills cboPaymentMethod and the columns of gNewInvoice when it loads.
 class InvoicePage : public Panel {
     Q_OBJECT
 public:
     explicit InvoicePage(QWidget* parent);
 
+    /// The entries of the payment methods, with none selected.
+    void FillPaymentMethods();
     /// Opens gCurrentInvoiceId, or a new invoice when that is -1. To be called when the panel shows.
     void ShowInvoicePage();
     /// Captions or hides the secondary tax as it is set up now.
@@ -66,7 +66,7 @@ public:
     CONTROL(QWidget, picBarcode);
     CONTROL(TextBox, txtBarcode);
     CONTROL(QPushButton, cmdAddBarCodeItem);
-    CONTROL(FlexGrid, gNewInvoice);
+    CONTROL(RecordList, gNewInvoice);
     CONTROL(QPushButton, cmdAddOrderItem);
     CONTROL(QPushButton, cmdEditOrderItem);
     CONTROL(QPushButton, cmdDeleteOrderItem);

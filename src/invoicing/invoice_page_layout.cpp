@@ -115,17 +115,28 @@ QLayout* InvoicePage::CustomerSection()
 
 QLayout* InvoicePage::LinesSection()
 {
-    constexpr CellAlign Alignments[] = {CellAlign::CenterCenter, CellAlign::LeftCenter, CellAlign::LeftCenter,
-        CellAlign::RightCenter, CellAlign::LeftCenter, CellAlign::RightCenter};
-    gNewInvoice->SetCols(int(std::size(Alignments)));
-    for (int col = 0; col < gNewInvoice->Cols(); ++col)
-        gNewInvoice->SetColAlignment(col, Alignments[col]);
+    gNewInvoice->SetColumns({
+        {"quantity", tr("Qty"), 500, CellAlign::CenterTop, CellAlign::CenterCenter, NoOrder},
+        {"number", tr("Number"), 1200, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder},
+        {"name", tr("Name"), 1600, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder, Spare::Always},
+        {"amount", tr("Sale Price"), 1200, CellAlign::RightCenter, CellAlign::RightCenter, NoOrder},
+        {"taxratename", tr("Tax Rate"), 1600, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder},
+        {"taxratepercentage", tr("Sub-Total"), 1100, CellAlign::RightCenter, CellAlign::RightCenter, NoOrder},
+    });
+    gNewInvoice->SetScrollBarRoom(350);
 
     auto* grid = row(
         {gNewInvoice, column({cmdAddOrderItem, cmdEditOrderItem, cmdDeleteOrderItem, cmdAddGroupItems, stretch()})});
     auto* section = column({CaptionOver(tr("Items Ordered:"), gNewInvoice), grid});
     section->setStretchFactor(grid, 1);
     return section;
+}
+
+void InvoicePage::FillPaymentMethods()
+{
+    for (const QString& method :
+        {tr("N/A"), tr("Check"), tr("Cash"), tr("Credit Card"), tr("Bank Transfer"), tr("Charge to Account")})
+        cboPaymentMethod->AddItem(method, 0);
 }
 
 QLayout* InvoicePage::PaymentAndTotals()

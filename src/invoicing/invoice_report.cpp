@@ -119,10 +119,10 @@ Currency StoredSecondTax(qint32 invoiceId)
 void ShowSecondTax(Report& report)
 {
     ReportControl& name = report.Control(QStringLiteral("TaxName2"));
-    if (SecondaryTaxEnable)
-        name.caption = SecondaryTaxName;
-    name.visible = SecondaryTaxEnable;
-    report.Control(QStringLiteral("txtTotal2ndTax")).visible = SecondaryTaxEnable;
+    if (SecondaryTax::SecondaryTaxEnable)
+        name.caption = SecondaryTax::SecondaryTaxName;
+    name.visible = SecondaryTax::SecondaryTaxEnable;
+    report.Control(QStringLiteral("txtTotal2ndTax")).visible = SecondaryTax::SecondaryTaxEnable;
 }
 
 void ShowGrandTotal(Report& report, qint32 invoiceId, Currency secondTax)
@@ -134,7 +134,7 @@ void ShowGrandTotal(Report& report, qint32 invoiceId, Currency secondTax)
         return;
     const Value subtotal = row["subtotal"];
     double total = subtotal.IsNull() ? 0 : subtotal.ToDouble();
-    if (SecondaryTaxEnable)
+    if (SecondaryTax::SecondaryTaxEnable)
         total += secondTax.ToDouble();
     report.Control(QStringLiteral("GrandTotal")).caption = FormatCurrency(total);
 }

@@ -36,8 +36,8 @@ void RunningTotal::Add(Currency lineTotal)
 InvoiceTotals RunningTotal::Totals() const
 {
     InvoiceTotals totals{0, m_total};
-    if (SecondaryTaxEnable) {
-        totals.secondTax = m_total * SecondaryTaxPercentage / 100;
+    if (SecondaryTax::SecondaryTaxEnable) {
+        totals.secondTax = m_total * SecondaryTax::SecondaryTaxPercentage / 100;
         totals.total += totals.secondTax;
     }
     return totals;

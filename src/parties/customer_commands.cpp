@@ -6,7 +6,14 @@
 #include "db/new_row.h"
 #include "parties/customer_record.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+/// The context of the texts.
+class CustomerCommands {
+    Q_DECLARE_TR_FUNCTIONS(CustomerCommands)
+};
 
 bool IsCustomer(qint64 customerId)
 {
@@ -25,7 +32,7 @@ bool HasInvoices(qint64 customerId)
 
 void AddCustomer(QWidget* parent)
 {
-    gEditCustomerId = NewRow;
+    frmCustomer::gEditCustomerId = NewRow;
     frmCustomer(parent).ShowModal();
 }
 
@@ -33,7 +40,7 @@ void EditCustomer(qint64 customerId, QWidget* parent)
 {
     if (!IsCustomer(customerId))
         return;
-    gEditCustomerId = qint16(ToInteger16(customerId));
+    frmCustomer::gEditCustomerId = qint16(ToInteger16(customerId));
     frmCustomer(parent).ShowModal();
 }
 
@@ -42,12 +49,13 @@ bool DeleteCustomer(qint64 customerId)
     if (!IsCustomer(customerId))
         return false;
     if (HasInvoices(customerId)) {
-        MsgBox(QObject::tr("This customer has existing invoices and cannot be deleted. To delete this customer first "
-                           "delete all their invoices."),
-            Icon::Critical, QObject::tr("Cannot delete customer."));
+        MsgBox(CustomerCommands::tr(
+                   "This customer has existing invoices and cannot be deleted. To delete this customer first "
+                   "delete all their invoices."),
+            Icon::Critical, CustomerCommands::tr("Cannot delete customer."));
         return false;
     }
-    if (MsgBox(QObject::tr("Delete customer?"), Icon::Question, Buttons::YesNo) == Answer::No)
+    if (MsgBox(CustomerCommands::tr("Delete customer?"), Icon::Question, Buttons::YesNo) == Answer::No)
         return false;
     gConnection->Execute(Sql("DELETE FROM customer WHERE id = {id}").Number("id", customerId));
     return true;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "controls/flex_grid.h"
-#include "db/recordset.h"
-
-#include <optional>
+#include "records/record_list.h"
 
 /// How the customer finders list a match: name, address, post code and phone, from a statement that selects `id`,
-/// `firstname`, `lastname`, `address1`, `address2`, `postcode` and `phone`. Null shows as "". Returns the id.
-std::optional<qint64> AddMatchCells(const Recordset& customer, GridFill& fill);
+/// `firstname`, `lastname`, `address1`, `address2`, `postcode` and `phone`. The address takes up spare width.
+struct CustomerMatchWidths {
+    int name, address, postCode, phone; ///< twips
+};
+QList<ListColumn> CustomerMatchColumns(const CustomerMatchWidths& widths);

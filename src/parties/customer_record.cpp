@@ -12,7 +12,7 @@ constexpr QLatin1String NoDiscount("0");
 
 } // namespace
 
-qint16 gEditCustomerId = NewRow;
+qint16 frmCustomer::gEditCustomerId = NewRow;
 
 frmCustomer::frmCustomer(QWidget* parent)
     : Form("frmCustomer", tr("Customer Details"), parent)

@@ -6,13 +6,13 @@
 
 #include <QPushButton>
 
-/// The customer that the form edits, NewRow for a new one. 16 bits wide: set it through ToInteger16.
-extern qint16 gEditCustomerId;
-
 /// Edits one customer. OK writes the row whatever the boxes hold; a discount that is no number becomes 0.
 class frmCustomer : public Form {
     Q_OBJECT
 public:
+    /// The customer to edit, NewRow for a new one. 16 bits wide: set it through ToInteger16.
+    static qint16 gEditCustomerId;
+
     explicit frmCustomer(QWidget* parent);
 
     CONTROL(TextBox, txtFirstname);

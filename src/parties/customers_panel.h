@@ -1,12 +1,11 @@
 #pragma once
 
-#include "controls/flex_grid.h"
-#include "controls/form.h"
+#include "records/list_panel.h"
 
 #include <QPushButton>
 
 /// The customer list of the main window.
-class CustomersPanel : public Panel {
+class CustomersPanel : public ListPanel {
     Q_OBJECT
 public:
     explicit CustomersPanel(QWidget* parent = nullptr);
@@ -18,7 +17,7 @@ public:
     /// Shows the customer record for a new customer and reloads the list.
     void AddCustomer();
 
-    CONTROL(FlexGrid, gcust);
+    CONTROL(RecordList, gcust);
     CONTROL(QPushButton, cmdEditCustomer);
     CONTROL(QPushButton, cmdCreateCustomer);
     CONTROL(QPushButton, cmdDeleteCustomer);

@@ -6,7 +6,6 @@
 #include "parties/customer_commands.h"
 #include "parties/customer_criteria.h"
 #include "parties/customer_matches.h"
-#include "records/lists.h"
 
 #include <QHeaderView>
 #include <QScreen>
@@ -21,9 +20,7 @@ constexpr int SeparatorPixels = 2;
 constexpr int RowsWhenGrown = 10;
 constexpr int FewestRows = 4;
 
-constexpr int AddressColumn = 1;
-constexpr int AddressTwips = 1600;
-constexpr int ScrollBarTwips = 400;
+constexpr CustomerMatchWidths ColumnWidths{2400, 1600, 1100, 1600};
 
 void DrawSeparator(QFrame* separator)
 {
@@ -43,6 +40,7 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
     : Form("frmFindCustomer", tr("Find Customer"), parent)
 {
     FillButtons();
+    gcust->SetColumns(CustomerMatchColumns(ColumnWidths));
     DrawSeparator(picSep);
     DrawSeparator(picSep2);
     m_results->setLayout(Results());
@@ -69,10 +67,7 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
         RefreshCustomerScreen(1, 0);
     });
     On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindCustomer::EditSelected);
-    On(gcust, &FlexGrid::DblClick, this, [this] {
-        if (gcust->MouseRow() != 0)
-            EditSelected();
-    });
+    On(gcust, &RecordList::Opened, this, &frmFindCustomer::EditSelected);
     On(cmdDeleteCustomer, &QPushButton::clicked, this, &frmFindCustomer::DeleteSelected);
 }
 
@@ -95,9 +90,6 @@ void frmFindCustomer::FillButtons()
     cmdDeleteCustomer->setText(tr("Delete Customer"));
     picBut->setLayout(column({cmdOk, cmdCancel, stretch(), cmdCreateCustomer, cmdEditCustomer, cmdDeleteCustomer}));
     picBut->layout()->setContentsMargins(0, 0, 0, 0);
-    // They act on the list, which does not show yet.
-    cmdEditCustomer->setEnabled(false);
-    cmdDeleteCustomer->setEnabled(false);
 }
 
 QLayout* frmFindCustomer::Results()
@@ -136,11 +128,11 @@ void frmFindCustomer::RefreshCustomerScreen(int row, qint64 selectId)
         return;
     }
     const Hourglass hourglass;
-    LoadList(gcust,
+    gcust->Load(
         Sql("SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer WHERE {criteria} "
             "ORDER BY lastname, firstname")
             .Raw("criteria", criteria),
-        row, selectId, AddMatchCells);
+        row, selectId);
     lblTotalCustomers->setText(QString::number(gcust->Rows() - 1));
 }
 
@@ -167,8 +159,6 @@ void frmFindCustomer::DeleteSelected()
 
 void frmFindCustomer::Grow()
 {
-    cmdEditCustomer->setEnabled(true);
-    cmdDeleteCustomer->setEnabled(true);
     m_results->show();
     gcust->setMinimumHeight(HeightOfRows(gcust, RowsWhenGrown));
     setMaximumHeight(QWIDGETSIZE_MAX);
@@ -183,15 +173,9 @@ void frmFindCustomer::Grow()
 
 void frmFindCustomer::DoResize()
 {
-    SetUpColumns(gcust,
-        {{QT_TR_NOOP("Name"), 2400, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Address"), AddressTwips, CellAlign::LeftCenter},
-            {QT_TR_NOOP("Postcode"), 1100, CellAlign::LeftCenter}, {QT_TR_NOOP("Phone"), 1600, CellAlign::LeftCenter}},
-        AddressColumn);
-    for (int col = 0; col < gcust->Cols(); ++col)
-        gcust->SetColAlignment(col, CellAlign::LeftCenter);
+    gcust->SetUpColumns();
     // Room for the scroll bar, or a list longer than the grid would need one across as well.
-    gcust->SetColWidth(AddressColumn, std::max(AddressTwips, gcust->ColWidth(AddressColumn) - ScrollBarTwips));
+    gcust->Stretch();
 }
 
 void frmFindCustomer::showEvent(QShowEvent* event)

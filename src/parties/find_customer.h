@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/flex_grid.h"
 #include "controls/form.h"
 #include "controls/text_box.h"
+#include "records/record_list.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -37,7 +37,7 @@ public:
     CONTROL(QPushButton, cmdEditCustomer);
     CONTROL(QPushButton, cmdDeleteCustomer);
     CONTROL(QFrame, picSep); ///< ends the short form
-    CONTROL(FlexGrid, gcust);
+    CONTROL(RecordList, gcust);
     CONTROL(QLabel, Label1);
     CONTROL(QLabel, lblTotalCustomers);
     CONTROL(QFrame, picSep2); ///< ends the tall form

@@ -11,7 +11,7 @@ constexpr QSize FormSize(620, 400);
 
 } // namespace
 
-qint32 gEditVendorId = NewRow;
+qint32 frmVendor::gEditVendorId = NewRow;
 
 frmVendor::frmVendor(QWidget* parent)
     : Form("frmVendor", tr("Vendor Details"), parent)

@@ -6,14 +6,14 @@
 
 #include <QPushButton>
 
-/// The vendor that the form edits, NewRow for a new one.
-extern qint32 gEditVendorId;
-
 /// Edits one vendor. OK writes the row whatever the boxes hold. The notes are stored with a new vendor only: of one
 /// that exists they show, and a change of them is lost.
 class frmVendor : public Form {
     Q_OBJECT
 public:
+    /// The vendor to edit, NewRow for a new one.
+    static qint32 gEditVendorId;
+
     explicit frmVendor(QWidget* parent);
 
     CONTROL(TextBox, txtContactName);

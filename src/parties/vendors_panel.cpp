@@ -1,28 +1,10 @@
 #include "parties/vendors_panel.h"
 
-#include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/new_row.h"
 #include "parties/vendor_record.h"
-#include "records/lists.h"
 
 namespace {
-
-/// One a column; the business name's is the default order.
-const QStringList& SortExpressions()
-{
-    static const QStringList expressions{QString(), QStringLiteral("contactname"), QStringLiteral("phone")};
-    return expressions;
-}
-
-std::optional<qint64> AddVendorCells(const Recordset& row, GridFill& fill)
-{
-    enum { Id, BusinessName, ContactName, Phone };
-    fill.Add(row.Text(BusinessName));
-    fill.Add(row.Text(ContactName));
-    fill.Add(row.Text(Phone));
-    return row.Long(Id);
-}
 
 bool HasItems(qint64 vendorId)
 {
@@ -33,36 +15,29 @@ bool HasItems(qint64 vendorId)
 } // namespace
 
 VendorsPanel::VendorsPanel(QWidget* parent)
-    : Panel("picVendors", parent)
+    : ListPanel("picVendors", parent)
 {
     cmdVendorEdit->setText(tr("View/Edit Vendor"));
     cmdVendorNew->setText(tr("New Vendor"));
     cmdVendorDelete->setText(tr("Delete Vendor"));
     gVendors->setAccessibleName(tr("Vendors"));
 
-    gVendors->SetCols(int(SortExpressions().size()));
-    for (int col = 0; col < gVendors->Cols(); ++col)
-        gVendors->SetColAlignment(col, CellAlign::LeftCenter);
-
-    auto* buttonBar = new QWidget;
-    buttonBar->setObjectName(QStringLiteral("picVendorButBar"));
-    buttonBar->setLayout(row({stretch(), cmdVendorEdit, cmdVendorNew, cmdVendorDelete}));
-    buttonBar->layout()->setContentsMargins(0, 0, 0, 0);
+    gVendors->SetColumns({
+        {"businessname", tr("Business Name"), 800, CellAlign::CenterTop, CellAlign::LeftCenter, DefaultOrder,
+            Spare::Always},
+        {"contactname", tr("Contact Name"), 1600, CellAlign::CenterTop, CellAlign::LeftCenter, "contactname"},
+        {"phone", tr("Phone"), 1600, CellAlign::CenterTop, CellAlign::LeftCenter, "phone"},
+    });
 
     setLayout(column({
         head(tr("Vendors"),
             tr("Instructions - you are currently viewing your vendors. To sort by a column click it's title. For "
                "more details press F1 for help.")),
         gVendors,
-        buttonBar,
+        ButtonBar("picVendorButBar", {stretch(), cmdVendorEdit, cmdVendorNew, cmdVendorDelete}),
     }));
 
-    On(gVendors, &FlexGrid::Click, this,
-        [this] { SortOnTitleClick(gVendors, SortExpressions(), [this] { RefreshVendorList(gVendors->Row(), 0); }); });
-    On(gVendors, &FlexGrid::DblClick, this, [this] {
-        if (gVendors->MouseRow() != 0)
-            EditSelected();
-    });
+    ShowList(gVendors, cmdVendorEdit, [this](int row, qint64 selectId) { RefreshVendorList(row, selectId); });
     On(cmdVendorEdit, &QPushButton::clicked, this, &VendorsPanel::EditSelected);
     On(cmdVendorNew, &QPushButton::clicked, this, &VendorsPanel::AddVendor);
     On(cmdVendorDelete, &QPushButton::clicked, this, &VendorsPanel::DeleteSelected);
@@ -72,10 +47,10 @@ void VendorsPanel::RefreshVendorList(int row, qint64 selectId)
 {
     gVendors->SetRows(1);
     gConnection->Execute("SELECT count(*) FROM item").Close();
-    LoadList(gVendors,
-        Ordered(QStringLiteral("SELECT id, businessname, contactname, phone FROM vendor WHERE id <> 1 "), gVendors,
-            QStringLiteral("ORDER BY businessname")),
-        row, selectId, AddVendorCells);
+    gVendors->Load(
+        gVendors->Ordered(QStringLiteral("SELECT id, businessname, contactname, phone FROM vendor WHERE id <> 1 "),
+            "ORDER BY businessname"),
+        row, selectId);
 }
 
 void VendorsPanel::AddVendor()
@@ -95,7 +70,7 @@ void VendorsPanel::EditSelected()
 
 void VendorsPanel::ShowVendorRecord(qint32 vendorId)
 {
-    gEditVendorId = vendorId;
+    frmVendor::gEditVendorId = vendorId;
     frmVendor(window()).ShowModal();
     RefreshVendorList(1, 0);
 }
@@ -114,5 +89,5 @@ void VendorsPanel::DeleteSelected()
     if (MsgBox(tr("Delete vendor?"), Icon::Question, Buttons::YesNo) == Answer::No)
         return;
     gConnection->Execute(Sql("DELETE FROM vendor WHERE id = {id}").Number("id", vendorId));
-    RefreshVendorList(gVendors->Row(), 0);
+    LoadInPlace();
 }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "controls/flex_grid.h"
-#include "controls/form.h"
+#include "records/list_panel.h"
 
 #include <QPushButton>
 
 /// The vendor list of the main window. The row that stands for no vendor is left out.
-class VendorsPanel : public Panel {
+class VendorsPanel : public ListPanel {
     Q_OBJECT
 public:
     explicit VendorsPanel(QWidget* parent = nullptr);
@@ -18,7 +17,7 @@ public:
     /// Shows the vendor record for a new vendor and reloads the list.
     void AddVendor();
 
-    CONTROL(FlexGrid, gVendors);
+    CONTROL(RecordList, gVendors);
     CONTROL(QPushButton, cmdVendorEdit);
     CONTROL(QPushButton, cmdVendorNew);
     CONTROL(QPushButton, cmdVendorDelete);

@@ -9,6 +9,7 @@
 /// A dialog over two key tables, one above the other: the rows of the upper one in a drop-down list, and below it those
 /// of the lower one that belong to the row chosen there. Each has its Add, Edit and Remove.
 class KeyGroupForm : public Form {
+    Q_OBJECT
 public:
     /// The drop-down list; each dialog has its own name for it.
     ComboBox* const cboGroups;

@@ -7,6 +7,7 @@
 
 /// A dialog over one key table: its rows in a list, with Add, Edit and Remove. The list is read anew after each.
 class KeyListForm : public Form {
+    Q_OBJECT
 public:
     CONTROL(KeyList, lstItems);
     CONTROL(QPushButton, cmdAdd);

@@ -13,6 +13,7 @@
 /// Asks for what a row of a key table is edited by, above all its name. OK refuses an empty name, then adds or updates
 /// the row and closes. A derived form calls ShowStoredRow at the end of its constructor.
 class NameForm : public Form {
+    Q_OBJECT
 public:
     CONTROL(TextBox, txtName);
     CONTROL(QPushButton, cmdOK);

@@ -1,5 +1,4 @@
 #include "app/app_test.h"
-#include "app/main_grids.h"
 #include "base/regional.h"
 #include "config/secondary_tax.h"
 #include "invoicing/open_invoice.h"
@@ -78,7 +77,7 @@ TEST_P(SecondaryTaxLabelTest, FollowsTheSettingsRow)
     EXPECT_EQ(window.picNewInvoice->lblLabels_26->isVisible(), GetParam().shown);
     EXPECT_EQ(window.picNewInvoice->lblSecondTax->isVisible(), GetParam().shown);
     EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), GetParam().label);
-    EXPECT_EQ(SecondaryTaxName, GetParam().name);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name);
 }
 
 INSTANTIATE_TEST_SUITE_P(Settings, SecondaryTaxLabelTest,
@@ -157,7 +156,7 @@ TEST_F(LoadTest, AtLoadTheInventoryGivesItsSpareWidthToTheNumberAndNotToTheName)
 {
     const MainWindow window;
     window.picInventory->gInventory->resize(700, 300);
-    SetUpMainGrids(window);
+    window.Grids().SetUpColumns();
     EXPECT_EQ(Widths(window.picInventory->gInventory), QList<int>({700 * 15 - 6700, 2400, 1600, 1100, 1600}));
 }
 
@@ -167,9 +166,9 @@ TEST_F(LoadTest, ResizingGivesTheSpareWidthToEachGridsColumnEvenOutOfSight)
     for (const QSize size : {QSize(1200, 760), QSize(1500, 900)}) {
         window.resize(size);
         QCoreApplication::processEvents();
-        for (const MainGrid& main : MainGrids(window))
-            EXPECT_EQ(Sum(Widths(main.grid)), main.grid->WidthInTwips() - main.marginAtResize)
-                << main.grid->objectName().toStdString();
+        for (const RecordList* list : window.findChildren<RecordList*>())
+            EXPECT_EQ(Sum(Widths(list)), list->WidthInTwips() - (list == window.picNewInvoice->gNewInvoice ? 350 : 400))
+                << list->objectName().toStdString();
     }
     EXPECT_EQ(window.picInventory->gInventory->ColWidth(3), 1100);
     EXPECT_GT(window.picInventory->gInventory->ColWidth(1), 2400);
@@ -248,7 +247,7 @@ TEST_F(LoadTest, RestoredWidthsHoldOutOfSightAndOddOnesAreIgnored)
     SaveConfig("gVendorsColWidth2", "99999999999999999999");
     SaveConfig("gInvoicesColWidth3", "wide");
     MainWindow& window = Window();
-    RestoreMainGridWidths(window);
+    window.Grids().RestoreWidths();
     window.ShowMainPanel(CustomersListPanel);
     QCoreApplication::processEvents();
     EXPECT_EQ(Widths(window.picCustomers->gcust), QList<int>({3210, 777, 1100, 1600}));

@@ -244,8 +244,8 @@ TEST_F(StartTest, ASplashThatIsLeftAloneLoadsAndGoesWhenTheLoadFailed)
 TEST_F(StartTest, TablesThatAreMissingAreSkippedAndTheWindowShows)
 {
     NotTheFirstRun();
-    SecondaryTaxEnable = false;
-    SecondaryTaxName.clear();
+    SecondaryTax::SecondaryTaxEnable = false;
+    SecondaryTax::SecondaryTaxName.clear();
     for (const char* table : {"settings", "invoice", "PriceList", "item"})
         Run(QStringLiteral("DROP TABLE %1").arg(table));
     ASSERT_TRUE(Start());

@@ -67,7 +67,8 @@ protected:
     QStringList Stored() const
     {
         QStringList stored = Rows(SettingsRow).value(0) + Rows(FirstRate).value(0);
-        stored << GetConfig("HideTaxOnInvoice", "unset") << SecondaryTaxName << TruthText(SecondaryTaxEnable);
+        stored << GetConfig("HideTaxOnInvoice", "unset") << SecondaryTax::SecondaryTaxName
+               << TruthText(SecondaryTax::SecondaryTaxEnable);
         return stored + QDir(Folder()).entryList(QDir::Files);
     }
 
@@ -108,8 +109,8 @@ TEST_F(ConfigurationWizardTest, FinishStoresWhatWasTypedInItsColumns)
             "555-2", copy, "1", "L'Impôt"}}));
     EXPECT_EQ(Rows("SELECT name, percentage FROM taxrate WHERE id <> 1 ORDER BY id"),
         Table({{"Seller's Tax", "8.25"}, {"Later", "9.0"}}));
-    EXPECT_EQ(SecondaryTaxName, "L'Impôt");
-    EXPECT_TRUE(SecondaryTaxEnable);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, "L'Impôt");
+    EXPECT_TRUE(SecondaryTax::SecondaryTaxEnable);
     EXPECT_EQ(GetConfig("HideTaxOnInvoice", "unset"), "True");
 
     EXPECT_NE(copy, logo);

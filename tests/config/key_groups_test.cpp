@@ -92,7 +92,7 @@ TEST_F(LocationsTest, ANewWarehouseIsChosenAndALeftOneToo)
     AwaitName<frmAddWarehouse>("Yard");
     Click(form->cmdCatAdd);
     EXPECT_EQ(form->cboGroups->Text(), "Yard");
-    EXPECT_EQ(CurrentWarehouseID, form->cboGroups->SelectedData());
+    EXPECT_EQ(frmAddWarehouse::CurrentWarehouseID, form->cboGroups->SelectedData());
 
     WhenFormShows<frmAddWarehouse>([](frmAddWarehouse& details) { Click(details.cmdCancel); });
     Click(form->cmdCatAdd);
@@ -129,7 +129,8 @@ TEST_F(CategoriesTest, ANewCategoryHasASubCategoryNoneThatHindersItsRemoval)
     AwaitName<frmAddSubCategory>("Saws");
     Click(form->cmdAdd);
     EXPECT_EQ(Rows("SELECT name, CategoryID FROM subcategory WHERE id <> 1"),
-        Table({{"None", QString::number(CurrentCategoryID)}, {"Saws", QString::number(CurrentCategoryID)}}));
+        Table({{"None", QString::number(frmAddCategory::CurrentCategoryID)},
+            {"Saws", QString::number(frmAddCategory::CurrentCategoryID)}}));
 
     answers.ExpectMessage("This Category is in use by one or more Sub-Categories and so cannot be deleted. To delete "
                           "this Sub-Category first remove the Sub-Categories and then try again.",

@@ -20,13 +20,13 @@ TEST_P(SecondaryTaxTest, ComesFromTheSettingsRow)
 {
     Run(GetParam().statement);
     LoadSecondaryTax();
-    EXPECT_EQ(SecondaryTaxEnable, GetParam().enable);
-    EXPECT_EQ(SecondaryTaxName, GetParam().name);
-    EXPECT_EQ(SecondaryTaxPercentage, GetParam().percentage);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxEnable, GetParam().enable);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxPercentage, GetParam().percentage);
 
     Run("DROP TABLE settings");
     EXPECT_THROW(LoadSecondaryTax(), RuntimeError);
-    EXPECT_EQ(SecondaryTaxName, GetParam().name) << "a failure leaves the triple";
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name) << "a failure leaves the triple";
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, SecondaryTaxTest,

@@ -11,7 +11,7 @@ protected:
     /// Opens the details of a stored rate, or those of a new one.
     std::unique_ptr<frmAddTaxRate> Details(qint32 id)
     {
-        CurrentTaxRateID = id;
+        frmAddTaxRate::CurrentTaxRateID = id;
         auto details = std::make_unique<frmAddTaxRate>(nullptr);
         Shown(details.get());
         return details;
@@ -86,9 +86,9 @@ TEST_F(TaxRatesTest, DetailsDraggedTallerKeepTheirBoxesBelowTheInstructions)
 
 TEST_F(TaxRatesTest, TheSecondaryTaxIsOpenOnlyWhileItIsEnabled)
 {
-    SecondaryTaxEnable = false;
-    SecondaryTaxName = "City Tax";
-    SecondaryTaxPercentage = 7.5;
+    SecondaryTax::SecondaryTaxEnable = false;
+    SecondaryTax::SecondaryTaxName = "City Tax";
+    SecondaryTax::SecondaryTaxPercentage = 7.5;
     Open();
     EXPECT_FALSE(form->txtSalesTaxName2->isEnabled() || form->txtSalesTax2->isEnabled());
     EXPECT_EQ(form->txtSalesTaxName2->text(), "City Tax");
@@ -99,9 +99,9 @@ TEST_F(TaxRatesTest, TheSecondaryTaxIsOpenOnlyWhileItIsEnabled)
 
 TEST_F(TaxRatesTest, AChangeOfTheRatesShowsTheSecondaryTaxAsStored)
 {
-    SecondaryTaxEnable = false;
-    SecondaryTaxName = "City Tax";
-    SecondaryTaxPercentage = 7.5;
+    SecondaryTax::SecondaryTaxEnable = false;
+    SecondaryTax::SecondaryTaxName = "City Tax";
+    SecondaryTax::SecondaryTaxPercentage = 7.5;
     Open();
     Click(form->chkEnableTax2);
     Type(form->txtSalesTaxName2, "GST");
@@ -129,9 +129,9 @@ TEST_P(ClosingTaxRatesTest, StoresTheSecondaryTaxAndReadsTheTripleAnew)
     Type(form->txtSalesTax2, "$7.50");
     GetParam()(*form);
     EXPECT_FALSE(form->isVisible());
-    EXPECT_TRUE(SecondaryTaxEnable);
-    EXPECT_EQ(SecondaryTaxName, "L'Impôt");
-    EXPECT_EQ(SecondaryTaxPercentage, 7.5);
+    EXPECT_TRUE(SecondaryTax::SecondaryTaxEnable);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, "L'Impôt");
+    EXPECT_EQ(SecondaryTax::SecondaryTaxPercentage, 7.5);
     EXPECT_EQ(Rows("SELECT SecondaryTaxEnable, SecondaryTaxName, SecondaryTaxPercentage FROM settings"),
         Table({{"1", "L'Impôt", "7.5"}}));
 }

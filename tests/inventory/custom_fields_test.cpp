@@ -46,13 +46,13 @@ TEST_F(CustomFieldsTest, ValuesAreStoredAsTextAndShownAgain)
 
     EXPECT_EQ(Stored(), Table({{"1", "1"}, {"2", "it's red"}, {"3", ""}, {"4", "O'Brien"}}))
         << "a row that is added takes quotes";
-    Open(gEditItemId);
+    Open(frmItemDetails::gEditItemId);
     EXPECT_TRUE(Member<QCheckBox>("chkCustom_0")->isChecked());
     EXPECT_EQ(Member<ComboBox>("cboCustom_0")->Text(), "it's red");
     EXPECT_EQ(Member<TextBox>("txtCustom_0")->text(), "O'Brien");
 
     Run("DELETE FROM itemCustomFieldOption WHERE option <> 'blue'");
-    Open(gEditItemId);
+    Open(frmItemDetails::gEditItemId);
     EXPECT_EQ(Member<ComboBox>("cboCustom_0")->Text(), "blue") << "an option that is gone falls back to the first";
 }
 
@@ -72,6 +72,19 @@ TEST_F(CustomFieldsTest, AQuoteInAnUpdatedValueEndsTheProgramAfterTheItemWasWrit
     EXPECT_TRUE(end.Ended());
     EXPECT_EQ(Stored(), Table({{"1", "old"}, {"2", "old too"}}));
     EXPECT_EQ(Single("SELECT name FROM item"), "Sawblade");
+}
+
+TEST_F(CustomFieldsTest, FieldsDefinedWhileTheFormIsOpenWaitForTheNextTime)
+{
+    Fields("(1, 'Note', 'text', 1)");
+    const int item = Item("Saw").Add();
+    Open(item);
+    Type(form->txtFields_5, "Sawblade");
+    Type(Member<TextBox>("txtCustom_0"), "sharp");
+    Fields("(2, 'Later', 'text', 2), (3, 'Tick', 'checkbox', 3), (4, 'Colour', 'combobox', 4)");
+    SaveAndClose();
+    EXPECT_EQ(Single("SELECT name FROM item"), "Sawblade");
+    EXPECT_EQ(Stored(), Table({{"1", "sharp"}}));
 }
 
 TEST_F(CustomFieldsTest, AnItemOlderThanAFieldShowsTheNextValueInItsPlaceUntilItIsSaved)

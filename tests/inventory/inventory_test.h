@@ -1,7 +1,6 @@
 #pragma once
 
 #include "db/new_row.h"
-#include "inventory/edit_item.h"
 #include "inventory/item_details.h"
 #include "support/form_test.h"
 
@@ -9,7 +8,7 @@ class ItemFormTest : public FormTest<frmItemDetails> {
 protected:
     void Open(qint32 itemId)
     {
-        gEditItemId = itemId;
+        frmItemDetails::gEditItemId = itemId;
         FormTest::Open();
     }
 

@@ -15,7 +15,7 @@ protected:
     }
     void OpenForm(qint32 group)
     {
-        gEditItemGroupId = group;
+        frmItemGroup::gEditItemGroupId = group;
         form = std::make_unique<frmItemGroup>(nullptr);
         Shown(form.get());
     }
@@ -54,7 +54,7 @@ TEST_F(ItemGroupsTest, ANewGroupIsStoredWithItsMembersOnOkAlone)
     EXPECT_EQ(Count("itemgroup_item") + Count("itemgroup"), 0);
 
     Click(form->cmdOk);
-    const int group = gEditItemGroupId;
+    const int group = frmItemGroup::gEditItemGroupId;
     EXPECT_EQ(Rows("SELECT id, name FROM itemgroup"), Table({{QString::number(group), "Builder's kit"}}));
     EXPECT_EQ(Members(), QStringList({Member(group, drill), Member(group, saw), Member(group, saw)}).join(' '));
 }
@@ -81,13 +81,6 @@ TEST_F(ItemGroupsTest, AGroupOfDeletedItemsIsEmptiedByOkAndOnlyThenDeleted)
     const int other = Group("Other", {Item("Saw").Add()});
     Group("kit", {998, 999});
     OpenList();
-    CheckScreen(panel, panel->Controls(), {});
-    EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"kit"}, {"Other"}}));
-    answers.ExpectMessage("This Item Group has existing items and cannot be deleted. To delete this Item Group first "
-                          "delete all items they supply.",
-        Icon::Critical, "Cannot delete Item Group.");
-    Click(panel->cmdItemGroupDelete);
-
     WhenFormShows<frmItemGroup>([](frmItemGroup& shown) {
         EXPECT_EQ(shown.txtName->text(), "kit");
         EXPECT_EQ(shown.gItems->Rows(), 1);
@@ -97,34 +90,32 @@ TEST_F(ItemGroupsTest, AGroupOfDeletedItemsIsEmptiedByOkAndOnlyThenDeleted)
     DoubleClickRow(panel->gItemGroups, 1);
     EXPECT_EQ(Members(), Member(other, 1));
     EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"O'Kit"}, {"Other"}}));
-
-    answers.Expect("Delete Item Group?", Icon::Question, Buttons::YesNo, Answer::No);
-    Click(panel->cmdItemGroupDelete);
     answers.Expect("Delete Item Group?", Answer::Yes);
     Click(panel->cmdItemGroupDelete);
     EXPECT_EQ(GridRows(panel->gItemGroups), Table({{"Other"}}));
 }
 
-TEST_F(ItemGroupsTest, OnAnEmptyListViewOpensGroupZeroAndOnlyMinusOneIsRefused)
+TEST_F(ItemGroupsTest, GroupZeroIsNoGroupAndItsMembersAreStoredAllTheSame)
 {
     const int saw = Item("Saw").Add();
-    OpenList();
-    Click(panel->cmdItemGroupDelete);
-    WhenFormShows<frmItemGroup>([](frmItemGroup& shown) {
-        EXPECT_EQ(gEditItemGroupId, 0);
-        Click(shown.cmdAdd);
-        Click(shown.cmdOk);
-    });
-    Click(panel->cmdItemGroupEdit);
+    OpenForm(0);
+    Click(form->cmdAdd);
+    Click(form->cmdOk);
     EXPECT_EQ(Count("itemgroup"), 0);
     EXPECT_EQ(Members(), Member(0, saw));
+}
 
-    Group("Kit", {});
-    panel->RefreshItemGroupList(1, 0);
-    panel->gItemGroups->SetRowData(1, -1);
-    answers.ExpectMessage(
-        "No item group has been selected. Select an item group from the list and try again.", Icon::Information);
-    Click(panel->cmdItemGroupEdit);
+TEST_F(ItemGroupsTest, EnterInTheListOfItemsAddsTheItemAndElsewhereSaves)
+{
+    Item("Saw").Add();
+    OpenForm(NewRow);
+    form->cboItems->setFocus();
+    Press(form->cboItems, Qt::Key_Return);
+    EXPECT_EQ(GridRows(form->gItems), Table({{"Saw"}}));
+    EXPECT_TRUE(form->isVisible());
+    form->txtName->setFocus();
+    Press(form->txtName, Qt::Key_Return);
+    EXPECT_EQ(Count("itemgroup_item"), 1);
 }
 
 TEST_F(ItemGroupsTest, AnItemIsFoundAmongAHundredThousandByTypingItsName)

@@ -28,8 +28,8 @@ TEST_F(ItemSave, AnEmptyNewItemIsSavedWithDefaultsAndTheProposedNumber)
     SaveAndClose();
 
     EXPECT_EQ(SavedItem(), Table({{"42", "No Name", "", "", "1", "1", "1", "1", "0.0", "0.0", "0.0", "0.0"}}));
-    EXPECT_EQ(Single("SELECT id FROM item"), QString::number(gEditItemId));
-    const QString id = QString::number(gEditItemId);
+    EXPECT_EQ(Single("SELECT id FROM item"), QString::number(frmItemDetails::gEditItemId));
+    const QString id = QString::number(frmItemDetails::gEditItemId);
     EXPECT_EQ(Prices(), Table({{"1", id, "0.0000"}, {QString::number(trade), id, "0.0000"}}));
     EXPECT_EQ(Single("SELECT itemnumber FROM nextitemno").toDouble(), 43);
 }
@@ -128,7 +128,7 @@ TEST_F(ItemSave, NumbersAreReadByTheNumberRulesInANewItemAndByTheStatementInAnEd
         SaveAndClose();
         EXPECT_EQ(SavedItem()[0][8], number.inNewItem);
 
-        Open(gEditItemId);
+        Open(frmItemDetails::gEditItemId);
         Type(form->txtFields_6, number.text);
         Type(form->txtPriceList_0, "99");
         ExpectedEnd end;
@@ -156,8 +156,8 @@ TEST_F(ItemSave, TextsOfAnyKindAreStoredWholeUpToTheirLengthInANewItemAndInAnEdi
     };
     save(NewRow);
     Run("UPDATE item SET Number = 'x', Name = '{locationId}', Description = 'x', Barcode = 'x'");
-    save(gEditItemId);
-    Open(gEditItemId);
+    save(frmItemDetails::gEditItemId);
+    Open(frmItemDetails::gEditItemId);
     EXPECT_EQ(form->txtFields_5->text(), odd);
     EXPECT_EQ(form->txtFields_1->Text(), lines.left(255));
 }

@@ -82,7 +82,7 @@ TEST_F(PriceListsTest, TheFanOutShowsHowFarItIs)
 {
     Run("INSERT INTO item (name) WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 4500) "
         "SELECT 'Item' FROM n");
-    gEditPriceListId = NewRow;
+    frmAddPriceList::gEditPriceListId = NewRow;
     frmAddPriceList details(nullptr);
     Shown(&details);
     const PaintedProgress painted;
@@ -132,7 +132,7 @@ TEST_F(PriceListsTest, WithoutASelectionAndWithAnIdBeyondSixteenBitsNothingCanBe
 
 TEST_F(PriceListsTest, AnEmptyNameIsRefusedAndAMissingListIsReported)
 {
-    gEditPriceListId = 77;
+    frmAddPriceList::gEditPriceListId = 77;
     answers.ExpectMessage("Record not found.", Icon::Critical);
     frmAddPriceList details(nullptr);
     Shown(&details);

@@ -29,7 +29,7 @@ protected:
     {
         ClosePreviews();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        SecondaryTaxEnable = false;
+        SecondaryTax::SecondaryTaxEnable = false;
         DatabaseTest::TearDown();
     }
 
@@ -138,7 +138,7 @@ INSTANTIATE_TEST_SUITE_P(, InvoiceFontSizes,
 TEST_F(InvoiceDocuments, LongTextsAndManyLinesStayInTheirPlaces)
 {
     EnableSecondTax();
-    SecondaryTaxName = QString(10'000, 'P');
+    SecondaryTax::SecondaryTaxName = QString(10'000, 'P');
     Run("UPDATE settings SET BusinessName = '" + QString("Very long ").repeated(25) + "'");
     const int customer = Customer(QString(255, 'F'), "L").Business(QString("Long & Sons ").repeated(20)).Add();
     const int invoice = Invoice(customer).No(QString(255, '9')).SecondTax("$1.00").Add();

@@ -3,7 +3,6 @@
 #include "config/secondary_tax.h"
 #include "invoicing/invoice_page.h"
 #include "invoicing/open_invoice.h"
-#include "records/lists.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_database.h"
@@ -23,14 +22,7 @@ protected:
         page = new InvoicePage(&window);
         (new QVBoxLayout(&window))->addWidget(page);
         window.resize(1024, 640);
-        int methods = 0;
-        for (const char* method : {"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"})
-            page->cboPaymentMethod->AddItem(method, methods++);
-        SetUpColumns(page->gNewInvoice,
-            {{"Qty", 500, CellAlign::CenterTop}, {"Number", 1200, CellAlign::LeftCenter},
-                {"Name", 1600, CellAlign::LeftCenter}, {"Sale Price", 1200, CellAlign::RightCenter},
-                {"Tax Rate", 1600, CellAlign::LeftCenter}, {"Sub-Total", 1100, CellAlign::RightCenter}},
-            2);
+        page->FillPaymentMethods();
         QObject::connect(page, &InvoicePage::Left, &window, [this] {
             ++timesLeft;
             page->hide();

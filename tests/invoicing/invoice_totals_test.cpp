@@ -37,13 +37,13 @@ TEST(LineTotals, BeyondTheRangeOfCurrencyIsAnOverflow)
 class Totals : public ::testing::Test {
 protected:
     void SetUp() override { SetRegional(QLocale("en_US")); }
-    void TearDown() override { SecondaryTaxEnable = false; }
+    void TearDown() override { SecondaryTax::SecondaryTaxEnable = false; }
 };
 
 TEST_F(Totals, OfTheWorkedExample)
 {
-    SecondaryTaxEnable = true;
-    SecondaryTaxPercentage = 5;
+    SecondaryTax::SecondaryTaxEnable = true;
+    SecondaryTax::SecondaryTaxPercentage = 5;
     RunningTotal running;
     running.Add(LineTotal(3, Money("9.99"), 8.25));
     running.Add(LineTotal(1, Money("5"), 0));
@@ -52,10 +52,10 @@ TEST_F(Totals, OfTheWorkedExample)
     EXPECT_EQ(FormatCurrency(running.Totals().total), "$39.31");
     EXPECT_NEAR(running.Totals().total, 39.312, 1e-9) << "the secondary tax enters the total unrounded";
 
-    SecondaryTaxPercentage = 0;
+    SecondaryTax::SecondaryTaxPercentage = 0;
     EXPECT_EQ(FormatCurrency(running.Totals().secondTax), "$0.00");
-    SecondaryTaxEnable = false;
-    SecondaryTaxPercentage = 5;
+    SecondaryTax::SecondaryTaxEnable = false;
+    SecondaryTax::SecondaryTaxPercentage = 5;
     EXPECT_EQ(FormatCurrency(running.Totals().total), "$37.44");
 }
 

@@ -6,7 +6,7 @@ class CustomerRecordTest : public FormTest<frmCustomer> {
 protected:
     void Open(int customerId)
     {
-        gEditCustomerId = qint16(customerId);
+        frmCustomer::gEditCustomerId = qint16(customerId);
         FormTest::Open();
     }
 };

@@ -30,6 +30,9 @@ TEST_F(FindCustomerTest, OpensShortAndGrowsWithTheFirstSearchAlsoWithoutCriteria
     EXPECT_EQ(form->height(), form->picSep->y() + 20);
     EXPECT_FALSE(form->gcust->isVisible());
     const int shortHeight = form->height();
+    answers.ExpectMessage(NoCriteria, Icon::Critical);
+    Click(form->cmdEditCustomer);
+    Click(form->cmdDeleteCustomer);
 
     Type(form->txtBusinessName, "Lee");
     answers.ExpectMessage(NoCriteria, Icon::Critical);

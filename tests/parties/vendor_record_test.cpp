@@ -7,7 +7,7 @@ class VendorRecordTest : public FormTest<frmVendor> {
 protected:
     void Open(int vendorId)
     {
-        gEditVendorId = vendorId;
+        frmVendor::gEditVendorId = vendorId;
         FormTest::Open();
     }
     Table Stored() const

@@ -2,6 +2,7 @@
 
 #include "base/runtime_error.h"
 #include "base/settings_store.h"
+#include "records/record_list.h"
 #include "support/screen.h"
 #include "support/temporary_database.h"
 
@@ -14,24 +15,23 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        grid.setObjectName("gVendors");
-        SetUpColumns(&grid, {{"Name", 800, CellAlign::CenterTop}, {"Id", 1600, CellAlign::LeftCenter}}, 0);
+        list.setObjectName("gVendors");
+        list.resize(100, 200);
+        list.SetColumns({
+            {"name", "Name", 800, CellAlign::CenterTop, CellAlign::LeftCenter, DefaultOrder, Spare::AtResize},
+            {"id", "Id", 1600, CellAlign::LeftCenter, CellAlign::RightCenter, NoOrder, Spare::No,
+                [](const Recordset& row, int id, GridFill& fill) { fill.Add(QString::number(row.Long(id))); }},
+        });
     }
 
-    /// Fills the grid with the price lists but the one that `leaveOut` names.
+    /// Fills the list with the price lists but the one that `leaveOut` names.
     void Load(int row, qint64 selectId, const QString& leaveOut = {})
     {
-        LoadList(&grid, Ordered("SELECT id, name FROM PriceList ", &grid, "ORDER BY name"), row, selectId,
-            [&](const Recordset& rs, GridFill& fill) -> std::optional<qint64> {
-                if (NullToText(rs["name"]) == leaveOut)
-                    return std::nullopt;
-                fill.Add(rs.Text(1));
-                fill.Add(QString::number(rs.Long(0)));
-                return rs.Long(0);
-            });
+        list.LoadSome(list.Ordered("SELECT id, name FROM PriceList ", "ORDER BY name"), row, selectId,
+            [&](const Recordset& rs) { return NullToText(rs["name"]) != leaveOut; });
     }
 
-    FlexGrid grid;
+    RecordList list;
 };
 
 TEST_F(Lists, AFillShowsRowsInOrderWithTheirIds)
@@ -41,103 +41,130 @@ TEST_F(Lists, AFillShowsRowsInOrderWithTheirIds)
 
     Load(1, 0);
 
-    EXPECT_EQ(GridRows(&grid),
+    EXPECT_EQ(GridRows(&list),
         (QList<QStringList>{
             {"antique", QString::number(antique)}, {"Sale Price", "1"}, {"Trade", QString::number(trade)}}));
-    EXPECT_EQ(grid.RowData(0), 0);
-    EXPECT_EQ(grid.RowData(3), trade);
-    EXPECT_EQ(grid.Row(), 1);
-    EXPECT_EQ(grid.ColSel(), 1);
+    EXPECT_EQ(list.RowData(0), 0);
+    EXPECT_EQ(list.RowData(3), trade);
+    EXPECT_EQ(list.Row(), 1);
+    EXPECT_EQ(list.ColSel(), 1);
 }
 
 TEST_F(Lists, TheRowLookedForIsSelectedAndARowPastTheEndFallsBackToTheLast)
 {
     const qint64 trade = PriceListRow("Trade");
     Load(1, trade);
-    EXPECT_EQ(grid.CurrentRowData(), trade);
+    EXPECT_EQ(list.CurrentRowData(), trade);
     Load(7, 0);
-    EXPECT_EQ(grid.Row(), 2);
+    EXPECT_EQ(list.Row(), 2);
 
     Load(2, 0, "Sale Price");
-    EXPECT_EQ(grid.Row(), 1) << "a row left out does not count";
-    EXPECT_EQ(grid.TextMatrix(1, 0), "Trade");
+    EXPECT_EQ(list.Row(), 1) << "a row left out does not count";
+    EXPECT_EQ(list.TextMatrix(1, 0), "Trade");
 
     Run("DELETE FROM PriceList");
     Load(1, 5);
-    EXPECT_EQ(grid.Row(), 0) << "an empty list leaves the title row";
-    EXPECT_EQ(grid.CurrentRowData(), 0);
+    EXPECT_EQ(list.Row(), 0) << "an empty list leaves the title row";
+    EXPECT_EQ(list.CurrentRowData(), 0);
 }
 
 TEST_F(Lists, AFailingStatementLeavesTheGridPainting)
 {
-    EXPECT_THROW(LoadList(&grid, Sql("SELECT id FROM nowhere"), 1, 0,
-                     [](const Recordset&, GridFill&) -> std::optional<qint64> { return std::nullopt; }),
-        RuntimeError);
-    EXPECT_TRUE(grid.updatesEnabled());
+    EXPECT_THROW(list.Load(Sql("SELECT id FROM nowhere"), 1, 0), RuntimeError);
+    EXPECT_TRUE(list.updatesEnabled());
 }
 
-TEST_F(Lists, ATitleClickSortsUpwardsAndAColumnWithoutAnEntryOnlyRefills)
+TEST_F(Lists, ATitleClickSortsUpwardsAndAColumnWithoutAnOrderOnlyRefills)
 {
     PriceListRow("Antique");
-    Shown(&grid);
-    int reloads = 0;
-    QObject::connect(&grid, &FlexGrid::Click, &grid, [&] {
-        SortOnTitleClick(&grid, {"id"}, [&] {
-            ++reloads;
-            Load(grid.Row(), 0);
-        });
+    list.SetColumns({
+        {"id", "Id", 800, CellAlign::LeftCenter, CellAlign::LeftCenter, "id"},
+        {"name", "Name", 800, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder},
+    });
+    Shown(&list);
+    int loads = 0;
+    QObject::connect(&list, &RecordList::Sorted, &list, [&] {
+        ++loads;
+        Load(list.Row(), 0);
     });
     Load(1, 0);
+    EXPECT_EQ(list.CellText(1, "name"), "Antique");
 
-    ClickTitle(&grid, 0);
-    EXPECT_EQ(grid.TextMatrix(1, 0), "Sale Price");
-    ClickTitle(&grid, 1);
-    EXPECT_EQ(grid.Tag(), "id");
-    EXPECT_EQ(reloads, 2);
-    ClickRow(&grid, 2);
-    EXPECT_EQ(reloads, 2);
-    EXPECT_EQ(grid.Row(), 2);
+    ClickTitle(&list, 0);
+    EXPECT_EQ(list.CellText(1, "name"), "Sale Price");
+    ClickTitle(&list, 1);
+    EXPECT_EQ(list.Tag(), "id");
+    EXPECT_EQ(loads, 2);
+    ClickRow(&list, 2);
+    EXPECT_EQ(loads, 2);
+    EXPECT_EQ(list.Row(), 2);
+
+    list.SetColumns({{"name", "Name", 800, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder}});
+    ClickTitle(&list, 0);
+    EXPECT_EQ(loads, 2) << "this list does not sort";
 }
 
 TEST_F(Lists, WidthsComeBackUnlessTheyAreNoWidths)
 {
-    grid.SetColWidth(0, 1500);
-    grid.SetColWidth(1, 0);
-    SaveGridColumnWidths(&grid);
+    list.SetColWidth(0, 1500);
+    list.SetColWidth(1, 0);
+    list.SaveWidths();
     EXPECT_EQ(GetConfig("gVendorsColWidth0", ""), "1500");
     EXPECT_EQ(GetConfig("gVendorsColWidth1", ""), "0");
 
-    grid.SetColWidth(0, 900);
-    grid.SetColWidth(1, 900);
-    RestoreGridColumnWidths(&grid);
-    EXPECT_EQ(grid.ColWidth(0), 1500);
-    EXPECT_EQ(grid.ColWidth(1), 900);
+    list.SetColWidth(0, 900);
+    list.SetColWidth(1, 900);
+    list.RestoreWidths();
+    EXPECT_EQ(list.ColWidth(0), 1500);
+    EXPECT_EQ(list.ColWidth(1), 900);
     for (const char* odd : {"", "-1", "-30", "wide", "99999999999999", "1e300"}) {
         SaveConfig("gVendorsColWidth1", odd);
-        RestoreGridColumnWidths(&grid);
-        EXPECT_EQ(grid.ColWidth(1), 900) << odd;
+        list.RestoreWidths();
+        EXPECT_EQ(list.ColWidth(1), 900) << odd;
     }
 }
 
 TEST_F(Lists, TheStretchColumnTakesWhatTheOthersAndTheMarginLeave)
 {
-    grid.resize(400, 200); // 6000 twips
-    grid.SetColWidth(1, 1600);
-    StretchColumn(&grid, 0, 400);
-    EXPECT_EQ(grid.ColWidth(0), 6000 - 1600 - 400);
+    list.resize(400, 200); // 6000 twips
+    list.SetColWidth(1, 1600);
+    list.Stretch();
+    EXPECT_EQ(list.ColWidth(0), 6000 - 1600 - 400);
 
-    grid.SetColWidth(1, 5900);
-    StretchColumn(&grid, 0, 400);
-    EXPECT_EQ(grid.ColWidth(0), 4000) << "a rest within the margin leaves the column";
+    list.SetColWidth(1, 5900);
+    list.Stretch();
+    EXPECT_EQ(list.ColWidth(0), 4000) << "a rest within the margin leaves the column";
 }
 
 TEST_F(Lists, SetUpFillsTheGridExactly)
 {
-    FlexGrid wide;
+    RecordList wide;
     wide.resize(400, 200);
-    SetUpColumns(&wide, {{"A", 800, CellAlign::CenterTop}, {"B", 1600, CellAlign::CenterTop}}, 1);
+    wide.SetColumns({
+        {"a", "A", 800, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder},
+        {"b", "B", 1600, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::AtLoad},
+    });
     EXPECT_EQ(wide.ColWidth(0), 800);
     EXPECT_EQ(wide.ColWidth(1), 5200);
+    wide.resize(300, 200);
+    wide.Stretch();
+    EXPECT_EQ(wide.ColWidth(1), 5200) << "at load alone";
+}
+
+TEST_F(Lists, AFoundRowOutOfViewComesToTheTopWhereTheListSaysSo)
+{
+    Run("INSERT INTO PriceList (name) WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 200) "
+        "SELECT printf('List %03d', x) FROM n");
+    Shown(&list);
+    const qint64 far = Single("SELECT id FROM PriceList WHERE name = 'List 100'").toLongLong();
+    Load(1, far);
+    EXPECT_NE(list.TopRow(), list.Row()) << "at the nearest edge";
+    Load(1, 0);
+    list.ShowFoundRowOnTop();
+    Load(1, far);
+    EXPECT_EQ(list.TopRow(), list.Row());
+    Load(list.Row() + 1, 0);
+    EXPECT_EQ(list.TopRow(), list.Row() - 1) << "in view already";
 }
 
 TEST_F(Lists, AComboFilledFromAStatementSelectsNothing)

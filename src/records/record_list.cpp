@@ -1,0 +1,192 @@
+#include "records/record_list.h"
+
+#include "base/numbers.h"
+#include "base/settings_store.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+// Wider than any screen: a stored width beyond it comes from a damaged store and would push the other columns away.
+constexpr int WidestColumn = 100'000;
+
+QString WidthKey(const RecordList* list, int col)
+{
+    return list->objectName() + QStringLiteral("ColWidth") + QString::number(col);
+}
+
+/// Painting stops while a list is filled, and resumes also when its statement fails.
+class RedrawOff {
+public:
+    explicit RedrawOff(FlexGrid* grid)
+        : m_grid(grid)
+    {
+        m_grid->SetRedraw(false);
+    }
+    ~RedrawOff() { m_grid->SetRedraw(true); }
+    RedrawOff(const RedrawOff&) = delete;
+    RedrawOff& operator=(const RedrawOff&) = delete;
+
+private:
+    FlexGrid* m_grid;
+};
+
+} // namespace
+
+RecordList::RecordList(QWidget* parent)
+    : FlexGrid(parent)
+{
+    QObject::connect(this, &FlexGrid::Click, this, &RecordList::SortByTitle);
+    QObject::connect(this, &FlexGrid::DblClick, this, [this] {
+        if (MouseRow() != 0)
+            emit Opened();
+    });
+}
+
+void RecordList::SetColumns(const QList<ListColumn>& columns)
+{
+    m_columns = columns;
+    m_sorts = std::any_of(columns.begin(), columns.end(), [](const ListColumn& column) { return column.order; });
+    SetCols(int(columns.size()));
+    for (int col = 0; col < Cols(); ++col)
+        SetColAlignment(col, columns.at(col).alignment);
+    SetUpColumns();
+}
+
+void RecordList::SetUpColumns()
+{
+    for (int col = 0; col < Cols(); ++col) {
+        SetTitle(col, m_columns.at(col).title, m_columns.at(col).titleAlignment);
+        SetColWidth(col, m_columns.at(col).width);
+    }
+    GiveSpareWidth(Spare::AtLoad, 0);
+}
+
+void RecordList::Stretch()
+{
+    GiveSpareWidth(Spare::AtResize, m_scrollBarRoom);
+}
+
+void RecordList::StretchWithSize()
+{
+    QObject::connect(this, &FlexGrid::Resized, this, &RecordList::Stretch);
+}
+
+void RecordList::GiveSpareWidth(Spare when, int room)
+{
+    for (int col = 0; col < Cols(); ++col) {
+        const Spare spare = m_columns.at(col).spare;
+        if (spare != when && spare != Spare::Always)
+            continue;
+        const int width = WidthInTwips() - (SumOfWidths() - ColWidth(col)) - room;
+        // At load it only grows. Later a rest that the room eats up is left too: a width below nothing is no width.
+        if (width > (when == Spare::AtLoad ? ColWidth(col) : 0))
+            SetColWidth(col, width);
+    }
+}
+
+int RecordList::SumOfWidths() const
+{
+    int sum = 0;
+    for (int col = 0; col < Cols(); ++col)
+        sum += ColWidth(col);
+    return sum;
+}
+
+int RecordList::ColumnOf(const char* field) const
+{
+    const auto it = std::find_if(m_columns.begin(), m_columns.end(),
+        [field](const ListColumn& column) { return std::strcmp(column.field, field) == 0; });
+    return int(it - m_columns.begin());
+}
+
+void RecordList::SetTitleOf(const char* field, const QString& title)
+{
+    const int col = ColumnOf(field);
+    SetTitle(col, title, m_columns.at(col).titleAlignment);
+}
+
+void RecordList::SaveWidths() const
+{
+    for (int col = 0; col < Cols(); ++col)
+        SaveConfig(WidthKey(this, col), QString::number(ColWidth(col)));
+}
+
+void RecordList::RestoreWidths()
+{
+    for (int col = 0; col < Cols(); ++col) {
+        const QString stored = GetConfig(WidthKey(this, col), QStringLiteral("-1"));
+        const double width = IsNumeric(stored) ? CDbl(stored) : -1;
+        if (width > 0 && width <= WidestColumn)
+            SetColWidth(col, CLng(width));
+    }
+}
+
+Sql RecordList::Ordered(const QString& head, const char* defaultOrder) const
+{
+    Sql sql(head);
+    if (Tag().isEmpty())
+        return sql.Append(QLatin1String(defaultOrder));
+    return sql.Append(QStringLiteral("ORDER BY ")).Append(Tag());
+}
+
+void RecordList::Load(const Sql& sql, int row, qint64 selectId)
+{
+    LoadSome(sql, row, selectId, nullptr);
+}
+
+void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown)
+{
+    struct Cell {
+        int field;
+        CellWriter write;
+    };
+    std::vector<Cell> cells;
+    Fill(sql, row, selectId, isShown, [&](const Recordset& rs, GridFill& fill) {
+        if (cells.empty())
+            for (const ListColumn& column : m_columns)
+                cells.push_back({rs.Field(column.field), column.cell});
+        for (Cell& cell : cells) {
+            if (cell.write)
+                cell.write(rs, cell.field, fill);
+            else
+                fill.Add(rs.Text(cell.field));
+        }
+    });
+}
+
+void RecordList::LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells)
+{
+    Fill(sql, row, selectId, nullptr, cells);
+}
+
+void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells)
+{
+    const RedrawOff redraw(this);
+    SetRows(1);
+    {
+        GridFill fill(this);
+        for (Recordset rs = gConnection->Execute(sql); !rs.Eof(); rs.MoveNext()) {
+            if (isShown && !isShown(rs))
+                continue;
+            cells(rs, fill);
+            const qint64 id = rs.Long(0);
+            const int counter = fill.EndRow(id);
+            if (id == selectId)
+                row = counter;
+        }
+    }
+    SelectRow(std::min(row, Rows() - 1));
+    if (m_foundRowOnTop && !RowIsVisible(Row()))
+        SetTopRow(Row());
+}
+
+void RecordList::SortByTitle()
+{
+    if (MouseRow() != 0 || !m_sorts)
+        return;
+    if (const char* order = m_columns.at(MouseCol()).order)
+        SetTag(QLatin1String(order));
+    emit Sorted();
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "controls/flex_grid.h"
+#include "db/connection.h"
+
+#include <functional>
+
+/// Writes the cell of a column from a row of the list's statement, with one `fill.Add`. `field` is the ordinal of the
+/// column's field. What a writer remembers from row to row starts anew with each load.
+using CellWriter = std::function<void(const Recordset& row, int field, GridFill& fill)>;
+
+/// Whether a column takes up the width that the others leave: when the list is set up, when it gets another size.
+enum class Spare { No, AtLoad, AtResize, Always };
+
+/// The sort expression of a column whose title brings back the list's default order, and of one without an expression.
+inline constexpr const char* DefaultOrder = "";
+inline constexpr const char* NoOrder = nullptr;
+
+/// All that is to be told of one column of a list.
+struct ListColumn {
+    const char* field; ///< of the list's statement
+    QString title;
+    int width; ///< twips
+    CellAlign titleAlignment;
+    CellAlign alignment; ///< of the cells
+    const char* order; ///< sort expression for a click on the title
+    Spare spare = Spare::No;
+    CellWriter cell = {}; ///< none: the text of the field, "" for Null
+};
+
+/// A list over the rows of a statement, which knows its columns: their order is told once, where they are told.
+class RecordList : public FlexGrid {
+    Q_OBJECT
+public:
+    explicit RecordList(QWidget* parent = nullptr);
+
+    /// Tells the columns and sets them up.
+    void SetColumns(const QList<ListColumn>& columns);
+    /// What a stretched list leaves free, in twips; 400 unless another is told.
+    void SetScrollBarRoom(int twips) { m_scrollBarRoom = twips; }
+    /// Gives the columns their titles and told widths; the column for spare width at load then takes what is left.
+    void SetUpColumns();
+    /// Gives the column for spare width at a resize what the others and the scroll bar leave, if anything is left.
+    void Stretch();
+    /// Lets the list stretch by itself whenever it gets another size.
+    void StretchWithSize();
+
+    /// The title over a field's column, and the cell of it in a row.
+    void SetTitleOf(const char* field, const QString& title);
+    QString CellText(int row, const char* field) const { return TextMatrix(row, ColumnOf(field)); }
+
+    /// Column widths between runs, under the list's own name. Only stored widths above 0 are restored.
+    void SaveWidths() const;
+    void RestoreWidths();
+
+    /// The statement with " ORDER BY " and the sort expression, or `defaultOrder`; `head` ends in a blank.
+    Sql Ordered(const QString& head, const char* defaultOrder) const;
+
+    /// Cuts the list to its title row and fills it from `sql`, whose first column is the row data, the id. Selects the
+    /// row of `selectId`, else row number `row`, pulled back to the last row. Redraw is off meanwhile. Throws
+    /// RuntimeError when the statement fails.
+    void Load(const Sql& sql, int row, qint64 selectId);
+    /// As Load, leaving out the rows for which `isShown` is false.
+    using RowFilter = std::function<bool(const Recordset& row)>;
+    void LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown);
+    /// As Load, with all cells of a row added by `cells`.
+    using RowWriter = std::function<void(const Recordset& row, GridFill& fill)>;
+    void LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells);
+
+    /// After a load a selected row that was out of view comes to the top, in place of the nearest edge.
+    void ShowFoundRowOnTop() { m_foundRowOnTop = true; }
+
+signals:
+    /// A click on a title of a list that sorts has set the order anew: the moment to load.
+    void Sorted();
+    /// A double click or Enter on a row that is not the title row.
+    void Opened();
+
+private:
+    int ColumnOf(const char* field) const;
+    int SumOfWidths() const;
+    void Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells);
+    void GiveSpareWidth(Spare when, int room);
+    void SortByTitle();
+
+    QList<ListColumn> m_columns;
+    int m_scrollBarRoom = 400;
+    bool m_sorts = false;
+    bool m_foundRowOnTop = false;
+};
