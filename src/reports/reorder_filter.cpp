@@ -4,10 +4,10 @@
 #include "controls/layout.h"
 #include "records/lists.h"
 
-bool ReorderFilterConfirmed = false;
-int ReorderFilterKind = 0;
-QString ReorderFilterValue;
-QString ReorderSortField;
+bool frmReorderReportFilter::ReorderFilterConfirmed = false;
+int frmReorderReportFilter::ReorderFilterKind = 0;
+QString frmReorderReportFilter::ReorderFilterValue;
+QString frmReorderReportFilter::ReorderSortField;
 
 frmReorderReportFilter::frmReorderReportFilter(QWidget* parent)
     : Form("frmReorderReportFilter", tr("Filtered Reorder Report"), parent)

@@ -7,16 +7,16 @@
 
 #include <array>
 
-/// The filter choice, shared with the report; it lives until the next use.
-extern bool ReorderFilterConfirmed; ///< the form was left with OK
-extern int ReorderFilterKind; ///< 0 no filter, 1 vendor, 2 item, 3 location
-extern QString ReorderFilterValue; ///< the chosen id, "-1" without a filter
-extern QString ReorderSortField;
-
 /// Asks how the reorder report is to be filtered and sorted.
 class frmReorderReportFilter : public Form {
     Q_OBJECT
 public:
+    /// The choice, for the report; it lives until the next use.
+    static bool ReorderFilterConfirmed; ///< the form was left with OK
+    static int ReorderFilterKind; ///< 0 no filter, 1 vendor, 2 item, 3 location
+    static QString ReorderFilterValue; ///< the chosen id, "-1" without a filter
+    static QString ReorderSortField;
+
     explicit frmReorderReportFilter(QWidget* parent);
 
     CONTROL_AT(QRadioButton, optFilter, 0);

@@ -99,12 +99,12 @@ QString FilteredStatement()
         "SELECT * FROM item, vendor WHERE item.vendorid = vendor.id AND item.noinstock < item.reorderlevel AND "
         "item.locationid = {value} ORDER BY {sort}",
     };
-    if (ReorderFilterKind < 0 || ReorderFilterKind > 3)
+    if (frmReorderReportFilter::ReorderFilterKind < 0 || frmReorderReportFilter::ReorderFilterKind > 3)
         return {};
-    Sql statement(Statements[ReorderFilterKind]);
-    if (ReorderFilterKind > 0)
-        statement.Raw("value", ReorderFilterValue);
-    return statement.Raw("sort", ReorderSortField).Filled();
+    Sql statement(Statements[frmReorderReportFilter::ReorderFilterKind]);
+    if (frmReorderReportFilter::ReorderFilterKind > 0)
+        statement.Raw("value", frmReorderReportFilter::ReorderFilterValue);
+    return statement.Raw("sort", frmReorderReportFilter::ReorderSortField).Filled();
 }
 
 void RewriteFilteredCommand()
@@ -162,9 +162,9 @@ void ShowReorderReport()
 
 void ShowFilteredReorderReport(QWidget* parent)
 {
-    ReorderFilterConfirmed = false;
+    frmReorderReportFilter::ReorderFilterConfirmed = false;
     frmReorderReportFilter(parent).ShowModal();
-    if (!ReorderFilterConfirmed)
+    if (!frmReorderReportFilter::ReorderFilterConfirmed)
         return;
     Hourglass hourglass;
     ShowPreview(PrepareFilteredReorderReport());

@@ -97,11 +97,11 @@ TEST_F(StockReports, AReportThatIsOpenedAgainShowsCurrentStock)
 TEST_F(StockReports, EachFilterNarrowsTheReport)
 {
     EXPECT_EQ(Filtered([](frmReorderReportFilter&) {}), QStringList({"Anchor", "Screw"}));
-    EXPECT_EQ(ReorderFilterValue, "-1");
+    EXPECT_EQ(frmReorderReportFilter::ReorderFilterValue, "-1");
     EXPECT_EQ(
         Filtered([](frmReorderReportFilter& form) { Pick(form.cboSort, "Number"); }), QStringList({"Screw", "Anchor"}));
     EXPECT_EQ(Filtered([](frmReorderReportFilter& form) { Click(form.optFilter_1); }), QStringList("Screw"));
-    EXPECT_EQ(ReorderFilterValue, QString::number(m_bolts));
+    EXPECT_EQ(frmReorderReportFilter::ReorderFilterValue, QString::number(m_bolts));
     EXPECT_EQ(Filtered([](frmReorderReportFilter& form) {
         Click(form.optFilter_2);
         Pick(form.cboItem, "Nut");
@@ -109,7 +109,7 @@ TEST_F(StockReports, EachFilterNarrowsTheReport)
         QStringList())
         << "at its reorder level";
     EXPECT_EQ(Filtered([](frmReorderReportFilter& form) { Click(form.optFilter_3); }), QStringList("Anchor"));
-    EXPECT_EQ(ReorderFilterKind, 3);
+    EXPECT_EQ(frmReorderReportFilter::ReorderFilterKind, 3);
     EXPECT_FALSE(DataEnvironment().IsOpen("repFilteredReorder"));
 }
 
@@ -134,7 +134,7 @@ TEST_F(StockReports, TheFilterFormEnablesTheListOfTheChosenOption)
         Click(form.cmdCancel);
     });
     ShowFilteredReorderReport(nullptr);
-    EXPECT_FALSE(ReorderFilterConfirmed);
+    EXPECT_FALSE(frmReorderReportFilter::ReorderFilterConfirmed);
     EXPECT_EQ(Previews().size(), 0);
 }
 
