@@ -74,6 +74,7 @@ const ListPanelCase Inventory{"Inventory", "mnuViewInventory", "gInventory", "pi
     {"INSERT INTO taxrate (id, Name, Percentage) VALUES (21, 'A zero rate', 0), (22, 'VAT', 17.5)",
         "INSERT INTO item (id, Number, Name, NoInStock, TaxRateID) VALUES (11, '30', 'Anchor', 2.5, 1), "
         "(12, '0010', 'bolts & <nuts>', 9, 21), (13, '20', 'Cleat', 1200, 22), (14, '40', 'No such tax', 1, 999)",
+        "UPDATE item SET LocationID = 1, SubCategoryID = 1, VendorID = 1, ReorderLevel = 0, MinStockLevel = 0",
         "INSERT INTO ItemPriceList (ItemID, PriceListID, Price) VALUES (11, 1, 0.125), (12, 1, 1234.5), (13, 1, 20)"},
     {{"30", "Anchor", "$0.13", "None", "2.5"}, {"0010", "bolts & <nuts>", "$1,234.50", "A zero rate", "9"},
         {"20", "Cleat", "$20.00", "VAT", "1200"}},
