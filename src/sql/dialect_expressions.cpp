@@ -230,7 +230,8 @@ Expression ExpressionReader::ReadJoined()
     if (!m_tokens.AtSign("&"))
         return left;
     const auto orEmpty = [](const Expression& part) { return "ifnull(" + part.sql + ", '')"; };
-    std::string parts = "(" + orEmpty(left);
+    std::string parts = "(";
+    parts += orEmpty(left);
     for (int count = 1; m_tokens.TakeSign("&"); LimitChain(count))
         parts += " || " + orEmpty(ReadSum());
     return {parts + ")", Kind::Text, {}, -1};
