@@ -105,7 +105,8 @@ void MultiLineTextBox::SetText(const QString& text)
 
 void MultiLineTextBox::ShowWhole(const QString& text)
 {
-    SetMaxLength(qMax(m_maxLength, int(text.size())));
+    if (m_maxLength > 0)
+        SetMaxLength(qMax(m_maxLength, int(text.size())));
     SetText(text);
 }
 
