@@ -2,6 +2,7 @@
 
 #include "base/regional.h"
 #include "controls/message_box.h"
+#include "controls/paper_setup.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -64,12 +65,19 @@ QPageSize::PageSizeId CountryPaper()
     return letter.contains(Regional().territory()) ? QPageSize::Letter : QPageSize::A4;
 }
 
+bool AskPaper(QPrinter& printer, QWidget* owner)
+{
+    frmPaperSetup form(printer.pageLayout(), owner);
+    form.ShowModal();
+    return form.result() == QDialog::Accepted && printer.setPageLayout(form.Chosen());
+}
+
 bool AskPageSetup(QPrinter& printer, QWidget* owner)
 {
     if (DialogDoor* door = CurrentDialogDoor())
         return door->PageSetup(printer);
     if (NoPrinterInstalled())
-        return false;
+        return AskPaper(printer, owner);
     QPageSetupDialog dialog(&printer, owner);
     return dialog.exec() == QDialog::Accepted;
 }
@@ -119,6 +127,13 @@ QPrinter& CurrentPrinter()
     return *printer;
 }
 
+bool HasPrinter()
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->HasPrinter();
+    return !NoPrinterInstalled();
+}
+
 bool PrintDialog(QPrinter& printer)
 {
     if (DialogDoor* door = CurrentDialogDoor())
@@ -130,6 +145,11 @@ bool PrintDialog(QPrinter& printer)
 }
 
 bool ShowPageSetup(QWidget* owner, PageMargins& margins)
+{
+    return HasPrinter() && ShowPaperSetup(owner, margins);
+}
+
+bool ShowPaperSetup(QWidget* owner, PageMargins& margins)
 {
     QPrinter& printer = CurrentPrinter();
     if (!AskPageSetup(printer, owner))

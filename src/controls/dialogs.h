@@ -15,6 +15,8 @@ QString SaveFileName(const QString& title, const QString& filter, const QString&
 /// The printer that Page Setup and Print share for the run; made on first use.
 QPrinter& CurrentPrinter();
 
+bool HasPrinter();
+
 /// The platform's print dialog over `printer`; false when cancelled or when no printer is installed.
 bool PrintDialog(QPrinter& printer);
 
@@ -25,6 +27,8 @@ struct PageMargins {
 /// Asks for orientation, paper and margins and keeps them for the next print. False when there is no printer or the
 /// user cancelled; no message in either case.
 bool ShowPageSetup(QWidget* owner, PageMargins& margins);
+/// The same for a document that can become a file: it asks without a printer too.
+bool ShowPaperSetup(QWidget* owner, PageMargins& margins);
 
 /// Prints the picture of `window` at the top left of the page, after the print dialog. Failures are ignored.
 void PrintWindowImage(QWidget* window);

@@ -28,6 +28,7 @@ public:
     /// True when the user pressed Print (the printer is set up then).
     virtual bool Print(class QPrinter& printer) = 0;
     virtual bool PageSetup(class QPrinter& printer) = 0;
+    virtual bool HasPrinter() { return true; }
     virtual void OpenLink(const QString& target) = 0;
     /// The help viewer at a topic number, or at its contents (-2: index, -1: search).
     virtual void Help(int command, int data) = 0;

@@ -1,6 +1,7 @@
 #include "paper/preview_window.h"
 
 #include "base/guard.h"
+#include "base/settings_store.h"
 #include "controls/combo_box.h"
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
@@ -8,10 +9,13 @@
 #include "paper/report_output.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPrinter>
-#include <QPrinterInfo>
+#include <QScreen>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -20,6 +24,7 @@
 #include <cmath>
 
 namespace {
+const QString PdfFolderKey = QStringLiteral("PdfFolder");
 constexpr int PagesASlice = 20;
 constexpr double Zooms[] = {0.1, 0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 4};
 constexpr int FitWidthEntry = -1;
@@ -39,6 +44,16 @@ ReportMargins InTwips(const PageMargins& margins)
 QMarginsF InInches(const ReportMargins& margins)
 {
     return QMarginsF(margins.left, margins.top, margins.right, margins.bottom) / 1440;
+}
+
+/// The folder of the last PDF, at first the user's documents.
+QDir PdfFolder()
+{
+    const QDir last(GetConfig(PdfFolderKey, QString()));
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (last.isAbsolute() && last.exists())
+        return last;
+    return documents.exists() ? documents : QDir::home();
 }
 
 QString SuggestedFile(QString title)
@@ -62,7 +77,7 @@ PreviewWindow::PreviewWindow(Report report)
     setCentralWidget(picView);
     BuildToolBar();
     statusBar();
-    resize(900, 760);
+    FillScreen();
 
     On(picView, &PreviewView::PastEnd, this, &PreviewWindow::NextPage);
     On(picView, &PreviewView::PastStart, this, &PreviewWindow::PreviousPage);
@@ -78,6 +93,14 @@ PreviewWindow::PreviewWindow(Report report)
     SetZoom(1, ZoomMode::Fixed);
     picView->setFocus();
     m_counting.start(0);
+}
+
+void PreviewWindow::FillScreen()
+{
+    // Where nothing maximises windows, and when it is made smaller again, it takes what its frame leaves.
+    constexpr QMargins Frame(8, 40, 8, 8);
+    setGeometry(screen()->availableGeometry().marginsRemoved(Frame));
+    setWindowState(Qt::WindowMaximized);
 }
 
 QAction* PreviewWindow::AddAction(
@@ -312,11 +335,10 @@ void PreviewWindow::PickZoom()
 void PreviewWindow::Print()
 {
     QPrinter& printer = CurrentPrinter();
-    if (!PrintDialog(printer)) {
-        if (QPrinterInfo::availablePrinterNames().isEmpty())
-            statusBar()->showMessage(tr("No printer is installed. Save as PDF works without one."));
+    if (!HasPrinter())
+        return OfferPdf();
+    if (!PrintDialog(printer))
         return;
-    }
     Hourglass hourglass;
     if (PrintReport(m_layout, printer))
         statusBar()->showMessage(tr("The document was handed to the printer."));
@@ -324,15 +346,19 @@ void PreviewWindow::Print()
         statusBar()->showMessage(tr("The printer did not take the document."));
 }
 
+void PreviewWindow::OfferPdf()
+{
+    const QString question = tr("No printer is installed. Do you want to save the document as a PDF instead?");
+    if (MsgBox(question, Icon::Question, Buttons::YesNo) == Answer::Yes)
+        SaveAsPdf();
+}
+
 void PreviewWindow::PageSetup()
 {
     CurrentPrinter().setPageMargins(InInches(m_layout.Design().margins), QPageLayout::Inch);
     PageMargins margins;
-    if (!ShowPageSetup(this, margins)) {
-        if (QPrinterInfo::availablePrinterNames().isEmpty())
-            statusBar()->showMessage(tr("No printer is installed."));
+    if (!ShowPaperSetup(this, margins))
         return;
-    }
     m_layout.SetPaper(PaperOf(CurrentPrinter()), InTwips(margins));
     m_page = 0;
     ShowPage();
@@ -342,7 +368,8 @@ void PreviewWindow::PageSetup()
 
 void PreviewWindow::SaveAsPdf()
 {
-    QString path = SaveFileName(tr("Save as PDF"), tr("PDF documents (*.pdf)"), SuggestedFile(windowTitle()));
+    QString path = SaveFileName(
+        tr("Save as PDF"), tr("PDF documents (*.pdf)"), PdfFolder().filePath(SuggestedFile(windowTitle())));
     if (path.isEmpty())
         return;
     if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
@@ -352,10 +379,10 @@ void PreviewWindow::SaveAsPdf()
         Hourglass hourglass;
         saved = SaveReportAsPdf(m_layout, path);
     }
-    if (saved)
-        statusBar()->showMessage(tr("Saved as %1").arg(path));
-    else
-        MsgBox(tr("Unable to write to file %1").arg(path), Icon::Critical);
+    if (!saved)
+        return MsgBox(tr("Unable to write to file %1").arg(path), Icon::Critical);
+    SaveConfig(PdfFolderKey, QFileInfo(path).absolutePath());
+    statusBar()->showMessage(tr("Saved as %1").arg(path));
 }
 
 void PreviewWindow::CloseWindow()

@@ -30,6 +30,7 @@ private:
 
     QAction* AddAction(
         const char* name, const QString& text, const QList<QKeySequence>& keys, void (PreviewWindow::*run)());
+    void FillScreen();
     void BuildToolBar();
     void AddNavigation(QToolBar* bar);
     void AddZoom(QToolBar* bar);
@@ -54,6 +55,7 @@ private:
     void PickZoom();
 
     void Print();
+    void OfferPdf();
     void PageSetup();
     void SaveAsPdf();
     void CloseWindow();

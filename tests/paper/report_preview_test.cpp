@@ -1,5 +1,6 @@
 #include "paper/preview_window.h"
 
+#include "base/settings_store.h"
 #include "controls/dialogs.h"
 #include "support/printing.h"
 #include "support/report_designs.h"
@@ -101,6 +102,7 @@ TEST_F(Preview, SavesAPdfAndSaysWhenItCannot)
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(QFile::exists(folder.filePath("names.pdf")));
     EXPECT_TRUE(Status().contains("names.pdf"));
+    EXPECT_EQ(GetConfig("PdfFolder", ""), folder.path()) << "proposed the next time";
 
     const QString nowhere = folder.filePath("missing/names.pdf");
     answers.ExpectSaveFile(nowhere);
@@ -126,6 +128,15 @@ TEST_F(Preview, PageSetupLaysOutAnewAndACancelledPrintPrintsNothing)
     answers.ExpectPrint(false);
     Key(Qt::Key_P, Qt::ControlModifier);
     EXPECT_FALSE(Status().contains("handed"));
+
+    answers.hasPrinter = false;
+    answers.ExpectPageSetup(true);
+    Key(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_window->Layout().Paper(), (ReportPaper{11906, 16838})) << "a PDF has paper without a printer";
+    answers.Expect("No printer is installed. Do you want to save the document as a PDF instead?", Answer::Yes);
+    answers.ExpectSaveFile("");
+    Key(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(answers.Done());
 }
 
 TEST_F(Preview, EscClosesItAndItIsGone)

@@ -31,6 +31,7 @@ public:
     void ExpectSaveFile(const QString& path);
     void ExpectPrint(bool accepted);
     void ExpectPageSetup(bool accepted);
+    bool hasPrinter = true;
     void ExpectLink(const QString& target);
     void ExpectHelp(HelpCommand command, int data);
 
@@ -44,6 +45,7 @@ public:
     QString SaveFileName(const QString& title, const QString& filter, const QString& suggested) override;
     bool Print(QPrinter& printer) override;
     bool PageSetup(QPrinter& printer) override;
+    bool HasPrinter() override { return hasPrinter; }
     void OpenLink(const QString& target) override;
     void Help(int command, int data) override;
 
