@@ -9,12 +9,12 @@
 #include "db/connection.h"
 #include "invoicing/invoice_report_design.h"
 #include "invoicing/invoice_report_style.h"
+#include "paper/column_fit.h"
 #include "paper/report_band.h"
 #include "paper/report_picture.h"
 #include "records/data_environment.h"
 
 #include <QCoreApplication>
-#include <QObject>
 #include <QPrinter>
 
 namespace {
@@ -76,11 +76,11 @@ QString BusinessAddress(const Recordset& settings)
     return address + GetS(Value(InvoiceReport::tr("Phone: ") + NullToText(settings["Phone"])));
 }
 
-// A logo needs no more than what a printer shows of its place.
+// A logo needs no more than what a printer of 600 dots an inch shows of its place.
 void ShowLogo(Report& report, const QString& path)
 {
-    constexpr QSize MostPixels(1200, 1200);
-    report.Control(QStringLiteral("imgLogo")).picture = ReadPicture(path, MostPixels);
+    constexpr QSize MostPixels(1167, 667);
+    report.Control(QStringLiteral("imgLogo")).picture = OnPaper(ReadPicture(path, MostPixels));
 }
 
 void ShowBusiness(Report& report)
@@ -107,6 +107,19 @@ void HideColumns(Report& report, const InvoiceStyle& style)
     if (style.hideOurPrice)
         for (const char* control : {"Label9", "txtAmount"})
             report.Control(QLatin1String(control)).visible = false;
+}
+
+// The name begins behind the numbers as they are, and where the tax is hidden it takes that place too.
+void FitNameColumn(Report& report)
+{
+    constexpr int Gap = 150;
+    ReportControl& number = report.Control(QStringLiteral("Text3"));
+    ReportControl& name = report.Control(QStringLiteral("txtName"));
+    const int right = report.Control(QStringLiteral("Label7")).visible ? name.left + name.width
+                                                                       : report.Control(QStringLiteral("Label9")).left;
+    number.width = NeededWidth(report, number.name);
+    name.left = number.left + number.width + (number.width > 0 ? Gap : 0);
+    name.width = right - name.left;
 }
 
 Currency StoredSecondTax(qint32 invoiceId)
@@ -180,6 +193,7 @@ Report PrepareInvoice(qint32 invoiceId, bool isWarranty)
     ShowSecondTax(report);
     ShowGrandTotal(report, invoiceId, secondTax);
     DataEnvironment().Bind(report, RepInvoice);
+    FitNameColumn(report);
     SetTitle(report);
     report.FillPaper(PaperOf(CurrentPrinter()));
     return report;

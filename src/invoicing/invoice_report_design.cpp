@@ -1,7 +1,6 @@
 #include "invoicing/invoice_report_design.h"
 
 #include <QCoreApplication>
-#include <QObject>
 
 namespace {
 
@@ -14,13 +13,15 @@ struct InvoiceReport {
 constexpr int Margin = 1134;
 constexpr int Width = 9638;
 constexpr int LineStep = 230;
+/// Less than a line of the text needs.
+constexpr int AddressStep = 190;
 /// That of the date until the user chooses another, so that the references look alike.
 constexpr double TextSize = 8.25;
 
 constexpr int AddressTop = 1900;
 constexpr int RightColumn = 5600;
 constexpr int RightFields = 7300;
-constexpr int TitlesTop = 4600;
+constexpr int TitlesTop = 4250;
 
 // The columns of the order lines.
 constexpr int NumberColumn = 950;
@@ -47,12 +48,12 @@ void AddCustomer(ReportSection& header)
     constexpr int ColumnWidth = 5300;
     header.AddLabel(QStringLiteral("Label2"), InvoiceReport::tr("Invoice / Receipt for"), 0, AddressTop, ColumnWidth)
         .Bold();
-    header.AddLabel(QStringLiteral("lblName"), QString(), 0, AddressTop + LineStep, ColumnWidth).Wraps(2, 2);
-    int top = AddressTop + 2 * LineStep;
+    header.AddLabel(QStringLiteral("lblName"), QString(), 0, AddressTop + AddressStep, ColumnWidth).Wraps(2, 2);
+    int top = AddressTop + 2 * AddressStep;
     for (const char* field : CustomerFields) {
         const QString name = QStringLiteral("txt") + QLatin1String(field);
         header.AddField(name, QLatin1String(field), 0, top, ColumnWidth).Wraps(2, 2).Collapses();
-        top += LineStep;
+        top += AddressStep;
     }
 }
 
@@ -60,20 +61,29 @@ void AddReferences(ReportSection& header)
 {
     constexpr int LabelWidth = RightFields - RightColumn - 100;
     constexpr int FieldWidth = Width - RightFields;
-    const int top = AddressTop;
+    int top = AddressTop;
     header.AddLabel(QStringLiteral("Label5"), InvoiceReport::tr("Invoice Number:"), RightColumn, top, LabelWidth);
     // One line each: a wrapped number would push the dates away from their labels.
     header.AddField(QStringLiteral("txtInvoiceNo"), QStringLiteral("InvoiceNo"), RightFields, top, FieldWidth)
         .overflow = ReportOverflow::Shrink;
-    header.AddLabel(
-        QStringLiteral("Label10"), InvoiceReport::tr("Your order of"), RightColumn, top + LineStep, LabelWidth);
+    top += AddressStep;
+    header.AddLabel(QStringLiteral("Label10"), InvoiceReport::tr("Your order of"), RightColumn, top, LabelWidth);
     header
-        .AddField(QStringLiteral("txtInvoiceSubmittedDate"), QStringLiteral("Invoice.SubmittedDate"), RightFields,
-            top + LineStep, FieldWidth)
+        .AddField(QStringLiteral("txtInvoiceSubmittedDate"), QStringLiteral("Invoice.SubmittedDate"), RightFields, top,
+            FieldWidth)
         .Formatted(QStringLiteral("d/MM/yyyy"));
-    header.AddLabel(QStringLiteral("Label8"), InvoiceReport::tr("Ref."), RightColumn, top + 2 * LineStep, LabelWidth);
-    header.AddLabel(QStringLiteral("lblDate"), QString(), RightFields, top + 2 * LineStep, FieldWidth).overflow =
+    top += AddressStep;
+    header.AddLabel(QStringLiteral("Label8"), InvoiceReport::tr("Ref."), RightColumn, top, LabelWidth);
+    header.AddLabel(QStringLiteral("lblDate"), QString(), RightFields, top, FieldWidth).overflow =
         ReportOverflow::Shrink;
+}
+
+// The lines of the addresses and of the references follow each other as the font tells, like those of the business.
+void SetSolid(ReportSection& header)
+{
+    for (ReportControl& control : header.controls)
+        if (control.top >= AddressTop)
+            control.height = AddressStep;
 }
 
 void AddTitles(ReportSection& header)
@@ -119,8 +129,11 @@ void AddTotals(ReportSection& footer)
     constexpr int Top = 150;
     footer.height = 1250;
     footer.AddLabel(QStringLiteral("Label12"), InvoiceReport::tr("Tax Total"), LabelLeft, Top, LabelWidth)
-        .RightAligned();
-    footer.AddField(QStringLiteral("Text1"), QStringLiteral("Aggregate2"), AmountLeft, Top, AmountWidth).RightAligned();
+        .RightAligned()
+        .Vanishes();
+    footer.AddField(QStringLiteral("Text1"), QStringLiteral("Aggregate2"), AmountLeft, Top, AmountWidth)
+        .RightAligned()
+        .Vanishes();
     footer
         .AddLabel(QStringLiteral("Label1"), InvoiceReport::tr("Order Total (including tax)"), LabelLeft, Top + LineStep,
             LabelWidth)
@@ -131,11 +144,13 @@ void AddTotals(ReportSection& footer)
         .AddLabel(
             QStringLiteral("TaxName2"), InvoiceReport::tr("2nd Tax Total"), LabelLeft, Top + 2 * LineStep, LabelWidth)
         .RightAligned()
-        .Wraps(2, 2);
+        .Wraps(2, 2)
+        .Vanishes();
     footer
         .AddField(QStringLiteral("txtTotal2ndTax"), QStringLiteral("Total2ndTax"), AmountLeft, Top + 2 * LineStep,
             AmountWidth)
-        .RightAligned();
+        .RightAligned()
+        .Vanishes();
     footer.AddLine(QStringLiteral("Line3"), AmountLeft, Top + 3 * LineStep + 40, AmountWidth);
     ReportControl& total =
         footer.AddLabel(QStringLiteral("GrandTotal"), QString(), AmountLeft, Top + 3 * LineStep + 90, AmountWidth)
@@ -168,6 +183,7 @@ Report InvoiceDesign()
     AddBusiness(header);
     AddCustomer(header);
     AddReferences(header);
+    SetSolid(header);
     AddTitles(header);
 
     ReportSection& detail = report.Section(ReportSectionKind::Detail);

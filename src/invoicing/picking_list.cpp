@@ -5,7 +5,6 @@
 #include "records/data_environment.h"
 
 #include <QCoreApplication>
-#include <QObject>
 #include <QPrinter>
 
 namespace {

@@ -51,6 +51,8 @@ Piece MakePiece(const ReportControl& control, int ordinal, const ReportBandConte
 {
     Piece piece{&control, {}, control.left * context.spread, control.width * context.spread, qreal(control.top),
         qreal(control.height)};
+    if (!control.visible && control.vanishes)
+        piece.height = 0;
     if (!control.visible || !IsText(control))
         return piece;
     if (purpose == BandPurpose::Height && !ChangesHeight(control, context.fonts))

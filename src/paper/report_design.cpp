@@ -37,6 +37,12 @@ ReportControl& ReportControl::Collapses()
     return *this;
 }
 
+ReportControl& ReportControl::Vanishes()
+{
+    vanishes = true;
+    return *this;
+}
+
 ReportControl& ReportControl::RightAligned()
 {
     alignment = Qt::AlignRight;

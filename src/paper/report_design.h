@@ -45,11 +45,14 @@ struct ReportControl {
     int paragraphLines = 1; ///< lines that a paragraph may wrap into
     int totalLines = 1; ///< lines that the whole text may take
     bool collapses = false; ///< gives its height up when its text is empty
-    bool visible = true; ///< an invisible control keeps its space
+    bool visible = true; ///< an invisible control keeps its space,
+    bool vanishes = false; ///< unless it vanishes
 
     /// Wraps each paragraph of its text into `lines` lines at most, and shows `total` lines in all.
     ReportControl& Wraps(int lines, int total);
     ReportControl& Collapses();
+    /// Gives its height up when it is invisible.
+    ReportControl& Vanishes();
     ReportControl& RightAligned();
     ReportControl& Bold();
     ReportControl& Sized(double points);

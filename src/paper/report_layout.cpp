@@ -1,6 +1,5 @@
 #include "paper/report_layout.h"
 
-#include <QObject>
 #include <QPainter>
 #include <QPen>
 
@@ -17,6 +16,8 @@ const ReportSectionKind AllSections[] = {ReportSectionKind::ReportHeader, Report
 void PaintPicture(QPainter& painter, const ReportItem& item)
 {
     const QSizeF size = QSizeF(item.control->picture.size()).scaled(item.place.size(), Qt::KeepAspectRatio);
+    // The printing engines turn opaque pictures into JPEGs, which smear the edges of a drawing, unless told not to.
+    painter.setRenderHints(QPainter::LosslessImageRendering | QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(item.place.topLeft(), size), item.control->picture);
 }
 

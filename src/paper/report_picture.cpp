@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QImageReader>
+#include <QPainter>
 
 QImage ReadPicture(const QString& path, QSize most)
 {
@@ -15,4 +16,14 @@ QImage ReadPicture(const QString& path, QSize most)
     if (size.width() > most.width() || size.height() > most.height())
         reader.setScaledSize(size.scaled(most, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     return reader.read();
+}
+
+QImage OnPaper(const QImage& picture)
+{
+    if (!picture.hasAlphaChannel())
+        return picture;
+    QImage sheet(picture.size(), QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter(&sheet).drawImage(0, 0, picture);
+    return sheet;
 }

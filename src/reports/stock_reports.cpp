@@ -2,6 +2,7 @@
 
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
+#include "paper/column_fit.h"
 #include "paper/preview_window.h"
 #include "records/data_environment.h"
 #include "reports/reorder_filter.h"
@@ -9,6 +10,8 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <QPrinter>
+
+#include <algorithm>
 
 namespace {
 
@@ -19,12 +22,13 @@ struct StockReports {
 
 // What margins of an inch leave of an A4 sheet.
 constexpr int Width = 9026;
-constexpr int NameColumn = 1250;
-constexpr int StockColumn = 4150;
-constexpr int MinStockColumn = 5250;
-constexpr int VendorColumn = 6900;
-constexpr int NumberWidth = NameColumn - 100;
-constexpr int NameWidth = StockColumn - NameColumn - 50;
+constexpr int Gap = 150;
+constexpr int NameColumn = 1600;
+constexpr int StockColumn = 4250;
+constexpr int MinStockColumn = 5350;
+constexpr int VendorColumn = 6950;
+constexpr int NumberWidth = NameColumn - Gap;
+constexpr int NameWidth = StockColumn - NameColumn - Gap;
 
 void Register(const char* name, const char* statement)
 {
@@ -39,10 +43,10 @@ void AddTitles(ReportSection& header)
     header.height = 400;
     header.AddLabel(QStringLiteral("Label2"), StockReports::tr("Number"), 0, 0, NumberWidth).Bold();
     header.AddLabel(QStringLiteral("Label3"), StockReports::tr("Name"), NameColumn, 0, NameWidth).Bold();
-    header.AddLabel(QStringLiteral("Label4"), StockReports::tr("No In Stock"), StockColumn, 0, 1050)
+    header.AddLabel(QStringLiteral("Label4"), StockReports::tr("No In Stock"), StockColumn, 0, 1000)
         .RightAligned()
         .Bold();
-    header.AddLabel(QStringLiteral("Label5"), StockReports::tr("Min Stock Level"), MinStockColumn, 0, 1480)
+    header.AddLabel(QStringLiteral("Label5"), StockReports::tr("Min Stock Level"), MinStockColumn, 0, 1400)
         .RightAligned()
         .Bold();
     header.AddLabel(QStringLiteral("Label6"), StockReports::tr("Vendor"), VendorColumn, 0, Width - VendorColumn).Bold();
@@ -55,13 +59,13 @@ void AddDetail(ReportSection& detail, const QString& numberField)
     detail.height = 250;
     detail.AddField(QStringLiteral("Text1"), numberField, 0, 0, NumberWidth).Wraps(2, 2);
     detail.AddField(QStringLiteral("txtName"), QStringLiteral("Name"), NameColumn, 0, NameWidth).Wraps(3, 3);
-    detail.AddField(QStringLiteral("txtNoInStock"), QStringLiteral("NoInStock"), StockColumn, 0, 1050).RightAligned();
-    detail.AddField(QStringLiteral("txtMinStockLevel"), QStringLiteral("MinStockLevel"), MinStockColumn, 0, 1480)
+    detail.AddField(QStringLiteral("txtNoInStock"), QStringLiteral("NoInStock"), StockColumn, 0, 1000).RightAligned();
+    detail.AddField(QStringLiteral("txtMinStockLevel"), QStringLiteral("MinStockLevel"), MinStockColumn, 0, 1400)
         .RightAligned();
     detail
         .AddField(
             QStringLiteral("txtBusinessName"), QStringLiteral("BusinessName"), VendorColumn, 0, Width - VendorColumn)
-        .Wraps(2, 2);
+        .Wraps(3, 3);
 }
 
 Report StockDesign(const QString& title, const QString& numberField)
@@ -76,6 +80,21 @@ Report StockDesign(const QString& title, const QString& numberField)
     report.Section(ReportSectionKind::PageFooter).name = QStringLiteral("PageFooter");
     report.Section(ReportSectionKind::ReportFooter).name = QStringLiteral("ReportFooter");
     return report;
+}
+
+// Names take what the numbers leave.
+void BindRows(Report& report, const QString& command)
+{
+    DataEnvironment().Bind(report, command);
+    const int number =
+        std::max(CaptionWidth(report, QStringLiteral("Label2")), NeededWidth(report, QStringLiteral("Text1")));
+    for (const char* control : {"Label2", "Text1"})
+        report.Control(QLatin1String(control)).width = number;
+    for (const char* control : {"Label3", "txtName"}) {
+        ReportControl& name = report.Control(QLatin1String(control));
+        name.width += name.left - (number + Gap);
+        name.left = number + Gap;
+    }
 }
 
 void WidenToPaper(Report& report)
@@ -127,7 +146,7 @@ Report PrepareReorderReport()
         DataEnvironment().Requery(QStringLiteral("repReorder"));
     Report report = StockDesign(StockReports::tr("Reorder Report"), QStringLiteral("number"));
     WidenToPaper(report);
-    DataEnvironment().Bind(report, QStringLiteral("repReorder"));
+    BindRows(report, QStringLiteral("repReorder"));
     return report;
 }
 
@@ -140,7 +159,7 @@ Report PrepareFilteredReorderReport()
     RewriteFilteredCommand();
     if (DataEnvironment().IsOpen(QStringLiteral("repFilteredReorder")))
         DataEnvironment().Requery(QStringLiteral("repFilteredReorder"));
-    DataEnvironment().Bind(report, QStringLiteral("repFilteredReorder"));
+    BindRows(report, QStringLiteral("repFilteredReorder"));
     return report;
 }
 
@@ -150,7 +169,7 @@ Report PrepareStockLevelReport()
     if (DataEnvironment().IsOpen(QStringLiteral("repStockLevel")))
         DataEnvironment().Requery(QStringLiteral("repStockLevel"));
     Report report = StockDesign(StockReports::tr("Stock Level Report"), QStringLiteral("Number"));
-    DataEnvironment().Bind(report, QStringLiteral("repStockLevel"));
+    BindRows(report, QStringLiteral("repStockLevel"));
     return report;
 }
 
