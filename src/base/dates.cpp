@@ -65,9 +65,14 @@ std::optional<QDateTime> ReadDate(const QString& text)
 
 QString DateToYmd(const std::optional<QDateTime>& date)
 {
-    if (!date || !date->isValid())
+    return date ? DateToYmd(date->date()) : QString();
+}
+
+QString DateToYmd(const QDate& date)
+{
+    if (!date.isValid())
         return {};
-    return QStringLiteral("%1-%2-%3").arg(date->date().year()).arg(date->date().month()).arg(date->date().day());
+    return QString::number(date.year()) + u'-' + QString::number(date.month()) + u'-' + QString::number(date.day());
 }
 
 QString DateToIso(const QDateTime& date)

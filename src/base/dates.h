@@ -33,6 +33,7 @@ std::optional<QDateTime> ReadDate(const QString& text);
 
 /// "2003-7-4": no zero padding; "" when there is no date.
 QString DateToYmd(const std::optional<QDateTime>& date);
+QString DateToYmd(const QDate& date);
 /// "2003-07-04", the form that statements carry.
 QString DateToIso(const QDateTime& date);
 

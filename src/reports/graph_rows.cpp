@@ -17,13 +17,19 @@ QDate FirstOfThisMonth()
     return {today.year(), today.month(), 1};
 }
 
+/// Only its date counts: a midnight of the local zone would have to be looked up in the system's tables.
+QDateTime MidnightOf(const QDate& day)
+{
+    return QDateTime(day, QTime(0, 0), Qt::UTC);
+}
+
 QList<GraphRow> RowsByMonth(const std::function<QStringList(const QDate& first, const QDate& last)>& values)
 {
     QList<GraphRow> rows;
     QDate first = FirstOfThisMonth().addMonths(1 - MonthsShown);
     for (int row = 0; row < MonthsShown; ++row, first = first.addMonths(1)) {
         const QDate last = first.addDays(LastDayOfMonth(first) - 1);
-        rows.append({FormatDate(first.startOfDay(), QStringLiteral("mmm-yyyy")), values(first, last)});
+        rows.append({FormatDate(MidnightOf(first), QStringLiteral("mmm-yyyy")), values(first, last)});
     }
     return rows;
 }
@@ -34,8 +40,8 @@ QString UnitsSold(qint64 itemId, const QDate& first, const QDate& last)
         Sql("SELECT sum(quantity) FROM invoice, invoiceline WHERE invoiceline.itemid = {itemid} "
             "AND invoice.id = invoiceline.invoiceid AND submitteddate BETWEEN #{from} 00:00# AND #{to} 23:59#")
             .Number("itemid", itemId)
-            .Raw("from", DateToYmd(first.startOfDay()))
-            .Raw("to", DateToYmd(last.startOfDay())));
+            .Raw("from", DateToYmd(first))
+            .Raw("to", DateToYmd(last)));
     return sum.IsNull(0) ? QStringLiteral("0") : sum[0].ToText();
 }
 
@@ -46,7 +52,7 @@ QList<GraphRow> InvoicesThisMonth()
     QList<GraphRow> rows;
     QDate day = FirstOfThisMonth();
     for (const int days = LastDayOfMonth(day); rows.size() < days; day = day.addDays(1))
-        rows.append({ShortDate(day.startOfDay()), {InvoicesBetween(day, day)}});
+        rows.append({ShortDate(MidnightOf(day)), {InvoicesBetween(day, day)}});
     return rows;
 }
 

@@ -48,7 +48,9 @@ ReportsPanel::ReportsPanel(QWidget* parent)
     cell->setContentsMargins(0, 0, 0, 0);
     cell->addWidget(Label1_2, 0, 0);
     cell->addLayout(m_parts, 0, 0);
-    setLayout(column({row({TopIcon(), TitleLabel(), stretch()}), scrolling(body)}));
+    QVBoxLayout* parts = column({row({TopIcon(), TitleLabel(), stretch()}), body});
+    parts->setStretchFactor(body, 1);
+    setLayout(parts);
     PlaceGraph();
 
     On(cmdExpand, &QPushButton::clicked, this, [this] { ToggleExpand(); });

@@ -27,7 +27,7 @@ QString InvoicesToday()
 {
     return FirstFigure(Sql("SELECT count(*) FROM invoice WHERE submitteddate >= #{today} 12:00 AM# "
                            "AND submitteddate <= #{today} 11:59 PM#")
-                           .Raw("today", DateToYmd(Now())));
+                           .Raw("today", DateToYmd(Now().date())));
 }
 
 QString DateOfMostInvoices()
@@ -81,8 +81,8 @@ QString TotalInvoices()
 QString InvoicesBetween(const QDate& first, const QDate& last)
 {
     return FirstFigure(Sql("SELECT count(*) FROM invoice WHERE submitteddate BETWEEN #{from} 00:00# AND #{to} 23:59#")
-                           .Raw("from", DateToYmd(first.startOfDay()))
-                           .Raw("to", DateToYmd(last.startOfDay())));
+                           .Raw("from", DateToYmd(first))
+                           .Raw("to", DateToYmd(last)));
 }
 
 QDate StartOfWeek()
