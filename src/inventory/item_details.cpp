@@ -30,14 +30,16 @@ void AddLine(QGridLayout* grid, const QString& label, QWidget* control)
     AddLine(grid, new QLabel(label), control);
 }
 
-/// Gives the labels of two blocks of fields one width.
+/// Gives the labels of two blocks of fields one width. Their fonts are known when they stand in their form.
 void AlignLabels(QGridLayout* one, QGridLayout* other)
 {
     int width = 0;
     for (const QGridLayout* block : {one, other})
         for (int line = 0; line < block->rowCount(); ++line)
-            if (const QLayoutItem* label = block->itemAtPosition(line, 0))
+            if (const QLayoutItem* label = block->itemAtPosition(line, 0)) {
+                label->widget()->ensurePolished();
                 width = qMax(width, label->sizeHint().width());
+            }
     one->setColumnMinimumWidth(0, width);
     other->setColumnMinimumWidth(0, width);
 }
@@ -69,6 +71,7 @@ frmItemDetails::frmItemDetails(QWidget* parent)
         new ItemDetailsScroll(content, m_customFields.IsEmpty() ? ColumnWidth : 2 * ColumnWidth),
         picBotButts,
     }));
+    AlignLabels(m_upperFields, m_lowerFields);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
     FitToScreen();
@@ -115,7 +118,8 @@ QLayout* frmItemDetails::MainFields()
     AddLine(bottom, tr("Tax Rate:"), cboTaxRate);
     AddLine(bottom, tr("Warehouse:"), cboWarehouse);
     AddLine(bottom, tr("Storage Location:"), cboStorage);
-    AlignLabels(grid, bottom);
+    m_upperFields = grid;
+    m_lowerFields = bottom;
     bottom->setContentsMargins(0, 0, 0, 0);
     picBot->setLayout(bottom);
     return column({grid, picBot, stretch()});

@@ -5,6 +5,7 @@
 #include "controls/text_box.h"
 #include "inventory/custom_fields.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
@@ -75,6 +76,9 @@ private:
     }
     QList<PriceBox> MakePriceBoxes();
     CustomFields MakeCustomFields();
+
+    QGridLayout* m_upperFields = nullptr; ///< down to the prices
+    QGridLayout* m_lowerFields = nullptr;
 
     void SetLengths();
     QLayout* MainFields();
