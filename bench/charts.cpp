@@ -53,7 +53,7 @@ void MeasureCharts(RunningProgram&)
         for (int type = VtChChartType3dBar; type <= VtChChartType2dStep; ++type) {
             const QByteArray subject =
                 QByteArray("drawing 31 rows of ") + QByteArray::number(columns) + " as " + Names[type];
-            Report(subject.constData(), DrawingTime(chart, ChartType(type)), 0, Limit, "ms");
+            PrintFigure(subject.constData(), DrawingTime(chart, ChartType(type)), 0, Limit, "ms");
         }
     }
 }

@@ -66,6 +66,6 @@ void MeasureFanOut(RunningProgram& program)
         pair.floor.Add(MillisecondsOf([&] { floor.Add(); }));
         DeletePriceList(floor.Newest());
     }
-    Report("new price list for every item", pair.program.Median(), pair.floor.Median(), Allowed * pair.floor.Median(),
-        "ms");
+    PrintFigure("new price list for every item", pair.program.Median(), pair.floor.Median(),
+        Allowed * pair.floor.Median(), "ms");
 }

@@ -13,7 +13,7 @@ constexpr double Allowed = 1.5;
 
 void ReportList(const char* subject, const Pair& pair)
 {
-    Report(subject, pair.program.Median(), pair.floor.Median(), pair.floor.Median() * Allowed, "ms");
+    PrintFigure(subject, pair.program.Median(), pair.floor.Median(), pair.floor.Median() * Allowed, "ms");
 }
 
 /// A list of the main window, reloaded and painted, beside the two statements that its loader runs.

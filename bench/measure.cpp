@@ -33,7 +33,7 @@ Pair MeasureInTurn(int rounds, const std::function<void()>& program, const std::
     return pair;
 }
 
-void Report(const char* subject, double measured, double floor, double limit, const char* unit)
+void PrintFigure(const char* subject, double measured, double floor, double limit, const char* unit)
 {
     if (!gHeadPrinted)
         std::printf("%-52s %10s %10s %7s %10s\n", "", "measured", "floor", "ratio", "limit");

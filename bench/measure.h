@@ -26,5 +26,5 @@ Pair MeasureInTurn(int rounds, const std::function<void()>& program, const std::
 
 /// One line of the table: what was measured, what the floor took, and the most that is allowed for that floor.
 /// Remembers whether any line was above its limit.
-void Report(const char* subject, double measured, double floor, double limit, const char* unit);
+void PrintFigure(const char* subject, double measured, double floor, double limit, const char* unit);
 bool AllWithinLimits();

@@ -63,7 +63,7 @@ void MeasureFirstPage(RunningProgram& program)
             CloseAllPreviews();
         },
         [&] { query.Run(); });
-    Report("stock level report, first page in view", pair.program.Median(), pair.floor.Median(),
+    PrintFigure("stock level report, first page in view", pair.program.Median(), pair.floor.Median(),
         pair.floor.Median() * 1.2, "ms");
 }
 
@@ -78,8 +78,8 @@ void MeasurePdf()
     const double time = MillisecondsOf([&] { SaveReportAsPdf(layout, folder.filePath(QStringLiteral("stock.pdf"))); });
     const double grown = ResidentBytes() - before;
     const int rows = layout.Design().rows->parents.Count();
-    Report("stock level report to PDF, per page", time / layout.PageCount(), 0, MillisecondsAPage, "ms");
-    Report("  memory beyond the rows themselves, per row", (grown - rowBytes) / rows, 0, BytesARow, "bytes");
+    PrintFigure("stock level report to PDF, per page", time / layout.PageCount(), 0, MillisecondsAPage, "ms");
+    PrintFigure("  memory beyond the rows themselves, per row", (grown - rowBytes) / rows, 0, BytesARow, "bytes");
 }
 
 int AddInvoiceOfTwentyLines()
@@ -121,7 +121,7 @@ void MeasureInvoice()
         }));
         CloseAllPreviews();
     }
-    Report("invoice of 20 lines, click to preview", times.Median(), 0, Limit, "ms");
+    PrintFigure("invoice of 20 lines, click to preview", times.Median(), 0, Limit, "ms");
 }
 } // namespace
 

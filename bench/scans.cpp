@@ -150,11 +150,11 @@ void ReportScans(const std::string& subject, ScanRace&& race, double allowedMs)
     constexpr double FrameMs = 16;
     const Pair pair = race.Run();
     const auto report = [&](const char* which, double program, double floor) {
-        Report((subject + which).c_str(), program, floor, floor * Allowed + allowedMs, "ms");
+        PrintFigure((subject + which).c_str(), program, floor, floor * Allowed + allowedMs, "ms");
     };
     report(", median", pair.program.Median(), pair.floor.Median());
     report(", 99th percentile", pair.program.Percentile99(), pair.floor.Percentile99());
-    Report((subject + ", painting after it, median").c_str(), race.Painting().Median(), 0, FrameMs, "ms");
+    PrintFigure((subject + ", painting after it, median").c_str(), race.Painting().Median(), 0, FrameMs, "ms");
 }
 
 } // namespace
@@ -163,7 +163,7 @@ void MeasureScans(RunningProgram& program)
 {
     ReportScans("scan of a bar code", ScanRace(program, 0, ScansOfAShortInvoice), 0);
     // A scan that went nowhere would be a fast one.
-    Report("lines missing on the last short invoice",
+    PrintFigure("lines missing on the last short invoice",
         double(ScansOfAShortInvoice - LinesOf(program, OpenInvoice::gCurrentInvoiceId)), 0, 0, "lines");
     ReportScans("scan, 1,000 lines", ScanRace(program, 1000, ScansOfALongInvoice), AllowedForManyLinesMs);
     OpenInvoice::gCurrentInvoiceId = -1;

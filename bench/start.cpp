@@ -49,13 +49,14 @@ void MeasureStart(const QString& folder)
         }
         return starts;
     }();
-    Report("start until the first screen shows, median", pair.program.Median(), pair.floor.Median(),
+    PrintFigure("start until the first screen shows, median", pair.program.Median(), pair.floor.Median(),
         pair.floor.Median() * AllowedRatio + AllowedMs, "ms");
 }
 
 void MeasureMemory(const QString& folder)
 {
-    Report("peak memory with both lists filled", NumberFromAnother(PeakMemoryTask, folder), 0, AllowedMegabytes, "MB");
+    PrintFigure(
+        "peak memory with both lists filled", NumberFromAnother(PeakMemoryTask, folder), 0, AllowedMegabytes, "MB");
 }
 
 int StartOnce(const QString& folder, double millisecondsBefore)

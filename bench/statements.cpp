@@ -49,7 +49,7 @@ void MeasureStatementOverhead(RunningProgram& program)
             });
         constexpr double MicrosecondsOfOne = 1000.0 / Statements;
         const std::string length = std::to_string(TypicalStatement(NoSuchRow).Filled().size());
-        Report(("statement of " + length + " characters, over the engine").c_str(),
+        PrintFigure(("statement of " + length + " characters, over the engine").c_str(),
             (pair.program.Median() - pair.floor.Median()) * MicrosecondsOfOne, 0, 5, "us");
     });
 }

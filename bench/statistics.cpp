@@ -105,7 +105,7 @@ void MeasureAgainst(
     const char* subject, int rounds, const std::function<void()>& program, const std::function<void()>& floor)
 {
     const Pair pair = MeasureInTurn(rounds, program, floor);
-    Report(subject, pair.program.Median(), pair.floor.Median(), pair.floor.Median() * Allowed, "ms");
+    PrintFigure(subject, pair.program.Median(), pair.floor.Median(), pair.floor.Median() * Allowed, "ms");
 }
 
 /// The day of the latest invoice, so that the present month has invoices.
