@@ -7,7 +7,7 @@
 /// What the configuration wizard asks for.
 struct ConfigurationWizard : WizardState {
     ConfigurationWizard()
-        : WizardState(ConfigurationWizardState)
+        : WizardState(WizardState::Configuration)
     {
     }
 

@@ -10,7 +10,7 @@
 #include <sqlite3.h>
 
 Connection* gConnection = nullptr;
-void (*gStatementListener)(const QString& statement) = nullptr;
+void (*ConnectionPrivate::StatementListener)(const QString& statement) = nullptr;
 
 ConnectionPrivate::~ConnectionPrivate()
 {
@@ -93,8 +93,8 @@ Recordset Connection::Execute(const QString& statement)
     d->RequireOpen();
     ReadStatement(statement, d->shape);
     std::shared_ptr<PreparedStatement> prepared = d->cache.Statement(d->handle, d->shape);
-    if (gStatementListener)
-        gStatementListener(statement);
+    if (ConnectionPrivate::StatementListener)
+        ConnectionPrivate::StatementListener(statement);
     if (!prepared->Meaning().columnNames.empty())
         return Recordset(std::make_unique<RecordsetPrivate>(std::move(prepared), std::move(d->shape.literals)));
     prepared->Bind(d->shape.literals);

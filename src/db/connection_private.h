@@ -7,10 +7,6 @@
 
 struct sqlite3;
 
-/// Told of each statement, as the screens wrote it, that the engine could read. Nobody listens in the program; the
-/// tests do, to know which statements they ran.
-extern void (*gStatementListener)(const QString& statement);
-
 /// What the files of this folder share of a connection.
 class ConnectionPrivate {
 public:
@@ -24,6 +20,10 @@ public:
     /// Runs one of the engine's own statements. Throws RuntimeError when it fails.
     void RunPlain(const char* sql) const;
     void Close();
+
+    /// Told of each statement, as the screens wrote it, that the engine could read. Nobody listens in the program; the
+    /// tests do, to know which statements they ran.
+    static void (*StatementListener)(const QString& statement);
 
     sqlite3* handle = nullptr;
     QString path;

@@ -6,7 +6,7 @@
 /// What the mailing list wizard asks for.
 struct MailingListWizard : WizardState {
     MailingListWizard()
-        : WizardState(MailingListWizardState)
+        : WizardState(WizardState::MailingList)
     {
     }
 

@@ -20,11 +20,11 @@ constexpr WizardState State(Run& run, bool& showWelcome)
 
 } // namespace
 
-constinit const WizardState ImportWizardState = State(gImportOrConfiguration, gShowImportAndConfigurationWelcome);
-constinit const WizardState ConfigurationWizardState =
+constinit const WizardState WizardState::Import = State(gImportOrConfiguration, gShowImportAndConfigurationWelcome);
+constinit const WizardState WizardState::Configuration =
     State(gImportOrConfiguration, gShowImportAndConfigurationWelcome);
-constinit const WizardState WebOrdersWizardState = State(gWebOrdersOrMailingList, gShowWebOrdersWelcome);
-constinit const WizardState MailingListWizardState = State(gWebOrdersOrMailingList, gShowMailingListWelcome);
+constinit const WizardState WizardState::WebOrders = State(gWebOrdersOrMailingList, gShowWebOrdersWelcome);
+constinit const WizardState WizardState::MailingList = State(gWebOrdersOrMailingList, gShowMailingListWelcome);
 
 void ShowAllWelcomePages()
 {

@@ -8,14 +8,15 @@ struct WizardState {
     qint16& WizardPage; ///< the page to show, from 1
     bool& WizardCancelled;
     bool& ShowWelcome; ///< whether the wizard starts on its welcome page; in memory only
-};
 
-/// The import and the configuration wizard share all three values, so that the welcome page of both goes with one tick.
-/// The web orders and the mailing list wizard share page number and cancel flag, and have a welcome page each.
-extern const WizardState ImportWizardState;
-extern const WizardState ConfigurationWizardState;
-extern const WizardState WebOrdersWizardState;
-extern const WizardState MailingListWizardState;
+    /// The import and the configuration wizard share all three values, so that the welcome page of both goes with one
+    /// tick. The web orders and the mailing list wizard share page number and cancel flag, and have a welcome page
+    /// each.
+    static const WizardState Import;
+    static const WizardState Configuration;
+    static const WizardState WebOrders;
+    static const WizardState MailingList;
+};
 
 /// Lets every wizard start on its welcome page, as at the start of the program.
 void ShowAllWelcomePages();

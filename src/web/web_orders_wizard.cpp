@@ -17,11 +17,11 @@ const WizardPages<WebOrdersWizard> Pages{
 
 void RunWebOrdersWizard(QWidget* parent)
 {
-    StartWizard(WebOrdersWizardState);
+    StartWizard(WizardState::WebOrders);
     const std::optional<WebOrderSettings> stored = ReadWebOrderSettings();
     if (!stored)
         return;
-    WebOrdersWizard wizard{WebOrdersWizardState, *stored};
+    WebOrdersWizard wizard{WizardState::WebOrders, *stored};
     if (!ShowPages(Pages, wizard, parent))
         return;
     StoreWebOrderSettings(wizard.answers);

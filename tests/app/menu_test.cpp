@@ -178,7 +178,7 @@ TEST_F(MenuTest, TheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
 {
     Run("UPDATE settings SET SecondaryTaxEnable = 0");
     // What an earlier run of the program switched off is on again with each load.
-    ConfigurationWizardState.ShowWelcome = false;
+    WizardState::Configuration.ShowWelcome = false;
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
     WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdNext); });

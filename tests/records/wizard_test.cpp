@@ -8,7 +8,7 @@ namespace {
 
 struct Survey : WizardState {
     Survey()
-        : WizardState(MailingListWizardState)
+        : WizardState(WizardState::MailingList)
     {
     }
     QString name = "Ann";
@@ -189,7 +189,7 @@ TEST_P(WelcomeSharingTest, AWelcomePageGoesForItsSharerAlone)
     GetParam().wizard.ShowWelcome = false;
     QList<int> firstPages;
     for (const WizardState* wizard :
-        {&ImportWizardState, &ConfigurationWizardState, &WebOrdersWizardState, &MailingListWizardState}) {
+        {&WizardState::Import, &WizardState::Configuration, &WizardState::WebOrders, &WizardState::MailingList}) {
         wizard->WizardCancelled = true;
         StartWizard(*wizard);
         EXPECT_FALSE(wizard->WizardCancelled);
@@ -200,7 +200,7 @@ TEST_P(WelcomeSharingTest, AWelcomePageGoesForItsSharerAlone)
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizards, WelcomeSharingTest,
-    ::testing::Values(Sharing{"import", ImportWizardState, {2, 2, 1, 1}},
-        Sharing{"configuration", ConfigurationWizardState, {2, 2, 1, 1}},
-        Sharing{"web orders", WebOrdersWizardState, {1, 1, 2, 1}},
-        Sharing{"mailing list", MailingListWizardState, {1, 1, 1, 2}}));
+    ::testing::Values(Sharing{"import", WizardState::Import, {2, 2, 1, 1}},
+        Sharing{"configuration", WizardState::Configuration, {2, 2, 1, 1}},
+        Sharing{"web orders", WizardState::WebOrders, {1, 1, 2, 1}},
+        Sharing{"mailing list", WizardState::MailingList, {1, 1, 1, 2}}));

@@ -29,7 +29,7 @@ void RecordStatements()
     if (!qEnvironmentVariableIsSet("TAVRIN_STATEMENTS"))
         return;
     testing::AddGlobalTestEnvironment(new Record);
-    gStatementListener = [](const QString& statement) {
+    ConnectionPrivate::StatementListener = [](const QString& statement) {
         static const QRegularExpression values("'[^']*'|[0-9]");
         gShapes.insert(QString(statement).remove(values).simplified());
     };
