@@ -2,11 +2,15 @@
 
 #include "base/runtime_error.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSaveFile>
 #include <QTemporaryFile>
+
+#include <filesystem>
 
 namespace {
 
@@ -57,7 +61,7 @@ QString MakeUniqueFileName(const QString& folder, const QString& extension)
         if (!FileExists(path))
             return path;
     }
-    throw RuntimeError(75, QStringLiteral("Path/File access error"));
+    throw PathFileAccessError();
 }
 
 QString MakeTempFile(const QString& folder, const QString& prefix)
@@ -79,19 +83,33 @@ void DeleteFile(const QString& path)
         QFile::remove(path);
 }
 
+bool IsSameFile(const QString& one, const QString& other)
+{
+    std::error_code error;
+    return std::filesystem::equivalent(one.toStdString(), other.toStdString(), error);
+}
+
 bool WriteWholeFile(const QString& path, const QByteArray& bytes)
 {
-    // A pipe would keep the writer waiting for ever.
+    QBuffer source;
+    source.setData(bytes);
+    return source.open(QIODevice::ReadOnly) && WriteWholeFile(path, source);
+}
+
+bool WriteWholeFile(const QString& path, QIODevice& source)
+{
+    constexpr qint64 Piece = 1 << 20;
+    // A new file would take the place of a pipe or a device.
     if (const QFileInfo info(path); info.exists() && !info.isFile())
         return false;
-    QFile file(path);
-    if (!file.open(QFile::WriteOnly))
+    QSaveFile file(path);
+    if (!file.open(QFile::WriteOnly) || !source.seek(0))
         return false;
-    const bool written = file.write(bytes) == bytes.size() && file.flush();
-    file.close();
-    if (!written || file.error() != QFile::NoError) {
-        DeleteFile(path);
-        return false;
+    while (!source.atEnd()) {
+        const QByteArray bytes = source.read(Piece);
+        if (bytes.isEmpty() || file.write(bytes) != bytes.size())
+            return false;
     }
-    return true;
+    // The commit does not notice that the disk is full for what lies in the buffer yet.
+    return file.flush() && file.commit();
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QIODevice;
+
 /// The folder that holds the program and all it reads, without a trailing separator.
 QString ProgramFolder();
 /// Tests and tools point it elsewhere; "" brings the program's own folder back.
@@ -21,6 +23,11 @@ QString MakeTempFile(const QString& folder, const QString& prefix);
 QString TrimAtNull(const QString& text);
 /// Deletes the file, if there is one. Folders and devices stay, and a failure is not told.
 void DeleteFile(const QString& path);
-/// Writes a file of these bytes, in place of one of this name. False when it could not be written whole; what was begun
-/// is gone then.
+/// True for two names of one file that exists.
+bool IsSameFile(const QString& one, const QString& other);
+
+/// Writes a temporary file beside the target and moves it into place when it is whole and on the disk. False when that
+/// fails; what stood at the target is still there then. Folders, pipes and devices are never replaced.
 bool WriteWholeFile(const QString& path, const QByteArray& bytes);
+/// All that `source` holds, which is open.
+bool WriteWholeFile(const QString& path, QIODevice& source);

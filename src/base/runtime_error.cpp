@@ -28,6 +28,11 @@ RuntimeError TypeMismatch()
     return {13, QStringLiteral("Type mismatch")};
 }
 
+RuntimeError PathFileAccessError()
+{
+    return {75, QStringLiteral("Path/File access error")};
+}
+
 RuntimeError InvalidUseOfNull()
 {
     return {94, QStringLiteral("Invalid use of Null")};

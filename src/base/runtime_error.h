@@ -26,6 +26,7 @@ private:
 
 RuntimeError Overflow(); ///< 6
 RuntimeError TypeMismatch(); ///< 13
+RuntimeError PathFileAccessError(); ///< 75
 RuntimeError InvalidUseOfNull(); ///< 94
 RuntimeError InvalidPropertyValue(); ///< 380
 RuntimeError InvalidPropertyArrayIndex(); ///< 381

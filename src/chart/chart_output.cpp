@@ -1,21 +1,16 @@
 #include "chart/chart_output.h"
 
+#include "base/files.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace {
 constexpr double DotsPerInch = 96; ///< of a picture in its own size
 constexpr double InchesPerMeter = 1 / 0.0254;
-
-bool WriteFile(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-}
 } // namespace
 
 bool SaveAsPng(const PicturePainter& paint, QSize size, const QString& path)
@@ -32,7 +27,7 @@ bool SaveAsPng(const PicturePainter& paint, QSize size, const QString& path)
     image.setDotsPerMeterY(dotsPerMeter);
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
-    return image.save(&bytes, "PNG") && WriteFile(path, bytes.data());
+    return image.save(&bytes, "PNG") && WriteWholeFile(path, bytes.data());
 }
 
 bool SaveAsSvg(const PicturePainter& paint, QSize size, const QString& title, const QString& path)
@@ -49,7 +44,7 @@ bool SaveAsSvg(const PicturePainter& paint, QSize size, const QString& title, co
     if (!painter.begin(&generator))
         return false;
     paint(painter, 1);
-    return painter.end() && WriteFile(path, bytes.data());
+    return painter.end() && WriteWholeFile(path, bytes.data());
 }
 
 bool PrintPicture(const PicturePainter& paint, QSize size, const QString& title, QPrinter& printer)

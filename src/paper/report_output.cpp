@@ -1,5 +1,6 @@
 #include "paper/report_output.h"
 
+#include "base/files.h"
 #include "base/regional.h"
 
 #include <QPageSize>
@@ -7,7 +8,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QTemporaryFile>
 
 namespace {
@@ -115,18 +115,6 @@ bool AddLanguage(QIODevice& pdf)
         + "\n>>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n");
     return true;
 }
-
-bool CopyTo(QIODevice& from, const QString& path)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    constexpr qint64 ChunkSize = 1 << 20;
-    from.seek(0);
-    while (!from.atEnd())
-        file.write(from.read(ChunkSize));
-    return file.commit();
-}
 } // namespace
 
 bool PrintReport(ReportLayout& layout, QPrinter& printer)
@@ -144,6 +132,5 @@ bool SaveReportAsPdf(ReportLayout& layout, const QString& path)
     QTemporaryFile pdf;
     if (!pdf.open() || !WritePdf(layout, pdf))
         return false;
-    pdf.flush();
-    return pdf.error() == QFileDevice::NoError && AddLanguage(pdf) && CopyTo(pdf, path);
+    return pdf.flush() && AddLanguage(pdf) && pdf.flush() && WriteWholeFile(path, pdf);
 }

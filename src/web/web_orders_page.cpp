@@ -19,5 +19,5 @@ void CreateWebOrdersPage()
     if (!settings)
         return;
     if (!WriteWholeFile(path, OrderFormPage(*settings, FormMailService()).toLocal8Bit()))
-        throw RuntimeError(75, QStringLiteral("Path/File access error"));
+        throw PathFileAccessError();
 }
