@@ -4,6 +4,7 @@
 #include "app/main_window.h"
 #include "app/menu_table.h"
 #include "app/toolbar.h"
+#include "base/database_path.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/regional.h"

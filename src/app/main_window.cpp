@@ -9,6 +9,7 @@
 #include "invoicing/open_invoice.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QStatusBar>
@@ -105,6 +106,12 @@ void MainWindow::ShowNotice(const QString& text)
         On(statusBar(), &QStatusBar::messageChanged, statusBar(),
             [bar = statusBar()](const QString& message) { bar->setVisible(!message.isEmpty()); });
     statusBar()->showMessage(text, LongEnoughToRead);
+}
+
+void MainWindow::TellSaved(const QString& path)
+{
+    if (!path.isEmpty())
+        ShowNotice(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
 }
 
 MainGrids MainWindow::Grids() const

@@ -8,6 +8,8 @@
 #include "config/categories.h"
 #include "config/locations.h"
 #include "controls/dialogs.h"
+#include "exchange/csv_export_commands.h"
+#include "exchange/database_backup.h"
 #include "exchange/mailing_list_wizard.h"
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
@@ -53,6 +55,12 @@ void ShowForm(MainWindow& window)
     FormClass(&window).ShowModal();
 }
 
+template <QString (*Command)()>
+void Export(MainWindow& window)
+{
+    window.TellSaved(Command());
+}
+
 void PageSetup(MainWindow& window)
 {
     PageMargins unused;
@@ -84,12 +92,12 @@ const QList<MenuRow>& MainMenu::Table()
         Menu("mnuFile", QT_TR_NOOP("&File")),
         Entry("mnuFileImportInventory", QT_TR_NOOP("Import In&ventory..."), nullptr),
         Separator(),
-        Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), nullptr),
-        Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), nullptr),
-        Entry("mnuFileExportCustomers", QT_TR_NOOP("Export &Customers..."), nullptr),
-        SwitchedOff("mnuFileExportTodayRes", QT_TR_NOOP("Export &Today's Invoices..."), nullptr),
+        Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), Export<ExportInvoices>),
+        Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), Export<ExportInventory>),
+        Entry("mnuFileExportCustomers", QT_TR_NOOP("Export &Customers..."), Export<ExportCustomers>),
+        SwitchedOff("mnuFileExportTodayRes", QT_TR_NOOP("Export &Today's Invoices..."), Export<ExportTodaysInvoices>),
         Separator(),
-        Entry("mnuFileBackup", QT_TR_NOOP("&Backup Database..."), nullptr),
+        Entry("mnuFileBackup", QT_TR_NOOP("&Backup Database..."), [](Window&) { BackupDatabase(); }),
         Separator(),
         Entry("mnuFilePageSetup", QT_TR_NOOP("Page &Setup..."), PageSetup),
         Entry("mnuFilePrint", QT_TR_NOOP("&Print..."), [](Window& window) { PrintWindowImage(&window); }),

@@ -11,3 +11,16 @@ Hourglass::~Hourglass()
 {
     QApplication::restoreOverrideCursor();
 }
+
+ArrowOverHourglass::ArrowOverHourglass()
+    : m_waiting(QApplication::overrideCursor() != nullptr)
+{
+    if (m_waiting)
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+}
+
+ArrowOverHourglass::~ArrowOverHourglass()
+{
+    if (m_waiting)
+        QApplication::restoreOverrideCursor();
+}

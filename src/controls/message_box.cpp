@@ -1,5 +1,7 @@
 #include "controls/message_box.h"
 
+#include "controls/hourglass.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -101,13 +103,8 @@ Answer Ask(const QString& text, Icon icon, Buttons buttons, const QString& title
     if (gDoor)
         return gDoor->Message(text, icon, buttons, title);
     Box box(text, icon, buttons, title.isEmpty() ? QLatin1String(ProgramTitle) : title, OwnerWindow());
-    const bool waiting = QApplication::overrideCursor() != nullptr;
-    if (waiting)
-        QApplication::setOverrideCursor(Qt::ArrowCursor);
-    const Answer answer = FromQt(box.exec());
-    if (waiting)
-        QApplication::restoreOverrideCursor();
-    return answer;
+    const ArrowOverHourglass arrow;
+    return FromQt(box.exec());
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "exchange/mailing_list.h"
 
 #include "base/files.h"
+#include "base/text_encoding.h"
 #include "db/connection.h"
 
 #include <QStringList>
@@ -17,6 +18,8 @@ QString MailingList()
 
 bool WriteMailingList(const QString& fileName)
 {
+    if (IsSameFile(fileName, gConnection->Path()))
+        return false;
     DeleteFile(fileName);
-    return WriteWholeFile(fileName, MailingList().toLocal8Bit());
+    return WriteWholeFile(fileName, TextEncoding::OfSystem().Encode(MailingList().toStdString()));
 }

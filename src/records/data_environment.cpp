@@ -1,7 +1,6 @@
 #include "records/data_environment.h"
 
-#include "base/files.h"
-#include "base/settings_store.h"
+#include "base/database_path.h"
 
 #include <stdexcept>
 #include <vector>
@@ -152,10 +151,7 @@ void MainDataEnvironment::Close(const QString& command)
 
 void MainDataEnvironment::OpenConnection()
 {
-    QString folder = GetConfig(QStringLiteral("DBPath"), QString());
-    if (folder.isEmpty())
-        folder = ProgramFolder() + QLatin1Char('\\');
-    MainConn.OpenReadOnly(NativePath(folder, QStringLiteral("db.mdb")));
+    MainConn.OpenReadOnly(DatabasePath());
 }
 
 Sql MainDataEnvironment::Filled(const QString& command, const QString& statement) const

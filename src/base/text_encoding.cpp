@@ -1,0 +1,64 @@
+#include "base/text_encoding.h"
+
+#include <QStringEncoder>
+
+#include <langinfo.h>
+#include <locale.h>
+
+namespace {
+
+constexpr const char* Utf8 = "UTF-8";
+
+/// The locale's, not that of the running program: Qt has switched that to UTF-8.
+QByteArray CodesetOfLocale()
+{
+    locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    if (locale == nullptr)
+        return Utf8;
+    const QByteArray codeset = nl_langinfo_l(CODESET, locale);
+    freelocale(locale);
+    return codeset;
+}
+
+bool IsKnown(const QByteArray& name)
+{
+    return QStringEncoder(name.constData()).isValid();
+}
+
+} // namespace
+
+TextEncoding::TextEncoding(const QByteArray& name, Mark mark)
+    : m_name(name)
+    , m_mark(mark)
+{
+}
+
+TextEncoding TextEncoding::OfSystem()
+{
+    constexpr const char* PlainAscii = "ANSI_X3.4-1968";
+    const QByteArray codeset = CodesetOfLocale();
+    const bool holdsNames = codeset != PlainAscii && IsKnown(codeset);
+    return {holdsNames ? codeset : QByteArray(Utf8), Mark::None};
+}
+
+TextEncoding TextEncoding::Named(const QString& name)
+{
+    const QLatin1String ending(" with BOM");
+    const bool isMarked = name.endsWith(ending, Qt::CaseInsensitive);
+    const QByteArray plain = name.chopped(isMarked ? ending.size() : 0).trimmed().toLatin1();
+    if (plain.isEmpty() || !IsKnown(plain))
+        return OfSystem();
+    return {plain, isMarked ? Mark::ByteOrder : Mark::None};
+}
+
+QByteArray TextEncoding::Encode(std::string_view utf8) const
+{
+    const auto flag = m_mark == Mark::ByteOrder ? QStringConverter::Flag::WriteBom : QStringConverter::Flag::Default;
+    QStringEncoder encoder(m_name.constData(), flag);
+    QByteArray bytes = encoder(QString::fromUtf8(utf8.data(), qsizetype(utf8.size())));
+    // The encodings that are not Qt's own write a control sign for what they do not hold.
+    constexpr char Substitute = '\x1a';
+    if (!QStringConverter::encodingForName(m_name.constData()))
+        bytes.replace(Substitute, '?');
+    return bytes;
+}

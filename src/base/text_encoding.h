@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <string_view>
+
+/// How the letters of a text become the bytes of a file for other programs.
+class TextEncoding {
+public:
+    /// The user's locale's own; UTF-8 where that is plain ASCII, as in the C locale, so that no name is lost.
+    static TextEncoding OfSystem();
+    /// By a name such as "windows-1252", "UTF-8" or "UTF-8 with BOM"; the system's for a name that nobody knows.
+    static TextEncoding Named(const QString& name);
+
+    /// What the encoding has no sign for becomes "?".
+    QByteArray Encode(std::string_view utf8) const;
+
+private:
+    enum class Mark { None, ByteOrder };
+    TextEncoding(const QByteArray& name, Mark mark);
+
+    QByteArray m_name;
+    Mark m_mark;
+};
