@@ -1,6 +1,7 @@
 #include "controls/dialogs.h"
 
 #include "base/regional.h"
+#include "controls/hourglass.h"
 #include "controls/message_box.h"
 #include "controls/paper_setup.h"
 
@@ -16,6 +17,7 @@
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include <cmath>
@@ -44,11 +46,25 @@ QString FirstExtension(const QString& filter)
     return pattern.match(filter).captured(1);
 }
 
+/// The folder that a file was picked from last; at first the user's documents.
+QString& PickerFolder()
+{
+    static QString folder;
+    if (!QFileInfo(folder).isDir())
+        folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(folder).isDir())
+        folder = QDir::homePath();
+    return folder;
+}
+
 QString PickedFile(QFileDialog& dialog)
 {
+    const ArrowOverHourglass arrow;
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return QString();
-    return dialog.selectedFiles().constFirst();
+    QString path = dialog.selectedFiles().constFirst();
+    PickerFolder() = QFileInfo(path).absolutePath();
+    return path;
 }
 
 bool NoPrinterInstalled()
@@ -87,7 +103,7 @@ QString OpenFileName(const QString& title, const QString& filter)
 {
     if (DialogDoor* door = CurrentDialogDoor())
         return door->OpenFileName(title, filter);
-    QFileDialog dialog(OwnerWindow(), title, QString(), filter);
+    QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return PickedFile(dialog);
 }
@@ -96,7 +112,7 @@ QString SaveFileName(const QString& title, const QString& filter, const QString&
 {
     if (DialogDoor* door = CurrentDialogDoor())
         return door->SaveFileName(title, filter, suggested);
-    QFileDialog dialog(OwnerWindow(), title, QString(), filter);
+    QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(FirstExtension(dialog.selectedNameFilter()));

@@ -8,8 +8,9 @@
 class QPrinter;
 
 /// The platform's file pickers; "" when the user cancelled. `filter` is Qt's form: "Pictures (*.png *.jpg);;All (*)".
+/// They open in the folder that a file was picked from last while the program runs, at first in the user's documents.
 QString OpenFileName(const QString& title, const QString& filter);
-/// Asks before a file that exists is chosen, and again while the folder does not exist.
+/// Asks before a file that exists is chosen, and again while the folder does not exist. `suggested` is a file's name.
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested);
 
 /// The printer that Page Setup and Print share for the run; made on first use.

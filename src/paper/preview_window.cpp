@@ -1,7 +1,6 @@
 #include "paper/preview_window.h"
 
 #include "base/guard.h"
-#include "base/settings_store.h"
 #include "controls/combo_box.h"
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
@@ -9,13 +8,10 @@
 #include "paper/report_output.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
@@ -24,7 +20,6 @@
 #include <cmath>
 
 namespace {
-const QString PdfFolderKey = QStringLiteral("PdfFolder");
 constexpr int PagesASlice = 20;
 constexpr double Zooms[] = {0.1, 0.25, 0.5, 0.75, 1, 1.25, 1.5, 2, 3, 4};
 constexpr int FitWidthEntry = -1;
@@ -44,16 +39,6 @@ ReportMargins InTwips(const PageMargins& margins)
 QMarginsF InInches(const ReportMargins& margins)
 {
     return QMarginsF(margins.left, margins.top, margins.right, margins.bottom) / 1440;
-}
-
-/// The folder of the last PDF, at first the user's documents.
-QDir PdfFolder()
-{
-    const QDir last(GetConfig(PdfFolderKey, QString()));
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    if (last.isAbsolute() && last.exists())
-        return last;
-    return documents.exists() ? documents : QDir::home();
 }
 
 QString SuggestedFile(QString title)
@@ -368,8 +353,7 @@ void PreviewWindow::PageSetup()
 
 void PreviewWindow::SaveAsPdf()
 {
-    QString path = SaveFileName(
-        tr("Save as PDF"), tr("PDF documents (*.pdf)"), PdfFolder().filePath(SuggestedFile(windowTitle())));
+    QString path = SaveFileName(tr("Save as PDF"), tr("PDF documents (*.pdf)"), SuggestedFile(windowTitle()));
     if (path.isEmpty())
         return;
     if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
@@ -381,7 +365,6 @@ void PreviewWindow::SaveAsPdf()
     }
     if (!saved)
         return MsgBox(tr("Unable to write to file %1").arg(path), Icon::Critical);
-    SaveConfig(PdfFolderKey, QFileInfo(path).absolutePath());
     statusBar()->showMessage(tr("Saved as %1").arg(path));
 }
 
