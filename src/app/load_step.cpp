@@ -36,7 +36,7 @@ void ReadTerms(MainWindow& window)
     Ignoring([] { CDbl(GetConfig(QStringLiteral("SalesTaxPercentage"), QStringLiteral("10"))); });
     GetConfig(QStringLiteral("CurrencySymbol"), GetLocaleText(LocaleItem::CurrencySymbol));
     GetConfig(QStringLiteral("SalesTaxName"), QStringLiteral("Sales Tax"));
-    const QString postCode = GetConfig(QStringLiteral("PostCode"), QStringLiteral("Post Code"));
+    const QString postCode = GetConfig(QStringLiteral("PostCode"), MainWindow::tr("Post Code"));
     for (QLabel* label : window.findChildren<QLabel*>(QStringLiteral("lblPostCode")))
         label->setText(postCode);
 }

@@ -1,5 +1,6 @@
 #include "app/start.h"
 
+#include "app/language.h"
 #include "app/load_step.h"
 #include "app/splash.h"
 #include "app/tip.h"
@@ -48,6 +49,7 @@ Program::~Program()
 
 bool Program::Main()
 {
+    SetLanguage(GetConfig(QStringLiteral("Language"), QString()));
     frmSplash([this] { return LoadMainWindow(); }).ShowModal();
     if (!LoadMainWindow())
         return false;

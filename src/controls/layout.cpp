@@ -235,8 +235,9 @@ QLabel* heading(const QString& text)
 void SetLabelOf(QLabel* label, QWidget* control)
 {
     QString name = WithoutMnemonic(label->text()).trimmed();
+    // In French a blank stands before the colon.
     if (name.endsWith(u':'))
-        name.chop(1);
+        name = name.chopped(1).trimmed();
     label->setBuddy(control);
     control->setAccessibleName(name);
     // A control made of parts takes the focus by a part, and that part is what a screen reader speaks.

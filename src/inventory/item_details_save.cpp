@@ -80,7 +80,7 @@ void frmItemDetails::RepairEntries()
         if (!IsNumeric(box->text()))
             box->setText(QStringLiteral("0"));
     if (m_name->text().isEmpty())
-        m_name->setText(tr("No Name"));
+        m_name->setText(QStringLiteral("No Name"));
     for (const PriceBox& price : m_prices)
         if (!IsNumeric(price.box->text()))
             price.box->setText(FormatCurrency(Currency()));

@@ -6,6 +6,8 @@
 #include "invoicing/invoice_totals.h"
 #include "records/lists.h"
 
+#include <iterator>
+
 void InvoicePage::ShowInvoicePage()
 {
     FillPriceListChoice();
@@ -74,7 +76,9 @@ void InvoicePage::ShowInvoice(const InvoiceFields& invoice)
     chkWarrantyInvoice->setChecked(invoice.isWarranty);
     txtAmountPayed->clear();
     txtNotes->SetText(invoice.notes);
-    SelectComboByText(cboPaymentMethod, invoice.paymentMethod);
+    for (size_t method = 0; method < std::size(PaymentMethods); ++method)
+        if (invoice.paymentMethod == QLatin1String(PaymentMethods[method]))
+            cboPaymentMethod->SetListIndex(int(method));
     lblInvoiceNo->setText(invoice.invoiceNo);
     lblInvoiceNo->home(false);
     lblInvoiceDate->SetValue(invoice.submitted.startOfDay());

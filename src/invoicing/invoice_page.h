@@ -92,6 +92,10 @@ signals:
     void Notice(const QString& text);
 
 private:
+    /// As they are stored, in every language.
+    static constexpr const char* PaymentMethods[]{QT_TR_NOOP("N/A"), QT_TR_NOOP("Check"), QT_TR_NOOP("Cash"),
+        QT_TR_NOOP("Credit Card"), QT_TR_NOOP("Bank Transfer"), QT_TR_NOOP("Charge to Account")};
+
     PartyFields CustomerBoxes() const { return CustomerFields(*this); }
 
     QLayout* CustomerSection();

@@ -134,9 +134,8 @@ QLayout* InvoicePage::LinesSection()
 
 void InvoicePage::FillPaymentMethods()
 {
-    for (const QString& method :
-        {tr("N/A"), tr("Check"), tr("Cash"), tr("Credit Card"), tr("Bank Transfer"), tr("Charge to Account")})
-        cboPaymentMethod->AddItem(method, 0);
+    for (const char* method : PaymentMethods)
+        cboPaymentMethod->AddItem(tr(method), 0);
 }
 
 QLayout* InvoicePage::PaymentAndTotals()

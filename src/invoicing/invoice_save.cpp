@@ -72,7 +72,8 @@ InvoiceFields InvoicePage::InvoiceOnPage() const
         invoice.shipped = shipped->date();
     invoice.isWarranty = chkWarrantyInvoice->isChecked();
     invoice.isPaid = chkPaid->isChecked();
-    invoice.paymentMethod = cboPaymentMethod->Text();
+    if (const int method = cboPaymentMethod->ListIndex(); method >= 0)
+        invoice.paymentMethod = QLatin1String(PaymentMethods[method]);
     invoice.notes = txtNotes->Text();
     invoice.secondTax = lblSecondTax->text();
     return invoice;

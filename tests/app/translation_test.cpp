@@ -1,4 +1,5 @@
 #include "app/app_test.h"
+#include "app/language.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -17,7 +18,14 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-class TranslationTest : public MainWindowTest { };
+class TranslationTest : public MainWindowTest {
+protected:
+    void TearDown() override
+    {
+        SetLanguage({});
+        MainWindowTest::TearDown();
+    }
+};
 
 } // namespace
 
@@ -50,4 +58,14 @@ TEST_F(TranslationTest, ReachesEveryTextOfTheMainWindow)
         for (const QString& entry : Entries(combo))
             check(combo, entry);
     EXPECT_EQ(left.join(u'\n'), "");
+}
+
+TEST_F(TranslationTest, FollowsTheCodeOfTheLanguageAndIsEnglishWithoutOne)
+{
+    QStringList shown;
+    for (const char* code : {"de", "FR", "de_AT", "fr-CA", "", "en", "xx", "ja", "../de", "German"}) {
+        SetLanguage(QString::fromLatin1(code));
+        shown << InvoicePage::tr("Cash");
+    }
+    EXPECT_EQ(shown.join(u' '), QStringLiteral("Bar Espèces Bar Espèces Cash Cash Cash Cash Cash Cash"));
 }

@@ -20,9 +20,10 @@
 
 #include <cstdio>
 
-/// usage: tour PROGRAM_FOLDER PICTURE_FOLDER
+/// usage: tour PROGRAM_FOLDER PICTURE_FOLDER [LANGUAGE]
 /// Walks the real windows, from the stock to the printed invoice, and leaves a picture of each station and a page that
-/// shows them. It works on a demo shop and a settings store of its own, which it throws away.
+/// shows them, in the language of the code. It works on a demo shop and a settings store of its own, which it throws
+/// away.
 
 namespace {
 
@@ -93,8 +94,8 @@ bool WentWell()
 
 int main(int argc, char* argv[])
 {
-    if (argc != 3) {
-        std::fputs("usage: tour PROGRAM_FOLDER PICTURE_FOLDER\n", stderr);
+    if (argc != 3 && argc != 4) {
+        std::fputs("usage: tour PROGRAM_FOLDER PICTURE_FOLDER [LANGUAGE]\n", stderr);
         return 2;
     }
     testing::InitGoogleTest();
@@ -109,6 +110,8 @@ int main(int argc, char* argv[])
         SetClock([] { return Morning; });
         SetProgramFolder(QString::fromLocal8Bit(argv[1]));
         PrepareShop(folder.path());
+        if (argc == 4)
+            SaveConfig(QStringLiteral("Language"), QString::fromLocal8Bit(argv[3]));
         StartWatchingForms();
         Walk(folder.path(), QString::fromLocal8Bit(argv[2]));
         CheckAwaitedForms();

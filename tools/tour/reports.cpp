@@ -11,10 +11,10 @@ void LookAtReports(Program& program, Album& album)
     ClickToolbar(window, "Reports");
     album.Take("reports");
     ReportsPanel& reports = *window.picReports;
-    Pick(reports.cboGraphType, QStringLiteral("Compare Item Sales!"));
+    Pick(reports.cboGraphType, ReportsPanel::tr("Compare Item Sales!"));
     Pick(reports.cboReportSecondProduct, QStringLiteral("Black Tea Assam"));
     album.Take("item-sales-compared");
-    Pick(reports.cboGraphStyle, QStringLiteral("2D Line"));
+    Pick(reports.cboGraphStyle, ReportsPanel::tr("2D Line"));
     Click(reports.cmdExpand);
     album.Take("graph-expanded");
     Click(reports.cmdExpand);
@@ -23,8 +23,8 @@ void LookAtReports(Program& program, Album& album)
     const QSize size = window.size();
     window.showNormal();
     window.resize(900, 500);
-    Pick(reports.cboGraphType, QStringLiteral("Invoices per month"));
-    Pick(reports.cboGraphStyle, QStringLiteral("3D Area"));
+    Pick(reports.cboGraphType, ReportsPanel::tr("Invoices per month"));
+    Pick(reports.cboGraphStyle, ReportsPanel::tr("3D Area"));
     album.Take("reports-in-a-small-window");
     window.resize(size);
     window.setWindowState(states);

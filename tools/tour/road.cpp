@@ -146,7 +146,7 @@ void DeleteLine(InvoicePage& page, Album& album)
 
 void Complete(InvoicePage& page, Album& album)
 {
-    Pick(page.cboPaymentMethod, QStringLiteral("Credit Card"));
+    Pick(page.cboPaymentMethod, InvoicePage::tr("Credit Card"));
     Type(page.txtNotes, QStringLiteral("Deliver to the side door."));
     Click(page.chkPaid);
     album.Take("ready-to-complete");
@@ -172,9 +172,9 @@ void StartForTheFirstTime(Program& program, Album& album)
 void LookAround(Program& program, Album& album)
 {
     MainWindow& window = *program.Window();
-    Pick(window.picArrivals->cboInvoiceFilter, QStringLiteral("Unpaid Invoices"));
+    Pick(window.picArrivals->cboInvoiceFilter, InvoiceHistory::tr("Unpaid Invoices"));
     album.Take("unpaid-invoices");
-    Pick(window.picArrivals->cboInvoiceFilter, QStringLiteral("All Invoices"));
+    Pick(window.picArrivals->cboInvoiceFilter, InvoiceHistory::tr("All Invoices"));
     ClickToolbar(window, "Customers");
     album.Take("customers");
     LookAtReports(program, album);
