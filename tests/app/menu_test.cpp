@@ -8,6 +8,7 @@
 #include "parties/customer_record.h"
 #include "parties/vendor_record.h"
 #include "support/golden.h"
+#include "support/wizard_walk.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -181,18 +182,12 @@ TEST_F(MenuTest, TheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
     WizardState::Configuration.ShowWelcome = false;
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
-    WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_Business>([](frmWizConfig_Business& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_Logo>([](frmWizConfig_Logo& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_Tax>([](frmWizConfig_Tax& page) {
+    NextOn<frmWizConfig_Welcome, frmWizConfig_Business, frmWizConfig_Logo>();
+    AtPage<frmWizConfig_Tax>([](frmWizConfig_Tax& page) {
         Click(page.chkEnableTax2);
         Type(page.txtSalesTaxName2, "PST");
-        Click(page.cmdNext);
     });
-    WhenFormShows<frmWizConfig_Barcode>([](frmWizConfig_Barcode& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_PickingList>([](frmWizConfig_PickingList& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_Cats>([](frmWizConfig_Cats& page) { Click(page.cmdNext); });
-    WhenFormShows<frmWizConfig_Complete>([](frmWizConfig_Complete& page) { Click(page.cmdNext); });
+    NextOn<frmWizConfig_Barcode, frmWizConfig_PickingList, frmWizConfig_Cats, frmWizConfig_Complete>();
     window.Run("mnuConfigureWizard");
     EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), "PST:");
     EXPECT_TRUE(window.picNewInvoice->lblLabels_26->isVisible() && window.picNewInvoice->lblSecondTax->isVisible());

@@ -5,6 +5,7 @@
 #include "config/secondary_tax.h"
 #include "support/form_test.h"
 #include "support/golden.h"
+#include "support/wizard_walk.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,28 +39,15 @@ protected:
         return path;
     }
 
-    /// Lets `visit` fill the page, then clicks Next.
-    template <typename Page>
-    static void At(std::function<void(Page&)> visit = {})
-    {
-        WhenFormShows<Page>([visit](Page& page) {
-            if (visit)
-                visit(page);
-            Click(page.cmdNext);
-        });
-    }
     /// Through all pages, with what to do on those that ask.
     bool RunWith(std::function<void(frmWizConfig_Logo&)> logo, std::function<void(frmWizConfig_Tax&)> tax = {},
         std::function<void(frmWizConfig_Business&)> business = {})
     {
-        At<frmWizConfig_Welcome>();
-        At<frmWizConfig_Business>(std::move(business));
-        At<frmWizConfig_Logo>(std::move(logo));
-        At<frmWizConfig_Tax>(std::move(tax));
-        At<frmWizConfig_Barcode>();
-        At<frmWizConfig_PickingList>();
-        At<frmWizConfig_Cats>();
-        At<frmWizConfig_Complete>();
+        NextOn<frmWizConfig_Welcome>();
+        AtPage(std::move(business));
+        AtPage(std::move(logo));
+        AtPage(std::move(tax));
+        NextOn<frmWizConfig_Barcode, frmWizConfig_PickingList, frmWizConfig_Cats, frmWizConfig_Complete>();
         return RunConfigurationWizard(nullptr);
     }
 
@@ -142,25 +130,24 @@ TEST_F(ConfigurationWizardTest, CancelOnTheLastPageAppliesNothingAndThePagesStan
         EXPECT_EQ(page.rect(), size) << page.windowTitle().toStdString();
         EXPECT_EQ(page.cmdNext->geometry(), next) << page.windowTitle().toStdString();
     };
-    At<frmWizConfig_Welcome>(check);
-    At<frmWizConfig_Business>([&](auto& page) {
+    AtPage<frmWizConfig_Welcome>(check);
+    AtPage<frmWizConfig_Business>([&](auto& page) {
         check(page);
         FillBusiness(page);
     });
-    At<frmWizConfig_Logo>([&](auto& page) {
+    AtPage<frmWizConfig_Logo>([&](auto& page) {
         check(page);
-        answers.ExpectOpenFile(Folder() + "/other/logo.bmp");
-        Logo("other/logo.bmp");
+        answers.ExpectOpenFile(Logo("other/logo.bmp"));
         Click(page.cmdBrowse);
     });
-    At<frmWizConfig_Tax>([&](auto& page) {
+    AtPage<frmWizConfig_Tax>([&](auto& page) {
         check(page, {"picTax2", "txtSalesTaxName2"});
         FillTax(page);
     });
-    At<frmWizConfig_Barcode>(check);
-    At<frmWizConfig_PickingList>(check);
-    At<frmWizConfig_Cats>(check);
-    WhenFormShows<frmWizConfig_Complete>([&](auto& page) {
+    AtPage<frmWizConfig_Barcode>(check);
+    AtPage<frmWizConfig_PickingList>(check);
+    AtPage<frmWizConfig_Cats>(check);
+    AtPage<frmWizConfig_Complete>([&](auto& page) {
         check(page);
         Click(page.cmdCancel);
     });
@@ -186,90 +173,62 @@ TEST_F(ConfigurationWizardTest, EnteringABoxSelectsItsText)
     }));
 }
 
-namespace {
-
-/// What the tax page makes of a typed rate: the rate's row, "" for none, or the end of the program for a statement
-/// that the engine cannot read.
-struct TypedRate {
-    bool rateExists;
-    const char* name;
-    const char* percentage;
-    const char* stored; ///< null for the end
-};
-void PrintTo(const TypedRate& rate, std::ostream* out)
+TEST_F(ConfigurationWizardTest, ATypedRateIsStoredAsTheNumberRulesReadItOrEndsTheProgram)
 {
-    *out << (rate.rateExists ? "update " : "add ") << rate.name << ' ' << rate.percentage;
-}
-
-class TypedRateTest : public ConfigurationWizardTest, public ::testing::WithParamInterface<TypedRate> { };
-
-} // namespace
-
-TEST_P(TypedRateTest, IsStoredAsTheNumberRulesReadIt)
-{
-    const TypedRate& rate = GetParam();
-    if (rate.rateExists)
-        TaxRateRow("Old", 5);
-    ExpectedEnd end;
-    Guarded([&] {
-        RunWith({}, [&](frmWizConfig_Tax& page) {
-            Type(page.txtName, rate.name);
-            Type(page.txtPercentage, rate.percentage);
+    const struct {
+        bool rateExists;
+        const char* name;
+        const char* percentage;
+        QString stored;
+    } rates[] = {{true, "VAT's", "abc", "VAT's 0.0"}, {true, "VAT", "", "VAT 0.0"}, {true, "", "5%", " 0.0"},
+        {true, "VAT", "1,5", "Old 5.0"}, {false, "VAT's", "abc", "VAT's 0.0"}, {false, "VAT", "1,5", "VAT 15.0"},
+        {false, "", "7", ""}};
+    for (const auto& rate : rates) {
+        SCOPED_TRACE(testing::Message() << rate.rateExists << rate.name << ' ' << rate.percentage);
+        Run("DELETE FROM taxrate WHERE id <> 1");
+        if (rate.rateExists)
+            TaxRateRow("Old", 5);
+        const ExpectedEnd end;
+        Guarded([&] {
+            RunWith({}, [&](frmWizConfig_Tax& page) {
+                Type(page.txtName, rate.name);
+                Type(page.txtPercentage, rate.percentage);
+            });
         });
-    });
-    EXPECT_EQ(end.Ended(), rate.stored == nullptr);
-    EXPECT_EQ(Rows(FirstRate).value(0).join(' '), rate.stored ? rate.stored : "Old 5.0");
-    // The second name goes in although its box was never shown.
-    EXPECT_EQ(Single("SELECT SecondaryTaxName FROM settings"), "City Tax");
+        EXPECT_EQ(end.Ended(), rate.stored.startsWith("Old"));
+        EXPECT_EQ(Rows(FirstRate).value(0).join(' '), rate.stored);
+        // The second name goes in although its box was never shown.
+        EXPECT_EQ(Single("SELECT SecondaryTaxName FROM settings"), "City Tax");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Rates, TypedRateTest,
-    ::testing::Values(TypedRate{true, "VAT's", "abc", "VAT's 0.0"}, TypedRate{true, "VAT", "", "VAT 0.0"},
-        TypedRate{true, "", "5%", " 0.0"}, TypedRate{true, "VAT", "1,5", nullptr},
-        TypedRate{false, "VAT's", "abc", "VAT's 0.0"}, TypedRate{false, "VAT", "1,5", "VAT 15.0"},
-        TypedRate{false, "", "7", ""}));
-
-namespace {
-
-/// A logo that is chosen, and what becomes of it before Finish.
-struct ChosenLogo {
-    const char* name;
-    void (*meanwhile)(const QString& path);
-    const char* extension;
-    bool copied;
-};
-void PrintTo(const ChosenLogo& logo, std::ostream* out)
+TEST_F(ConfigurationWizardTest, ALogoIsStoredUnderANewNameInTheProgramsFolderAlsoWhereItHasGone)
 {
-    *out << logo.name;
+    const struct {
+        const char* name;
+        const char* extension;
+        bool removed, replacedByAFolder;
+    } logos[] = {{"my.shop/logo", "", false, false}, {"it's/shop.sign.bmp", ".bmp", false, false},
+        {"gone.bmp", ".bmp", true, false}, {"folder.bmp", ".bmp", true, true}};
+    for (const auto& logo : logos) {
+        SCOPED_TRACE(logo.name);
+        const QString path = Logo(logo.name);
+        answers.ExpectOpenFile(path);
+        EXPECT_TRUE(RunWith([](frmWizConfig_Logo& page) { Click(page.cmdBrowse); },
+            [&](frmWizConfig_Tax&) {
+                if (logo.removed)
+                    QFile::remove(path);
+                if (logo.replacedByAFolder)
+                    QDir().mkpath(path);
+            }));
+        const QFileInfo stored(Single("SELECT Logofilename FROM settings"));
+        EXPECT_EQ(stored.path(), Folder());
+        EXPECT_TRUE(stored.fileName().endsWith(logo.extension));
+        EXPECT_EQ(stored.fileName().count(u'.'), *logo.extension ? 1 : 0);
+        EXPECT_EQ(stored.exists(), !logo.removed);
+        Run("UPDATE settings SET Logofilename = NULL");
+    }
 }
-
-class ChosenLogoTest : public ConfigurationWizardTest, public ::testing::WithParamInterface<ChosenLogo> { };
-
-} // namespace
-
-TEST_P(ChosenLogoTest, IsStoredUnderANewNameInTheProgramsFolder)
-{
-    const QString logo = Logo(GetParam().name);
-    answers.ExpectOpenFile(logo);
-    EXPECT_TRUE(RunWith([](frmWizConfig_Logo& page) { Click(page.cmdBrowse); },
-        [&](frmWizConfig_Tax&) { GetParam().meanwhile(logo); }));
-    const QFileInfo stored(Single("SELECT Logofilename FROM settings"));
-    EXPECT_EQ(stored.path(), Folder());
-    EXPECT_TRUE(stored.fileName().endsWith(GetParam().extension));
-    EXPECT_EQ(stored.fileName().count(u'.'), *GetParam().extension ? 1 : 0);
-    EXPECT_EQ(stored.exists(), GetParam().copied);
-}
-
-INSTANTIATE_TEST_SUITE_P(Logos, ChosenLogoTest,
-    ::testing::Values(ChosenLogo{"my.shop/logo", [](const QString&) {}, "", true},
-        ChosenLogo{"it's/shop.sign.bmp", [](const QString&) {}, ".bmp", true},
-        ChosenLogo{"gone.bmp", [](const QString& path) { QFile::remove(path); }, ".bmp", false},
-        ChosenLogo{"folder.bmp",
-            [](const QString& path) {
-                QFile::remove(path);
-                QDir().mkpath(path);
-            },
-            ".bmp", false}));
 
 TEST_F(ConfigurationWizardTest, APictureThatCannotBeLoadedIsToldAndTheOneBeforeStays)
 {
@@ -297,21 +256,17 @@ TEST_F(ConfigurationWizardTest, APictureThatCannotBeLoadedIsToldAndTheOneBeforeS
 TEST_F(ConfigurationWizardTest, ClearTakesTheLogoAwayEvenWhenThePageIsLeftByBack)
 {
     Run(QStringLiteral("UPDATE settings SET Logofilename = '%1'").arg(Logo("shop.bmp")));
-    At<frmWizConfig_Welcome>();
-    At<frmWizConfig_Business>();
-    WhenFormShows<frmWizConfig_Logo>([](frmWizConfig_Logo& page) {
+    NextOn<frmWizConfig_Welcome, frmWizConfig_Business>();
+    AtPage<frmWizConfig_Logo>([](frmWizConfig_Logo& page) {
         Click(page.cmdClear);
         EXPECT_FALSE(page.cmdClear->isEnabled());
         EXPECT_TRUE(page.picPreview->findChild<QLabel*>()->pixmap().isNull());
         Click(page.cmdBack);
     });
-    At<frmWizConfig_Business>();
-    At<frmWizConfig_Logo>([](frmWizConfig_Logo& page) { EXPECT_EQ(page.lblLogofilename->text(), ""); });
-    At<frmWizConfig_Tax>();
-    At<frmWizConfig_Barcode>();
-    At<frmWizConfig_PickingList>();
-    At<frmWizConfig_Cats>();
-    At<frmWizConfig_Complete>();
+    NextOn<frmWizConfig_Business>();
+    AtPage<frmWizConfig_Logo>([](frmWizConfig_Logo& page) { EXPECT_EQ(page.lblLogofilename->text(), ""); });
+    NextOn<frmWizConfig_Tax, frmWizConfig_Barcode, frmWizConfig_PickingList, frmWizConfig_Cats,
+        frmWizConfig_Complete>();
     EXPECT_TRUE(RunConfigurationWizard(nullptr));
     EXPECT_EQ(Single("SELECT Logofilename FROM settings"), "");
 }

@@ -4,6 +4,7 @@
 #include "support/file_size_limit.h"
 #include "support/form_test.h"
 #include "support/golden.h"
+#include "support/wizard_walk.h"
 
 namespace {
 
@@ -17,20 +18,11 @@ protected:
         Run("DELETE FROM customer");
     }
 
-    template <typename Page>
-    static void At(std::function<void(Page&)> visit = {})
-    {
-        WhenFormShows<Page>([visit](Page& page) {
-            if (visit)
-                visit(page);
-            Click(page.cmdNext);
-        });
-    }
     void RunTo(const QString& file)
     {
-        At<frmWizMailList_Welcome>();
-        At<frmWizMailList_File>([file](frmWizMailList_File& page) { Type(page.txtName, file); });
-        At<frmWizMailList_Complete>();
+        NextOn<frmWizMailList_Welcome>();
+        AtPage<frmWizMailList_File>([file](frmWizMailList_File& page) { Type(page.txtName, file); });
+        NextOn<frmWizMailList_Complete>();
         RunMailingListWizard(nullptr);
     }
 };
@@ -63,11 +55,11 @@ TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
         CheckForm(page);
         texts += ScreenText(&page);
     };
-    At<frmWizMailList_Welcome>([&](frmWizMailList_Welcome& page) {
+    AtPage<frmWizMailList_Welcome>([&](frmWizMailList_Welcome& page) {
         check(page);
         Click(page.chkDisplayNext);
     });
-    At<frmWizMailList_File>([&](frmWizMailList_File& page) {
+    AtPage<frmWizMailList_File>([&](frmWizMailList_File& page) {
         check(page);
         answers.ExpectMessage(
             "No mailing list filename has been entered. Please enter a filename to continue.", Icon::Critical);
@@ -78,7 +70,7 @@ TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
             Click(page.cmdBrowse);
         }
     });
-    WhenFormShows<frmWizMailList_Complete>([&](frmWizMailList_Complete& page) {
+    AtPage<frmWizMailList_Complete>([&](frmWizMailList_Complete& page) {
         check(page);
         Click(page.cmdCancel);
     });
@@ -86,7 +78,7 @@ TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
     EXPECT_EQ(Text(), "old file");
     ExpectGolden(texts, "mailing_list_wizard.txt");
 
-    WhenFormShows<frmWizMailList_File>([&](frmWizMailList_File& page) {
+    AtPage<frmWizMailList_File>([&](frmWizMailList_File& page) {
         EXPECT_EQ(page.txtName->text(), File());
         Press(page.txtName, Qt::Key_Escape);
     });

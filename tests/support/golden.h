@@ -1,33 +1,22 @@
 #pragma once
 
 #include "paper/report_layout.h"
-#include "paper/report_text.h"
-#include "support/text_difference.h"
 
-#include <gtest/gtest.h>
+#include <QString>
 
-#include <QFile>
+#include <functional>
 
 /// The whole report as text, page by page and section by section, on an A4 sheet unless told otherwise.
-inline QString ReportText(const Report& report, ReportPaper paper = {})
-{
-    ReportLayout layout(report, paper);
-    QString text = report.title + "\n";
-    for (int page = 0; layout.HasPage(page); ++page)
-        text += QStringLiteral("=== page %1\n").arg(page + 1) + PageText(layout.Page(page));
-    return text;
-}
+QString ReportText(const Report& report, ReportPaper paper = {});
 
-/// Compares a text with a file of the folder's golden files. With TAVRIN_WRITE_GOLDEN set the file is written anew.
-inline void ExpectGolden(const QString& text, const char* name)
-{
-    QFile file(QStringLiteral(GOLDEN_FOLDER "/") + name);
-    if (qEnvironmentVariableIsSet("TAVRIN_WRITE_GOLDEN")) {
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-        return;
-    }
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file " << name;
-    const std::string difference = Difference(QString::fromUtf8(file.readAll()), text);
-    EXPECT_TRUE(difference.empty()) << "not as in golden/" << name << ":\n" << difference;
-}
+/// The text of a file in the folder "golden" beside the test.
+QString GoldenText(const char* name);
+/// Compares a text with that of a golden file. With TAVRIN_WRITE_GOLDEN set the file is written anew.
+void ExpectGolden(const QString& text, const char* name);
+
+/// What is to be answered to a given text, below a heading of the file.
+using AnswerTo = std::function<QString(const QString& heading, const QString& given)>;
+
+/// Holds the cases of a golden file: "given => answer", a line each, below headings in square brackets; other lines are
+/// remarks. What is given may stand in quotation marks; backslashes write what cannot be seen, as in C.
+void ExpectCases(const char* name, const AnswerTo& answer);

@@ -9,13 +9,6 @@ const QString Service = QStringLiteral("https://mail.shop.example/cgi-bin/rom.pl
 const QString Email = QStringLiteral("orders@harbour.example");
 constexpr auto GoldenFile = "order_form.html";
 
-QString GoldenText()
-{
-    QFile file(QStringLiteral(GOLDEN_FOLDER "/") + GoldenFile);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QString::fromUtf8(file.readAll());
-}
-
 QString FormLine(const QString& target)
 {
     return QStringLiteral("<FORM action=\"%1\" method=\"POST\">\r\n").arg(target);
@@ -43,7 +36,7 @@ TEST(OrderForm, IsTheSameToTheByteAsEver)
 TEST_P(OrderFormProviders, DifferInTheFormLineAlone)
 {
     const auto& [name, settings, formLine] = GetParam();
-    const QString expected = GoldenText().replace(FormLine(Service), formLine).replace(Email, settings.email);
+    const QString expected = GoldenText(GoldenFile).replace(FormLine(Service), formLine).replace(Email, settings.email);
     EXPECT_EQ(OrderFormPage(settings, Service), expected);
 }
 

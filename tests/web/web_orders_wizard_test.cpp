@@ -1,5 +1,6 @@
 #include "support/form_test.h"
 #include "support/golden.h"
+#include "support/wizard_walk.h"
 #include "web/web_orders_wizard.h"
 
 namespace {
@@ -25,16 +26,6 @@ protected:
     }
     Table Stored() const { return Rows(Columns); }
 
-    template <typename PageForm>
-    static void On(const std::function<void(PageForm&)>& visit)
-    {
-        WhenFormShows<PageForm>(visit);
-    }
-    template <typename PageForm>
-    static void Next()
-    {
-        WhenFormShows<PageForm>([](PageForm& page) { Click(page.cmdNext); });
-    }
     void Start() const
     {
         Guarded([] { RunWebOrdersWizard(nullptr); });
@@ -42,23 +33,14 @@ protected:
     /// The whole wizard with these entries, as far as the offer.
     void Enter(const QString& email, const QString& custom)
     {
-        Next<frmWizOConfig_Welcome>();
-        On<frmWizOConfig_Email>([email](auto& page) {
-            Type(page.txtName, email);
-            Click(page.cmdNext);
-        });
-        On<frmWizOConfig_Provider>([custom](auto& page) {
-            Type(page.txtCustom, custom);
-            Click(page.cmdNext);
-        });
-        Next<frmWizOConfig_Complete>();
+        NextOn<frmWizOConfig_Welcome>();
+        AtPage<frmWizOConfig_Email>([email](auto& page) { Type(page.txtName, email); });
+        AtPage<frmWizOConfig_Provider>([custom](auto& page) { Type(page.txtCustom, custom); });
+        NextOn<frmWizOConfig_Complete>();
     }
     void Finish(Answer toTheOffer)
     {
-        WhenFormShows<frmWizOConfig_Complete>([this, toTheOffer](auto& page) {
-            answers.Expect(Offer, toTheOffer);
-            Click(page.cmdNext);
-        });
+        AtPage<frmWizOConfig_Complete>([this, toTheOffer](auto&) { answers.Expect(Offer, toTheOffer); });
     }
 
     ScriptedAnswers answers;
@@ -72,15 +54,14 @@ TEST_F(WebOrdersWizardTest, ItsPagesSayWhatTheyAreFor)
     const auto check = [&](auto& page) {
         CheckForm(page);
         texts += ScreenText(&page);
-        Click(page.cmdNext);
     };
-    On<frmWizOConfig_Welcome>(check);
-    On<frmWizOConfig_Email>(check);
-    On<frmWizOConfig_Provider>([&](auto& page) {
+    AtPage<frmWizOConfig_Welcome>(check);
+    AtPage<frmWizOConfig_Email>(check);
+    AtPage<frmWizOConfig_Provider>([&](auto& page) {
         texts += Entries(page.cboProvider).join(u'\n') + u'\n';
         check(page);
     });
-    On<frmWizOConfig_Complete>(check);
+    AtPage<frmWizOConfig_Complete>(check);
     answers.Expect(Offer, Icon::Question, Buttons::YesNoCancel, Answer::Cancel);
     Start();
     EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", ""}}));
@@ -101,18 +82,20 @@ TEST_F(WebOrdersWizardTest, StoresItsAnswersAndCreatesThePageOnYes)
 TEST_F(WebOrdersWizardTest, CancelOnAnyPageStoresNothing)
 {
     for (int last = 2; last <= 4; ++last) {
-        Next<frmWizOConfig_Welcome>();
-        On<frmWizOConfig_Email>([last](auto& page) {
+        NextOn<frmWizOConfig_Welcome>();
+        AtPage<frmWizOConfig_Email>([last](auto& page) {
             Type(page.txtName, "other@harbour.example");
-            Click(last == 2 ? page.cmdCancel : page.cmdNext);
+            if (last == 2)
+                Click(page.cmdCancel);
         });
         if (last > 2)
-            On<frmWizOConfig_Provider>([last](auto& page) {
+            AtPage<frmWizOConfig_Provider>([last](auto& page) {
                 Type(page.txtCustom, "https://own.example");
-                Click(last == 3 ? page.cmdCancel : page.cmdNext);
+                if (last == 3)
+                    Click(page.cmdCancel);
             });
         if (last > 3)
-            On<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdCancel); });
+            AtPage<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdCancel); });
         Start();
     }
     EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", ""}}));
@@ -120,17 +103,16 @@ TEST_F(WebOrdersWizardTest, CancelOnAnyPageStoresNothing)
 
 TEST_F(WebOrdersWizardTest, AsksForWhatIsMissing)
 {
-    Next<frmWizOConfig_Welcome>();
-    On<frmWizOConfig_Email>([this](auto& page) {
+    NextOn<frmWizOConfig_Welcome>();
+    AtPage<frmWizOConfig_Email>([this](auto& page) {
         Type(page.txtName, "");
         answers.ExpectMessage(
             "No email address has been entered. Please enter an email address to continue.", Icon::Critical);
         Click(page.cmdNext);
         EXPECT_TRUE(page.txtName->hasFocus());
         Type(page.txtName, "no address");
-        Click(page.cmdNext);
     });
-    On<frmWizOConfig_Provider>([this](auto& page) {
+    AtPage<frmWizOConfig_Provider>([this](auto& page) {
         const QString question = "No custom provider has been entered. Continue anyway?";
         Pick(page.cboProvider, "Custom...");
         for (const Answer stay : {Answer::No, Answer::Cancel}) {
@@ -139,7 +121,6 @@ TEST_F(WebOrdersWizardTest, AsksForWhatIsMissing)
             EXPECT_TRUE(page.isVisible());
         }
         answers.Expect(question, Answer::Yes);
-        Click(page.cmdNext);
     });
     Finish(Answer::No);
     Start();
@@ -148,21 +129,18 @@ TEST_F(WebOrdersWizardTest, AsksForWhatIsMissing)
 
 TEST_F(WebOrdersWizardTest, TypingAnAddressChoosesTheCustomProviderAndTheDefaultKeepsIt)
 {
-    Next<frmWizOConfig_Welcome>();
-    Next<frmWizOConfig_Email>();
-    On<frmWizOConfig_Provider>([](auto& page) {
+    NextOn<frmWizOConfig_Welcome, frmWizOConfig_Email>();
+    AtPage<frmWizOConfig_Provider>([](auto& page) {
         EXPECT_EQ(page.cboProvider->ListIndex(), BuiltInProvider);
         Type(page.txtCustom, "https://own.example");
         EXPECT_EQ(page.cboProvider->ListIndex(), CustomProvider);
         Pick(page.cboProvider, "Response-o-Matic (default)");
-        Click(page.cmdNext);
     });
-    On<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdBack); });
+    AtPage<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdBack); });
     // What is stored is shown, although an address stands there.
-    On<frmWizOConfig_Provider>([](auto& page) {
+    AtPage<frmWizOConfig_Provider>([](auto& page) {
         EXPECT_EQ(page.cboProvider->ListIndex(), BuiltInProvider);
         EXPECT_EQ(page.txtCustom->text(), "https://own.example");
-        Click(page.cmdNext);
     });
     Finish(Answer::No);
     Start();
@@ -201,20 +179,15 @@ TEST_F(WebOrdersWizardTest, AnUnknownProviderIsARunTimeErrorAndMinusOneIsNone)
         Store("shop@harbour.example", QLatin1String(index), "");
         const bool readable = QLatin1String(index).size() <= 2;
         if (readable) {
-            Next<frmWizOConfig_Welcome>();
-            Next<frmWizOConfig_Email>();
+            NextOn<frmWizOConfig_Welcome, frmWizOConfig_Email>();
         }
         Start();
         EXPECT_EQ(end.Number(), readable ? 380 : index[0] == 'N' ? 94 : 6) << index;
     }
 
     Store("shop@harbour.example", "-1", "");
-    Next<frmWizOConfig_Welcome>();
-    Next<frmWizOConfig_Email>();
-    On<frmWizOConfig_Provider>([](auto& page) {
-        EXPECT_EQ(page.cboProvider->ListIndex(), -1);
-        Click(page.cmdNext);
-    });
+    NextOn<frmWizOConfig_Welcome, frmWizOConfig_Email>();
+    AtPage<frmWizOConfig_Provider>([](auto& page) { EXPECT_EQ(page.cboProvider->ListIndex(), -1); });
     Finish(Answer::No);
     Start();
     EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "-1", ""}}));

@@ -1,0 +1,121 @@
+#include "support/golden.h"
+
+#include "base/runtime_error.h"
+#include "paper/report_text.h"
+#include "support/text_difference.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace {
+
+const QString Arrow = QStringLiteral("=>");
+constexpr char Letters[] = "n\nr\rt\t\\\\";
+
+/// "\n" for a line end, "\u00a0" for a blank that does not break.
+QString Visible(const QString& text)
+{
+    QString visible;
+    for (const QChar character : text) {
+        const char* letter = Letters;
+        while (*letter != '\0' && character != QLatin1Char(letter[1]))
+            letter += 2;
+        if (*letter != '\0')
+            visible += u'\\' + QString(QLatin1Char(*letter));
+        else if (character.isPrint() && (character == u' ' || !character.isSpace()))
+            visible += character;
+        else
+            visible += QStringLiteral("\\u%1").arg(int(character.unicode()), 4, 16, QLatin1Char('0'));
+    }
+    return visible;
+}
+
+QString Meant(const QString& visible)
+{
+    QString text;
+    for (qsizetype at = 0; at < visible.size(); ++at) {
+        if (visible[at] != u'\\' || at + 1 == visible.size()) {
+            text += visible[at];
+        } else if (visible[++at] == u'u') {
+            text += QChar(visible.mid(at + 1, 4).toUShort(nullptr, 16));
+            at += 4;
+        } else {
+            const char* letter = Letters;
+            while (*letter != '\0' && visible[at] != QLatin1Char(*letter))
+                letter += 2;
+            text += *letter != '\0' ? QChar(QLatin1Char(letter[1])) : visible[at];
+        }
+    }
+    return text;
+}
+
+QString Given(const QString& written)
+{
+    const QString given = written.trimmed();
+    const bool isQuoted = given.size() > 1 && given.startsWith(u'"') && given.endsWith(u'"');
+    return Meant(isQuoted ? given.mid(1, given.size() - 2) : given);
+}
+
+QString PathOf(const char* name)
+{
+    const QFileInfo test(QString::fromUtf8(testing::UnitTest::GetInstance()->current_test_info()->file()));
+    return test.path() + QStringLiteral("/golden/") + QLatin1String(name);
+}
+
+} // namespace
+
+QString ReportText(const Report& report, ReportPaper paper)
+{
+    ReportLayout layout(report, paper);
+    QString text = report.title + u'\n';
+    for (int page = 0; layout.HasPage(page); ++page)
+        text += QStringLiteral("=== page %1\n").arg(page + 1) + PageText(layout.Page(page));
+    return text;
+}
+
+QString GoldenText(const char* name)
+{
+    QFile file(PathOf(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << "no golden file " << name;
+    return QString::fromUtf8(file.readAll());
+}
+
+void ExpectGolden(const QString& text, const char* name)
+{
+    if (qEnvironmentVariableIsSet("TAVRIN_WRITE_GOLDEN")) {
+        QFile file(PathOf(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+        return;
+    }
+    const std::string difference = Difference(GoldenText(name), text);
+    EXPECT_TRUE(difference.empty()) << "not as in golden/" << name << ":\n" << difference;
+}
+
+void ExpectCases(const char* name, const AnswerTo& answer)
+{
+    QStringList lines = GoldenText(name).split(u'\n');
+    QString heading;
+    int cases = 0;
+    for (QString& line : lines) {
+        const qsizetype arrow = line.lastIndexOf(Arrow);
+        if (arrow < 0) {
+            if (line.startsWith(u'['))
+                heading = line.mid(1, line.lastIndexOf(u']') - 1);
+            continue;
+        }
+        ++cases;
+        QString answered;
+        try {
+            answered = Visible(answer(heading, Given(line.left(arrow))));
+        } catch (const RuntimeError& error) {
+            answered = QStringLiteral("error %1").arg(error.Number());
+        }
+        line = QString(line.left(arrow) + Arrow + u' ' + answered).trimmed();
+    }
+    EXPECT_GT(cases, 0) << "no case in golden/" << name;
+    ExpectGolden(lines.join(u'\n'), name);
+}
