@@ -2,6 +2,7 @@
 
 #include "paper/report_layout.h"
 
+#include <gtest/gtest.h>
 #include <QString>
 
 #include <functional>
