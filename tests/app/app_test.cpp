@@ -1,7 +1,5 @@
 #include "app/app_test.h"
 
-#include <QFile>
-
 MainWindow& MainWindowTest::Window(QSize size)
 {
     if (!m_window) {
@@ -21,11 +19,4 @@ void MainWindowTest::TearDown()
     if (m_before)
         gConnection = m_before;
     DatabaseTest::TearDown();
-}
-
-void WriteFile(const QString& path, const QByteArray& text)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(text);
 }

@@ -3,6 +3,7 @@
 #include "app/load_step.h"
 #include "app/main_window.h"
 #include "base/settings_store.h"
+#include "support/files.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/temporary_database.h"
@@ -22,6 +23,3 @@ private:
     std::unique_ptr<MainWindow> m_window;
     Connection* m_before = nullptr;
 };
-
-/// Writes a file of this text into the test's folder.
-void WriteFile(const QString& path, const QByteArray& text);

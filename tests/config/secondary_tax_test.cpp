@@ -3,36 +3,26 @@
 #include "base/runtime_error.h"
 #include "support/temporary_database.h"
 
-namespace {
+using SecondaryTaxTest = DatabaseTest;
 
-struct Stored {
-    const char* statement;
-    bool enable;
-    const char* name;
-    double percentage;
-};
-
-class SecondaryTaxTest : public DatabaseTest, public ::testing::WithParamInterface<Stored> { };
-
-} // namespace
-
-TEST_P(SecondaryTaxTest, ComesFromTheSettingsRow)
+TEST_F(SecondaryTaxTest, ComesFromTheSettingsRow)
 {
-    Run(GetParam().statement);
-    LoadSecondaryTax();
-    EXPECT_EQ(SecondaryTax::SecondaryTaxEnable, GetParam().enable);
-    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name);
-    EXPECT_EQ(SecondaryTax::SecondaryTaxPercentage, GetParam().percentage);
-
+    const auto loaded = [this](const char* statement) {
+        Run(statement);
+        LoadSecondaryTax();
+        return QStringLiteral("%1 %2 %3")
+            .arg(SecondaryTax::SecondaryTaxEnable)
+            .arg(SecondaryTax::SecondaryTaxName)
+            .arg(SecondaryTax::SecondaryTaxPercentage);
+    };
+    EXPECT_EQ(loaded("UPDATE settings SET SecondaryTaxEnable = NULL, SecondaryTaxName = NULL, "
+                     "SecondaryTaxPercentage = NULL"),
+        "0  0");
+    EXPECT_EQ(loaded("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'City Tax', "
+                     "SecondaryTaxPercentage = 7.5"),
+        "1 City Tax 7.5");
+    EXPECT_EQ(loaded("DELETE FROM settings"), "0 2nd Sales Tax 10");
     Run("DROP TABLE settings");
     EXPECT_THROW(LoadSecondaryTax(), RuntimeError);
-    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name) << "a failure leaves the triple";
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, "2nd Sales Tax") << "a failure leaves the triple";
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, SecondaryTaxTest,
-    ::testing::Values(Stored{"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'City Tax', "
-                             "SecondaryTaxPercentage = 7.5",
-                          true, "City Tax", 7.5},
-        Stored{"DELETE FROM settings", false, "2nd Sales Tax", 10},
-        Stored{"UPDATE settings SET SecondaryTaxEnable = NULL, SecondaryTaxName = NULL, SecondaryTaxPercentage = NULL",
-            false, "", 0}));

@@ -151,7 +151,7 @@ TEST_F(WizardTest, APageMovedAndResizedHandsItsPlaceToTheNext)
 TEST(Wizards, AWelcomePageGoesForItsSharerAlone)
 {
     const QList<const WizardState*> wizards{
-        &ImportWizardState, &ConfigurationWizardState, &WebOrdersWizardState, &WizardState::MailingList};
+        &WizardState::Import, &WizardState::Configuration, &WizardState::WebOrders, &WizardState::MailingList};
     const QStringList firstPages{"2211", "2211", "1121", "1112"};
     for (int unticked = 0; unticked < wizards.size(); ++unticked) {
         ShowAllWelcomePages();

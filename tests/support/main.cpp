@@ -1,4 +1,6 @@
+#include "base/clock.h"
 #include "base/regional.h"
+#include "paper/preview_window.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
 #include "support/statement_record.h"
@@ -20,7 +22,8 @@ void Collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     gMessages.append(qFormatLogMessage(type, context, message));
 }
 
-/// What each test starts and ends with: the program alive, United States formats, no form left waited for.
+/// What each test starts and ends with: the program alive, United States formats, no form left waited for, no preview
+/// left open.
 class EveryTest : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override
     {
@@ -32,6 +35,9 @@ class EveryTest : public testing::EmptyTestEventListener {
     void OnTestEnd(const testing::TestInfo& test) override
     {
         CheckAwaitedForms();
+        SetClock({});
+        ClosePreviews();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         if (test.result()->Failed() && !gMessages.isEmpty())
             std::printf("Qt: %s\n", qPrintable(gMessages.join(QStringLiteral("\nQt: "))));
     }

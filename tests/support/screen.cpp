@@ -153,24 +153,6 @@ void TypeCharacter(QWidget* control, const QString& character)
     const QString text = first == u'\n' ? QStringLiteral("\r") : character;
     QTest::sendKeyEvent(QTest::Click, control, key, text, Qt::NoModifier);
 }
-
-void MouseOnRow(FlexGrid* grid, int row, bool twice)
-{
-    if (!Reachable(grid, "click in"))
-        return;
-    if (row < 1 || row >= grid->Rows()) {
-        ADD_FAILURE() << "no row " << row << " in " << qPrintable(grid->objectName());
-        return;
-    }
-    Activate(grid);
-    const QModelIndex cell = grid->model()->index(row - 1, qMax(0, grid->columnAt(1)));
-    grid->scrollTo(cell);
-    QRect area = grid->visualRect(cell) & grid->viewport()->rect();
-    const QPoint spot(area.left() + qMin(5, area.width() / 2), area.center().y());
-    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
-    if (twice)
-        QTest::mouseDClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
-}
 } // namespace
 
 void FailToFind(const QObject* root, const char* name)
@@ -220,16 +202,10 @@ void Press(QWidget* control, Qt::Key key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(focus ? focus : Target(control), key, modifiers);
 }
 
-void Tab()
+void Tab(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     ASSERT_TRUE(QApplication::focusWidget()) << "nothing has the focus";
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-}
-
-void BackTab()
-{
-    ASSERT_TRUE(QApplication::focusWidget()) << "nothing has the focus";
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
 void Pick(QComboBox* combo, const QString& entry)
@@ -248,14 +224,22 @@ void Pick(QComboBox* combo, const QString& entry)
     QTest::keyClick(combo->view(), Qt::Key_Return);
 }
 
-void ClickRow(FlexGrid* grid, int row)
+void ClickRow(FlexGrid* grid, int row, bool twice)
 {
-    MouseOnRow(grid, row, false);
-}
-
-void DoubleClickRow(FlexGrid* grid, int row)
-{
-    MouseOnRow(grid, row, true);
+    if (!Reachable(grid, "click in"))
+        return;
+    if (row < 1 || row >= grid->Rows()) {
+        ADD_FAILURE() << "no row " << row << " in " << qPrintable(grid->objectName());
+        return;
+    }
+    Activate(grid);
+    const QModelIndex cell = grid->model()->index(row - 1, qMax(0, grid->columnAt(1)));
+    grid->scrollTo(cell);
+    QRect area = grid->visualRect(cell) & grid->viewport()->rect();
+    const QPoint spot(area.left() + qMin(5, area.width() / 2), area.center().y());
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
+    if (twice)
+        QTest::mouseDClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
 }
 
 void ClickTitle(FlexGrid* grid, int col)
@@ -268,24 +252,35 @@ void ClickTitle(FlexGrid* grid, int col)
     QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
 }
 
+namespace {
+QStringList CellsOf(const FlexGrid* grid, int row)
+{
+    QStringList cells;
+    for (int col = 0; col < grid->Cols(); ++col)
+        cells.append(grid->TextMatrix(row, col));
+    return cells;
+}
+} // namespace
+
 QList<QStringList> GridRows(const FlexGrid* grid)
 {
     QList<QStringList> rows;
-    for (int row = 1; row < grid->Rows(); ++row) {
-        QStringList cells;
-        for (int col = 0; col < grid->Cols(); ++col)
-            cells.append(grid->TextMatrix(row, col));
-        rows.append(cells);
-    }
+    for (int row = 1; row < grid->Rows(); ++row)
+        rows.append(CellsOf(grid, row));
     return rows;
 }
 
 QStringList GridTitles(const FlexGrid* grid)
 {
-    QStringList titles;
-    for (int col = 0; col < grid->Cols(); ++col)
-        titles.append(grid->TextMatrix(0, col));
-    return titles;
+    return CellsOf(grid, 0);
+}
+
+QStringList GridColumn(const FlexGrid* grid, int col)
+{
+    QStringList texts;
+    for (const QStringList& row : GridRows(grid))
+        texts.append(row[col]);
+    return texts;
 }
 
 QStringList Entries(const QComboBox* combo)
@@ -293,6 +288,14 @@ QStringList Entries(const QComboBox* combo)
     QStringList entries;
     for (int i = 0; i < combo->count(); ++i)
         entries.append(combo->itemText(i));
+    return entries;
+}
+
+QStringList Entries(const QListWidget* list)
+{
+    QStringList entries;
+    for (int i = 0; i < list->count(); ++i)
+        entries.append(list->item(i)->text());
     return entries;
 }
 

@@ -4,6 +4,7 @@
 #include "controls/flex_grid.h"
 
 #include <QDialog>
+#include <QListWidget>
 #include <QWidget>
 
 #include <functional>
@@ -37,20 +38,29 @@ void Type(QWidget* control, const QString& text);
 /// A key press and release, to the control (or its focus part) when one is given.
 void Press(QWidget* control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /// Tab and Shift+Tab from the control that has the focus.
-void Tab();
-void BackTab();
+void Tab(Qt::Key key = Qt::Key_Tab, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+inline void BackTab()
+{
+    Tab(Qt::Key_Backtab, Qt::ShiftModifier);
+}
 /// Drops the list down and picks the entry of this text.
 void Pick(QComboBox* combo, const QString& entry);
 
 /// Mouse on a grid. Rows count from 1; the row is scrolled into view first.
-void ClickRow(FlexGrid* grid, int row);
-void DoubleClickRow(FlexGrid* grid, int row);
+void ClickRow(FlexGrid* grid, int row, bool twice = false);
+inline void DoubleClickRow(FlexGrid* grid, int row)
+{
+    ClickRow(grid, row, true);
+}
 void ClickTitle(FlexGrid* grid, int col);
 /// The texts of all data rows, and of the title row.
 QList<QStringList> GridRows(const FlexGrid* grid);
 QStringList GridTitles(const FlexGrid* grid);
-/// The texts of a drop-down list.
+/// The texts of one column of the data rows.
+QStringList GridColumn(const FlexGrid* grid, int col = 0);
+/// The texts of a list.
 QStringList Entries(const QComboBox* combo);
+QStringList Entries(const QListWidget* list);
 
 /// Queues `visit` for the next modal form that `matches`. Use WhenFormShows.
 void WhenDialogShows(const char* what, std::function<bool(QDialog*)> matches, std::function<void(QDialog*)> visit);

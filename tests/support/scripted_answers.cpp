@@ -8,14 +8,6 @@
 #include <QDialog>
 
 namespace {
-const QString Question = QStringLiteral("message");
-const QString OpenFile = QStringLiteral("open file");
-const QString SaveFile = QStringLiteral("save file");
-const QString PrintJob = QStringLiteral("print");
-const QString PageSetupJob = QStringLiteral("page setup");
-const QString Link = QStringLiteral("link");
-const QString HelpPage = QStringLiteral("help");
-
 void CloseModalForms()
 {
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -38,77 +30,33 @@ ScriptedAnswers::ScriptedAnswers()
 ScriptedAnswers::~ScriptedAnswers()
 {
     for (const Expected& expected : m_expected)
-        ADD_FAILURE() << "never asked: " << qPrintable(expected.kind) << " \"" << qPrintable(expected.text) << '"';
+        ADD_FAILURE() << "never asked " << qPrintable(Said(expected.kind, expected.text));
     SetDialogDoor(m_before);
-}
-
-void ScriptedAnswers::Expect(const QString& text, Answer answer)
-{
-    Add({.kind = Question, .text = text, .answer = answer});
-}
-
-void ScriptedAnswers::Expect(const QString& text, Icon icon, Buttons buttons, Answer answer)
-{
-    Add({.kind = Question, .text = text, .icon = icon, .buttons = buttons, .answer = answer});
-}
-
-void ScriptedAnswers::ExpectMessage(const QString& text)
-{
-    Add({.kind = Question, .text = text, .buttons = Buttons::Ok});
-}
-
-void ScriptedAnswers::ExpectMessage(const QString& text, Icon icon)
-{
-    Add({.kind = Question, .text = text, .icon = icon, .buttons = Buttons::Ok});
-}
-
-void ScriptedAnswers::ExpectMessage(const QString& text, Icon icon, const QString& title)
-{
-    Add({.kind = Question, .text = text, .icon = icon, .buttons = Buttons::Ok, .title = title});
-}
-
-void ScriptedAnswers::ExpectOpenFile(const QString& path)
-{
-    Add({.kind = OpenFile, .path = path});
-}
-
-void ScriptedAnswers::ExpectSaveFile(const QString& path)
-{
-    Add({.kind = SaveFile, .path = path});
-}
-
-void ScriptedAnswers::ExpectPrint(bool accepted)
-{
-    Add({.kind = PrintJob, .accepted = accepted});
-}
-
-void ScriptedAnswers::ExpectPageSetup(bool accepted)
-{
-    Add({.kind = PageSetupJob, .accepted = accepted});
-}
-
-void ScriptedAnswers::ExpectLink(const QString& target)
-{
-    Add({.kind = Link, .text = target});
 }
 
 void ScriptedAnswers::ExpectHelp(HelpCommand command, int data)
 {
-    Add({.kind = HelpPage, .text = HelpText(int(command), data)});
+    Add({.kind = Kind::Help, .text = HelpText(int(command), data)});
 }
 
-std::optional<ScriptedAnswers::Expected> ScriptedAnswers::Take(const QString& kind, const QString& text)
+QString ScriptedAnswers::Said(Kind kind, const QString& text)
+{
+    constexpr const char* Names[] = {"message", "open file", "save file", "print", "page setup", "link", "help"};
+    return QStringLiteral("%1: \"%2\"").arg(QLatin1String(Names[int(kind)]), text);
+}
+
+std::optional<ScriptedAnswers::Expected> ScriptedAnswers::Take(Kind kind, const QString& text)
 {
     m_asked.append(text);
     if (m_expected.empty()) {
-        ADD_FAILURE() << "unexpected " << qPrintable(kind) << ": \"" << qPrintable(text) << '"';
+        ADD_FAILURE() << "unexpected " << qPrintable(Said(kind, text));
         return std::nullopt;
     }
     const Expected expected = m_expected.front();
-    const bool anyText = expected.text.isEmpty() && kind != Question;
+    const bool anyText = expected.text.isEmpty() && kind != Kind::Message;
     if (expected.kind != kind || (!anyText && expected.text != text)) {
-        ADD_FAILURE() << "asked " << qPrintable(kind) << ": \"" << qPrintable(text) << "\"\nexpected next "
-                      << qPrintable(expected.kind) << ": \"" << qPrintable(expected.text) << '"';
+        ADD_FAILURE() << "asked " << qPrintable(Said(kind, text)) << "\nexpected next "
+                      << qPrintable(Said(expected.kind, expected.text));
         return std::nullopt;
     }
     m_expected.pop_front();
@@ -117,53 +65,44 @@ std::optional<ScriptedAnswers::Expected> ScriptedAnswers::Take(const QString& ki
 
 Answer ScriptedAnswers::Message(const QString& text, Icon icon, Buttons buttons, const QString& title)
 {
-    const std::optional<Expected> expected = Take(Question, text);
+    const std::optional<Expected> expected = Take(Kind::Message, text);
     if (!expected)
         return buttons == Buttons::Ok ? Answer::Ok : buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
-    if (expected->icon) {
-        EXPECT_EQ(int(icon), int(*expected->icon)) << "icon of \"" << qPrintable(text) << '"';
-    }
-    if (expected->buttons) {
-        EXPECT_EQ(int(buttons), int(*expected->buttons)) << "buttons of \"" << qPrintable(text) << '"';
-    }
-    if (expected->title) {
-        EXPECT_EQ(title.toStdString(), expected->title->toStdString()) << "title of \"" << qPrintable(text) << '"';
-    }
+    EXPECT_EQ(int(icon), int(expected->icon.value_or(icon))) << "icon of \"" << qPrintable(text) << '"';
+    EXPECT_EQ(int(buttons), int(expected->buttons.value_or(buttons))) << "buttons of \"" << qPrintable(text) << '"';
+    EXPECT_EQ(title.toStdString(), expected->title.value_or(title).toStdString())
+        << "title of \"" << qPrintable(text) << '"';
     return expected->answer;
 }
 
 QString ScriptedAnswers::OpenFileName(const QString& title, const QString&)
 {
-    const std::optional<Expected> expected = Take(OpenFile, title);
-    return expected ? expected->path : QString();
+    return Take(Kind::OpenFile, title).value_or(Expected{}).path;
 }
 
 QString ScriptedAnswers::SaveFileName(const QString& title, const QString&, const QString&)
 {
-    const std::optional<Expected> expected = Take(SaveFile, title);
-    return expected ? expected->path : QString();
+    return Take(Kind::SaveFile, title).value_or(Expected{}).path;
 }
 
 bool ScriptedAnswers::Print(QPrinter&)
 {
-    const std::optional<Expected> expected = Take(PrintJob, QString());
-    return expected && expected->accepted;
+    return Take(Kind::Print).value_or(Expected{}).accepted;
 }
 
 bool ScriptedAnswers::PageSetup(QPrinter&)
 {
-    const std::optional<Expected> expected = Take(PageSetupJob, QString());
-    return expected && expected->accepted;
+    return Take(Kind::PageSetup).value_or(Expected{}).accepted;
 }
 
 void ScriptedAnswers::OpenLink(const QString& target)
 {
-    Take(Link, target);
+    Take(Kind::Link, target);
 }
 
 void ScriptedAnswers::Help(int command, int data)
 {
-    Take(HelpPage, HelpText(command, data));
+    Take(Kind::Help, HelpText(command, data));
 }
 
 ExpectedEnd::ExpectedEnd()

@@ -20,19 +20,23 @@ public:
     ScriptedAnswers& operator=(const ScriptedAnswers&) = delete;
 
     /// A question. Without icon and buttons these may be any.
-    void Expect(const QString& text, Answer answer);
-    void Expect(const QString& text, Icon icon, Buttons buttons, Answer answer);
-    /// A message with OK alone.
-    void ExpectMessage(const QString& text);
-    void ExpectMessage(const QString& text, Icon icon);
-    void ExpectMessage(const QString& text, Icon icon, const QString& title);
+    void Expect(const QString& text, Answer answer) { Add({.kind = Kind::Message, .text = text, .answer = answer}); }
+    void Expect(const QString& text, Icon icon, Buttons buttons, Answer answer)
+    {
+        Add({.kind = Kind::Message, .text = text, .icon = icon, .buttons = buttons, .answer = answer});
+    }
+    /// A message with OK alone; without icon and title these may be any.
+    void ExpectMessage(const QString& text, std::optional<Icon> icon = {}, std::optional<QString> title = {})
+    {
+        Add({.kind = Kind::Message, .text = text, .icon = icon, .buttons = Buttons::Ok, .title = title});
+    }
     /// A file picker, answered with `path`; "" is Cancel.
-    void ExpectOpenFile(const QString& path);
-    void ExpectSaveFile(const QString& path);
-    void ExpectPrint(bool accepted);
-    void ExpectPageSetup(bool accepted);
+    void ExpectOpenFile(const QString& path) { Add({.kind = Kind::OpenFile, .path = path}); }
+    void ExpectSaveFile(const QString& path) { Add({.kind = Kind::SaveFile, .path = path}); }
+    void ExpectPrint(bool accepted) { Add({.kind = Kind::Print, .accepted = accepted}); }
+    void ExpectPageSetup(bool accepted) { Add({.kind = Kind::PageSetup, .accepted = accepted}); }
     bool hasPrinter = true;
-    void ExpectLink(const QString& target);
+    void ExpectLink(const QString& target) { Add({.kind = Kind::Link, .text = target}); }
     void ExpectHelp(HelpCommand command, int data);
 
     /// Whether all that was expected has been asked.
@@ -50,8 +54,9 @@ public:
     void Help(int command, int data) override;
 
 private:
+    enum class Kind { Message, OpenFile, SaveFile, Print, PageSetup, Link, Help };
     struct Expected {
-        QString kind;
+        Kind kind = Kind::Message;
         QString text = {};
         std::optional<Icon> icon = {};
         std::optional<Buttons> buttons = {};
@@ -61,8 +66,9 @@ private:
         bool accepted = false;
     };
     void Add(Expected expected) { m_expected.push_back(std::move(expected)); }
+    static QString Said(Kind kind, const QString& text);
     /// The next expected dialog if it is of this kind; otherwise fails the test and returns nothing.
-    std::optional<Expected> Take(const QString& kind, const QString& text);
+    std::optional<Expected> Take(Kind kind, const QString& text = {});
 
     std::deque<Expected> m_expected;
     QStringList m_asked;

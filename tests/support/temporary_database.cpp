@@ -11,8 +11,6 @@
 #include <QFile>
 #include <QLocale>
 
-#include <memory>
-
 #include <sqlite3.h>
 
 namespace {
@@ -34,10 +32,6 @@ QString Quoted(const QString& text)
     return u'\'' + SqlText(text) + u'\'';
 }
 
-struct StatementCloser {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-
 } // namespace
 
 void PrintTo(const Table& table, std::ostream* out)
@@ -56,8 +50,35 @@ Currency Money(const char* text)
     return CCur(value);
 }
 
-DatabaseTest::DatabaseTest() = default;
-DatabaseTest::~DatabaseTest() = default;
+Table PlainRows(sqlite3* handle, const QString& sql)
+{
+    sqlite3_stmt* statement = nullptr;
+    const QByteArray text = sql.toUtf8();
+    EXPECT_EQ(sqlite3_prepare_v2(handle, text.constData(), -1, &statement, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(handle);
+    Table rows;
+    int code = SQLITE_DONE;
+    while (statement != nullptr && (code = sqlite3_step(statement)) == SQLITE_ROW) {
+        QStringList row;
+        for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+            const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
+            row << (field == nullptr ? QStringLiteral("NULL") : QString::fromUtf8(field));
+        }
+        rows << row;
+    }
+    EXPECT_EQ(code, SQLITE_DONE) << sqlite3_errmsg(handle);
+    sqlite3_finalize(statement);
+    return rows;
+}
+
+Table PlainRows(const QString& path, const QString& sql)
+{
+    sqlite3* handle = nullptr;
+    sqlite3_open_v2(path.toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
+    const Table rows = PlainRows(handle, sql);
+    sqlite3_close(handle);
+    return rows;
+}
 
 void DatabaseTest::SetUp()
 {
@@ -100,27 +121,6 @@ QString DatabaseTest::DatabasePath() const
     return m_folder.filePath(QStringLiteral("db.mdb"));
 }
 
-Table DatabaseTest::Rows(const QString& sql) const
-{
-    sqlite3_stmt* handle = nullptr;
-    const QByteArray text = sql.toUtf8();
-    EXPECT_EQ(sqlite3_prepare_v2(m_plain, text.constData(), -1, &handle, nullptr), SQLITE_OK)
-        << sqlite3_errmsg(m_plain);
-    const std::unique_ptr<sqlite3_stmt, StatementCloser> statement(handle);
-    Table rows;
-    int code = SQLITE_DONE;
-    while (handle != nullptr && (code = sqlite3_step(handle)) == SQLITE_ROW) {
-        QStringList row;
-        for (int i = 0; i < sqlite3_column_count(handle); ++i) {
-            const auto* field = reinterpret_cast<const char*>(sqlite3_column_text(handle, i));
-            row << (field == nullptr ? QStringLiteral("NULL") : QString::fromUtf8(field));
-        }
-        rows << row;
-    }
-    EXPECT_EQ(code, SQLITE_DONE) << sqlite3_errmsg(m_plain);
-    return rows;
-}
-
 QString DatabaseTest::Single(const QString& sql) const
 {
     const Table rows = Rows(sql);
@@ -147,41 +147,6 @@ int DatabaseTest::Line(int invoiceId, int itemId, int quantity, const char* amou
             .arg(QString::number(invoiceId), QString::number(quantity), QString::fromLatin1(amount),
                 QString::number(itemId)));
     return int(sqlite3_last_insert_rowid(m_plain));
-}
-
-int DatabaseTest::TaxRateRow(const QString& name, double percentage) const
-{
-    return RowBuilder(*this, "taxrate").Set("name", name).Set("percentage", percentage).Add();
-}
-
-int DatabaseTest::PriceListRow(const QString& name) const
-{
-    return RowBuilder(*this, "PriceList").Set("name", name).Add();
-}
-
-int DatabaseTest::VendorRow(const QString& businessName) const
-{
-    return RowBuilder(*this, "vendor").Business(businessName).Add();
-}
-
-int DatabaseTest::CategoryRow(const QString& name) const
-{
-    return RowBuilder(*this, "category").Set("name", name).Add();
-}
-
-int DatabaseTest::SubCategoryRow(int categoryId, const QString& name) const
-{
-    return RowBuilder(*this, "subcategory").Set("name", name).Set("CategoryID", categoryId).Add();
-}
-
-int DatabaseTest::WarehouseRow(const QString& name) const
-{
-    return RowBuilder(*this, "warehouse").Set("name", name).Add();
-}
-
-int DatabaseTest::LocationRow(int warehouseId, const QString& name) const
-{
-    return RowBuilder(*this, "location").Set("name", name).Set("WarehouseID", warehouseId).Add();
 }
 
 double DatabaseTest::Stock(int itemId) const

@@ -76,12 +76,14 @@ private:
     QList<std::pair<QString, QString>> m_prices;
 };
 
+/// Plain SQL on a handle or a file of the engine, past the dialect. Null reads as "NULL".
+Table PlainRows(sqlite3* handle, const QString& sql);
+Table PlainRows(const QString& path, const QString& sql);
+
 /// A fresh db.mdb with its seed rows in a folder of its own, a settings store beside it, United States formats and the
 /// time fixed at 14 March 2026, 10:30. gConnection is open.
 class DatabaseTest : public ::testing::Test {
 protected:
-    DatabaseTest();
-    ~DatabaseTest() override;
     void SetUp() override;
     void TearDown() override;
 
@@ -89,8 +91,8 @@ protected:
     QString Folder() const;
     QString DatabasePath() const;
 
-    /// Plain SQL on a handle of its own, past the dialect. Null reads as "NULL".
-    Table Rows(const QString& sql) const;
+    /// Plain SQL on a handle of its own.
+    Table Rows(const QString& sql) const { return PlainRows(m_plain, sql); }
     QString Single(const QString& sql) const; ///< the first field of the first row; "" when there is none
     qint64 Count(const QString& table) const;
     void Run(const QString& sql) const;
@@ -100,13 +102,23 @@ protected:
     RowBuilder Customer(const QString& firstName, const QString& lastName) const;
     RowBuilder Invoice(int customerId) const;
     int Line(int invoiceId, int itemId, int quantity, const char* amount) const; ///< copies number, name and tax rate
-    int TaxRateRow(const QString& name, double percentage) const;
-    int PriceListRow(const QString& name) const;
-    int VendorRow(const QString& businessName) const;
-    int CategoryRow(const QString& name) const;
-    int SubCategoryRow(int categoryId, const QString& name) const;
-    int WarehouseRow(const QString& name) const;
-    int LocationRow(int warehouseId, const QString& name) const;
+    RowBuilder Row(const char* table, const QString& name) const { return RowBuilder(*this, table).Set("name", name); }
+    int TaxRateRow(const QString& name, double rate) const
+    {
+        return Row("taxrate", name).Set("percentage", rate).Add();
+    }
+    int PriceListRow(const QString& name) const { return Row("PriceList", name).Add(); }
+    int VendorRow(const QString& name) const { return RowBuilder(*this, "vendor").Business(name).Add(); }
+    int CategoryRow(const QString& name) const { return Row("category", name).Add(); }
+    int SubCategoryRow(int category, const QString& name) const
+    {
+        return Row("subcategory", name).Set("CategoryID", category).Add();
+    }
+    int WarehouseRow(const QString& name) const { return Row("warehouse", name).Add(); }
+    int LocationRow(int warehouse, const QString& name) const
+    {
+        return Row("location", name).Set("WarehouseID", warehouse).Add();
+    }
 
     /// Stock on hand.
     double Stock(int itemId) const;
