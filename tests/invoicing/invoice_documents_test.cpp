@@ -7,6 +7,7 @@
 #include "invoicing/invoice_report.h"
 #include "invoicing/picking_list.h"
 #include "paper/preview_window.h"
+#include "paper/report_text.h"
 #include "support/golden.h"
 #include "support/screen.h"
 #include "support/temporary_database.h"
