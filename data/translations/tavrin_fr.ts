@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV (*.csv)</translation>
     </message>
     <message>
         <source>Text documents (*.txt)</source>
@@ -124,7 +124,7 @@
     </message>
     <message>
         <source>Unable to write to file, please check you have permissions and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire dans le fichier. Vérifiez que vous en avez le droit et réessayez.</translation>
     </message>
 </context>
 <context>
@@ -208,7 +208,7 @@
     </message>
     <message>
         <source>MDB (*.mdb)</source>
-        <translation type="unfinished"></translation>
+        <translation>MDB (*.mdb)</translation>
     </message>
     <message>
         <source>Unable to write to file </source>
@@ -216,7 +216,7 @@
     </message>
     <message>
         <source>Successfully backed up database file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de données a été sauvegardée.</translation>
     </message>
 </context>
 <context>

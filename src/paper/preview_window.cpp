@@ -59,6 +59,7 @@ PreviewWindow::PreviewWindow(Report report)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(m_layout.Design().title);
     picView->setWidget(picPage);
+    picView->setAccessibleName(tr("Page"));
     setCentralWidget(picView);
     BuildToolBar();
     statusBar();

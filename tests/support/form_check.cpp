@@ -1,33 +1,14 @@
 #include "support/form_check.h"
 
-#include "controls/flex_grid.h"
+#include "support/reading_check.h"
 #include "support/screen.h"
 
 #include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QGroupBox>
-#include <QLabel>
-#include <QTest>
-
-#include <set>
 
 namespace {
 std::string NameOf(const QWidget* control)
 {
     return control ? control->objectName().toStdString() : "nothing";
-}
-
-QString Caption(const QWidget* control)
-{
-    if (auto* button = qobject_cast<const QAbstractButton*>(control))
-        return button->text();
-    if (auto* label = qobject_cast<const QLabel*>(control))
-        return label->text();
-    if (auto* box = qobject_cast<const QGroupBox*>(control))
-        return box->title();
-    return QString();
 }
 
 QRect AreaIn(const QWidget* screen, const QWidget* control)
@@ -65,31 +46,6 @@ void CheckOverlaps(const QWidget* screen, const QList<QWidget*>& controls)
                 EXPECT_FALSE(ShownIn(screen, one).intersects(ShownIn(screen, other)))
                     << NameOf(one) << " and " << NameOf(other) << " overlap";
             }
-}
-
-void CheckName(const QWidget* control)
-{
-    if (control->focusPolicy() == Qt::NoFocus)
-        return;
-    EXPECT_FALSE(Caption(control).isEmpty() && control->accessibleName().isEmpty())
-        << NameOf(control) << " has neither a caption nor an accessible name";
-}
-
-void CheckMnemonics(const QWidget* screen, const QString& shared)
-{
-    std::set<QString> taken;
-    for (const QWidget* widget : screen->findChildren<QWidget*>()) {
-        if (!widget->isVisible())
-            continue;
-        const QKeySequence key = QKeySequence::mnemonic(Caption(widget));
-        auto* label = qobject_cast<const QLabel*>(widget);
-        // The instruction lines are plain text, where "&" is a letter.
-        if (key.isEmpty() || (label && label->wordWrap()))
-            continue;
-        EXPECT_TRUE(!label || label->buddy()) << qPrintable(Caption(widget)) << " names no control";
-        EXPECT_TRUE(taken.insert(key.toString()).second || shared.contains(key.toString().back()))
-            << qPrintable(key.toString()) << " is taken twice, also by " << qPrintable(Caption(widget));
-    }
 }
 
 bool TakesTab(const QWidget* control)
@@ -146,13 +102,12 @@ void CheckScreen(
     for (QWidget* control : controls)
         if (!leftOut.contains(control->objectName()))
             seen.append(control);
-    for (const QWidget* control : seen) {
+    for (const QWidget* control : seen)
         CheckPlace(screen, control);
-        CheckName(control);
-    }
     CheckOverlaps(screen, seen);
-    CheckMnemonics(screen, sharedMnemonics);
     CheckTabOrder(screen, seen);
+    CheckReading(screen, sharedMnemonics);
+    CheckLongTexts(screen);
 }
 
 QString ScreenText(const QWidget* screen)

@@ -4,9 +4,9 @@
 #include <QWidget>
 
 /// Holds a form or panel that is shown against what every screen owes its user: each control laid out, inside the form,
-/// not cut off and not under another; each that takes the focus with a caption or an accessible name; labels with a
-/// mnemonic with their buddy; no mnemonic twice; the tab order that of declaration. Controls in `leftOut` are hidden on
-/// purpose, and the letters in `sharedMnemonics` taken twice.
+/// not cut off and not under another; the tab order that of declaration; readable, also with longer texts
+/// (CheckReading, CheckLongTexts). Controls in `leftOut` are hidden on purpose, and the letters in `sharedMnemonics`
+/// taken twice.
 void CheckScreen(
     QWidget* screen, const QList<QWidget*>& controls, const QStringList& leftOut, const QString& sharedMnemonics = {});
 

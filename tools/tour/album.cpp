@@ -1,5 +1,7 @@
 #include "album.h"
 
+#include "support/reading_check.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -89,8 +91,9 @@ figcaption { margin-top: 0.3em }
 
 } // namespace
 
-Album::Album(const QString& folder)
+Album::Album(const QString& folder, const QString& sharedKeys)
     : m_folder(folder)
+    , m_sharedKeys(sharedKeys)
 {
     if (!QDir().mkpath(folder))
         throw std::runtime_error("cannot write to " + folder.toStdString());
@@ -110,8 +113,10 @@ void Album::Take(const char* name)
     picture.setDevicePixelRatio(screen->devicePixelRatio());
     picture.fill(QColor(120, 130, 140));
     QPainter painter(&picture);
-    for (QWidget* window : VisibleWindows())
+    for (QWidget* window : VisibleWindows()) {
         PaintWindow(painter, *window);
+        CheckReading(window, m_sharedKeys);
+    }
     painter.end();
     const QString file = QStringLiteral("%1-%2.png").arg(++m_number, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
     if (!picture.save(QDir(m_folder).filePath(file)))

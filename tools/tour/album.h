@@ -6,8 +6,9 @@
 /// Numbered pictures of the screen, in a folder, "07-item-record.png", and the page that shows them, "index.html".
 class Album {
 public:
-    /// Makes the folder. Throws std::runtime_error, as all of these do, when it cannot be written.
-    explicit Album(const QString& folder);
+    /// Makes the folder. Throws std::runtime_error, as all of these do, when it cannot be written. What a picture shows
+    /// is checked on the way (CheckReading); the letters in `sharedKeys` may be access keys twice.
+    Album(const QString& folder, const QString& sharedKeys);
 
     /// The pictures that follow stand under this heading.
     void Chapter(const char* heading);
@@ -18,6 +19,7 @@ public:
 
 private:
     QString m_folder;
+    QString m_sharedKeys;
     int m_number = 0;
     QStringList m_index;
 };

@@ -10,6 +10,7 @@
 #include "base/files.h"
 #include "base/settings_store.h"
 #include "make_database/database_maker.h"
+#include "sql/schema.h"
 #include "support/screen.h"
 
 #include <gtest/gtest.h>
@@ -22,8 +23,8 @@
 
 /// usage: tour PROGRAM_FOLDER PICTURE_FOLDER [LANGUAGE]
 /// Walks the real windows, from the stock to the printed invoice, and leaves a picture of each station and a page that
-/// shows them, in the language of the code. It works on a demo shop and a settings store of its own, which it throws
-/// away.
+/// shows them, in the language of the code, and the rows as they stand then, in rows.txt. It works on a demo shop and a
+/// settings store of its own, which it throws away.
 
 namespace {
 
@@ -59,9 +60,30 @@ void PrepareShop(const QString& folder)
     SaveConfig(QStringLiteral("DBPath"), folder + QLatin1Char('/'));
 }
 
-void Walk(const QString& folder, const QString& pictureFolder)
+/// All rows as the walk left them, a line each: they are the same in every language.
+void WriteRows(const QString& folder, const QString& file)
 {
-    Album album(pictureFolder);
+    QFile rows(file);
+    if (!rows.open(QFile::WriteOnly))
+        throw std::runtime_error("cannot write " + file.toStdString());
+    for (const TableDefinition& table : SchemaTables()) {
+        rows.write("== " + table.name.toUtf8() + '\n');
+        for (Recordset row = gConnection->Execute(QStringLiteral("SELECT * FROM [%1]").arg(table.name)); !row.Eof();
+             row.MoveNext()) {
+            for (int field = 0; field < row.FieldCount(); ++field) {
+                const auto text = QByteArray::fromStdString(std::string(row.StoredText(field)));
+                // The copy of the logo has a name of its own each time.
+                rows.write((text.startsWith(folder.toUtf8()) ? QByteArray("(a file)") : text) + '|');
+            }
+            rows.write("\n");
+        }
+    }
+}
+
+void Walk(const QString& folder, const QString& pictureFolder, const QString& language)
+{
+    // The told English captions use these letters twice.
+    Album album(pictureFolder, language.isEmpty() ? QStringLiteral("AERC") : QString());
     Program program;
     album.Chapter("The first start");
     StartForTheFirstTime(program, album);
@@ -83,6 +105,7 @@ void Walk(const QString& folder, const QString& pictureFolder)
     FindTheInvoice(program, album);
     program.Window()->close();
     album.WriteIndex();
+    WriteRows(folder, pictureFolder + QStringLiteral("/rows.txt"));
 }
 
 bool WentWell()
@@ -110,10 +133,10 @@ int main(int argc, char* argv[])
         SetClock([] { return Morning; });
         SetProgramFolder(QString::fromLocal8Bit(argv[1]));
         PrepareShop(folder.path());
-        if (argc == 4)
-            SaveConfig(QStringLiteral("Language"), QString::fromLocal8Bit(argv[3]));
+        const QString language = argc == 4 ? QString::fromLocal8Bit(argv[3]) : QString();
+        SaveConfig(QStringLiteral("Language"), language);
         StartWatchingForms();
-        Walk(folder.path(), QString::fromLocal8Bit(argv[2]));
+        Walk(folder.path(), QString::fromLocal8Bit(argv[2]), language);
         CheckAwaitedForms();
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tour: %s\n", error.what());
