@@ -1,9 +1,11 @@
 #include "app/main_window.h"
 
+#include "app/status_bar.h"
 #include "config/configuration_wizard.h"
 #include "config/tax_rates.h"
 #include "controls/dialogs.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "inventory/multiple_pricing.h"
 #include "invoicing/find_invoice.h"
 #include "invoicing/open_invoice.h"
@@ -12,7 +14,6 @@
 #include <QDir>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QStatusBar>
 #include <QWindow>
 
 namespace {
@@ -67,7 +68,10 @@ void MainWindow::ConnectPanels()
     On(picBack, &PanelArea::Resized, this, [this] { RunResizeRules(); });
     On(picReports, &ReportsPanel::Expanded, this, [this] { RunResizeRules(); });
     On(picNewInvoice, &InvoicePage::Left, this, [this] { ListInvoices(); });
-    On(picNewInvoice, &InvoicePage::Notice, this, [this](const QString& text) { ShowNotice(text); });
+    auto* bar = new StatusBar(this);
+    setStatusBar(bar);
+    On(picNewInvoice, &InvoicePage::Scanned, bar, &StatusBar::ShowScanned);
+    On(&StatusLine::Get(), &StatusLine::Told, bar, &StatusBar::ShowNotice);
     On(picArrivals, &InvoiceHistory::OpenInvoice, this, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
     On(picArrivals, &InvoiceHistory::NewInvoice, this, [this] { OpenInvoicePage(); });
 }
@@ -98,20 +102,10 @@ void MainWindow::ShowMainPanel(int panelNumber)
         picBack->ShowPanel(panelNumber);
 }
 
-void MainWindow::ShowNotice(const QString& text)
-{
-    constexpr int LongEnoughToRead = 30'000;
-    // The line is there only while it has something to say.
-    if (!findChild<QStatusBar*>())
-        On(statusBar(), &QStatusBar::messageChanged, statusBar(),
-            [bar = statusBar()](const QString& message) { bar->setVisible(!message.isEmpty()); });
-    statusBar()->showMessage(text, LongEnoughToRead);
-}
-
 void MainWindow::TellSaved(const QString& path)
 {
     if (!path.isEmpty())
-        ShowNotice(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+        ShowStatus(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
 }
 
 MainGrids MainWindow::Grids() const

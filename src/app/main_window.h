@@ -84,7 +84,6 @@ protected:
 private:
     void OpenInvoice(qint32 invoiceId);
     void ConnectPanels();
-    void ShowNotice(const QString& text);
     void LetPanelsDragTheWindow();
 
     QList<Panel*> m_panels;

@@ -21,6 +21,17 @@ constexpr int ShutPixels = 4;
 // More than any screen shows; a cell that holds a whole file is not laid out to its end.
 constexpr int ShownCharacters = 2000;
 
+/// Between a plain row and a selected one, so that a text is legible on it in any theme.
+QColor Tint(const QPalette& palette)
+{
+    constexpr float Strength = 0.35F;
+    const QColor plain = palette.color(QPalette::Base);
+    const QColor strong = palette.color(QPalette::Highlight);
+    const auto mix = [](float from, float to) { return from + (to - from) * Strength; };
+    return QColor::fromRgbF(
+        mix(plain.redF(), strong.redF()), mix(plain.greenF(), strong.greenF()), mix(plain.blueF(), strong.blueF()));
+}
+
 /// Paints a cell on one line, without a frame around the current one: it is rows that the user picks.
 class CellDelegate : public QStyledItemDelegate {
 public:
@@ -49,6 +60,10 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state &= ~QStyle::State_HasFocus;
+        if (index.row() + 1 == static_cast<const FlexGrid*>(option->widget)->TintedRow()) {
+            option->state &= ~QStyle::State_Selected;
+            option->backgroundBrush = Tint(option->palette);
+        }
     }
 };
 
@@ -108,6 +123,13 @@ FlexGrid::FlexGrid(QWidget* parent)
     SetUpHeader();
     MeasureRows();
 
+    m_tintEnd.setSingleShot(true);
+    const auto endTint = [this] {
+        m_tinted = 0;
+        viewport()->update();
+    };
+    QObject::connect(&m_tintEnd, &QTimer::timeout, this, endTint);
+    QObject::connect(m_model, &FlexGridModel::modelReset, this, endTint);
     const auto isLeft = [] { return !(QGuiApplication::mouseButtons() & (Qt::RightButton | Qt::MiddleButton)); };
     QObject::connect(
         this, &QTableView::clicked, this, [this](const QModelIndex& cell) { ClickAt(cell.row() + 1, cell.column()); });
@@ -331,6 +353,16 @@ bool FlexGrid::RowIsVisible(int row) const
         return true;
     const int top = rowViewportPosition(row - 1);
     return top >= 0 && top + rowHeight(row - 1) <= viewport()->height();
+}
+
+void FlexGrid::ShowTinted(int row)
+{
+    constexpr int TintMs = 1000;
+    CheckRow(row);
+    m_tinted = row;
+    m_tintEnd.start(TintMs);
+    scrollTo(m_model->index(row - 1, m_col));
+    viewport()->update();
 }
 
 bool FlexGrid::event(QEvent* event)

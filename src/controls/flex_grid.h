@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QTableView>
+#include <QTimer>
 
 #include <memory>
 #include <string_view>
@@ -70,6 +71,9 @@ public:
     void SetTopRow(int row);
     /// Whether the whole row is in view.
     bool RowIsVisible(int row) const;
+    /// Brings a data row into view and tints it for a second, or until the grid is filled anew. Selects nothing.
+    void ShowTinted(int row);
+    int TintedRow() const { return m_tinted; } ///< 0 for none
 
     /// The list's sort expression; "" for its default order.
     const QString& Tag() const { return m_tag; }
@@ -116,6 +120,8 @@ private:
     int m_mouseRow = 0;
     int m_mouseCol = 0;
     bool m_setByCode = false;
+    int m_tinted = 0;
+    QTimer m_tintEnd;
 };
 
 /// Fills a grid with one model reset: rows are gathered out of sight and appear together when it goes out of scope. The

@@ -62,6 +62,14 @@ void Form::SetCancelButton(QPushButton* button)
     });
 }
 
+void Form::Cancel()
+{
+    if (!m_cancelButton)
+        reject();
+    else if (m_cancelButton->isEnabled())
+        m_cancelButton->click();
+}
+
 void Form::done(int result)
 {
     QDialog::done(result);
@@ -86,9 +94,8 @@ void Form::keyPressEvent(QKeyEvent* event)
 {
     if (IsEnter(event))
         return RunButtonForEnter(this, event);
-    if (event->matches(QKeySequence::Cancel) && m_cancelButton) {
-        if (m_cancelButton->isEnabled())
-            m_cancelButton->click();
+    if (event->matches(QKeySequence::Cancel)) {
+        Cancel();
         return event->accept();
     }
     QDialog::keyPressEvent(event);

@@ -21,6 +21,8 @@ public:
     /// `button` closes the form, and Esc clicks it. The window's close button closes the form
     /// without it, as `reject` does; so does Esc in a form without a cancel button.
     void SetCancelButton(QPushButton* button);
+    /// What Esc does.
+    void Cancel();
 
     void done(int result) override;
 

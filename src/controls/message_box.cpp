@@ -1,6 +1,7 @@
 #include "controls/message_box.h"
 
 #include "controls/hourglass.h"
+#include "controls/scan_watch.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -98,11 +99,15 @@ QWidget* OwnerWindow()
     return modal ? modal : QApplication::activeWindow();
 }
 
-Answer Ask(const QString& text, Icon icon, Buttons buttons, const QString& title)
+enum class Scans { Wait, Close };
+
+Answer Ask(const QString& text, Icon icon, Buttons buttons, const QString& title, Scans scans)
 {
     if (gDoor)
         return gDoor->Message(text, icon, buttons, title);
     Box box(text, icon, buttons, title.isEmpty() ? QLatin1String(ProgramTitle) : title, OwnerWindow());
+    if (scans == Scans::Close)
+        LetScansClose(&box);
     const ArrowOverHourglass arrow;
     return FromQt(box.exec());
 }
@@ -110,17 +115,22 @@ Answer Ask(const QString& text, Icon icon, Buttons buttons, const QString& title
 
 void MsgBox(const QString& text, Icon icon)
 {
-    Ask(text, icon, Buttons::Ok, QString());
+    Ask(text, icon, Buttons::Ok, QString(), Scans::Wait);
+}
+
+void ScanMsgBox(const QString& text, Icon icon)
+{
+    Ask(text, icon, Buttons::Ok, QString(), Scans::Close);
 }
 
 void MsgBox(const QString& text, Icon icon, const QString& title)
 {
-    Ask(text, icon, Buttons::Ok, title);
+    Ask(text, icon, Buttons::Ok, title, Scans::Wait);
 }
 
 Answer MsgBox(const QString& text, Icon icon, Buttons buttons)
 {
-    return Ask(text, icon, buttons, QString());
+    return Ask(text, icon, buttons, QString(), Scans::Wait);
 }
 
 void SetDialogDoor(DialogDoor* door)

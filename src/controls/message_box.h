@@ -11,6 +11,8 @@ enum class Answer { Ok, Cancel, Yes, No };
 
 /// A message with an OK button, under the application's title.
 void MsgBox(const QString& text, Icon icon);
+/// Such a message about a scan: the next scan closes it. Others wait for their user.
+void ScanMsgBox(const QString& text, Icon icon);
 /// A message with an OK button and a title of its own.
 void MsgBox(const QString& text, Icon icon, const QString& title);
 /// A question. The first button is the default; Esc and the close button do nothing in a Yes/No box and answer Cancel

@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QPushButton>
+#include <QShortcut>
 #include <QShortcutEvent>
 
 namespace {
@@ -18,6 +20,12 @@ QList<QAbstractButton*> ButtonsOf(const QWidget* window, const QKeySequence& key
         return button->shortcut() != key || !button->isVisible() || !button->isEnabled() || button->window() != window;
     });
     return buttons;
+}
+
+void FocusAndClick(QAbstractButton* button)
+{
+    button->setFocus(Qt::ShortcutFocusReason);
+    button->animateClick();
 }
 
 class ScreenInput : public QObject {
@@ -60,8 +68,7 @@ private:
         // Several of them take turns, which is Qt's affair.
         if (buttons.size() != 1)
             return false;
-        buttons.first()->setFocus(Qt::ShortcutFocusReason);
-        buttons.first()->animateClick();
+        FocusAndClick(buttons.first());
         return true;
     }
 
@@ -97,6 +104,17 @@ ScreenInput& Watch()
 void LetAccessKeysFocus()
 {
     Watch();
+}
+
+void PressWithKey(QPushButton* button, QWidget* screen, const QKeySequence& key)
+{
+    button->setToolTip(key.toString(QKeySequence::NativeText));
+    auto* shortcut = new QShortcut(key, screen);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, button, [button] {
+        if (button->isEnabled())
+            FocusAndClick(button);
+    });
 }
 
 void KeepGestureOff(QWidget* panel)

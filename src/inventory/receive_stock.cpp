@@ -5,7 +5,11 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/scan_sound.h"
+#include "controls/scan_watch.h"
+#include "controls/status_line.h"
 #include "db/connection.h"
+#include "inventory/bar_codes.h"
 
 namespace {
 
@@ -50,6 +54,10 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     RefreshInventoryList(1, 0);
 
     On(cmdAddBarCodeItem, &QPushButton::clicked, this, &frmReceiveStock::FindByBarcode);
+    // A quote would end the program; where it was not meant for the bar code box, that would be out of place.
+    const auto isKnown = [](const QString& code) { return !code.contains(u'\'') && FindItemByBarCode(code); };
+    TakeScans({this, txtBarcode, cmdAddBarCodeItem, isKnown, [] { TellUnknownCode(); }});
+    KeepCodesOut({txtAddQuantity});
     On(cmdUpdateStockLevel, &QPushButton::clicked, this, &frmReceiveStock::UpdateStockLevel);
 }
 
@@ -63,16 +71,23 @@ void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
         row, selectId);
 }
 
+void frmReceiveStock::TellUnknownCode()
+{
+    PlayScanSound(ScanSound::NotFound);
+    ScanMsgBox(tr("Item not found."), Icon::Critical);
+}
+
 void frmReceiveStock::FindByBarcode()
 {
-    const Recordset item =
-        gConnection->Execute(Sql("SELECT id FROM item WHERE barcode = '{barcode}'").Raw("barcode", txtBarcode->text()));
-    if (item.Eof()) {
-        MsgBox(tr("Item not found."), Icon::Critical);
+    const std::optional<qint32> itemId = FindItemByBarCode(txtBarcode->text());
+    if (!itemId) {
+        TellUnknownCode();
         txtBarcode->FocusAll();
         return;
     }
-    RefreshInventoryList(1, item["id"].ToLong());
+    PlayScanSound(ScanSound::Found);
+    RefreshInventoryList(1, *itemId);
+    gInventory->ShowTinted(gInventory->Row());
     txtAddQuantity->FocusAll();
 }
 
@@ -93,6 +108,9 @@ void frmReceiveStock::UpdateStockLevel()
                              .Raw("quantity", quantity)
                              .Number("id", itemId));
     RefreshInventoryList(gInventory->Row(), 0);
+    ShowStatus(tr("%1 x %2 received, now %3")
+                   .arg(quantity, gInventory->CellText(gInventory->Row(), "name"),
+                       gInventory->CellText(gInventory->Row(), "noinstock")));
     txtAddQuantity->setText(QStringLiteral("0"));
     txtBarcode->FocusAll();
 }

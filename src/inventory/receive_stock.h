@@ -23,6 +23,7 @@ public:
 
 private:
     void RefreshInventoryList(int row, qint64 selectId);
+    static void TellUnknownCode();
     void FindByBarcode();
     void UpdateStockLevel();
 };

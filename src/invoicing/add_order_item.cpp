@@ -5,6 +5,7 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/scan_watch.h"
 #include "invoicing/item_search.h"
 #include "invoicing/order_lines.h"
 #include "records/lists.h"
@@ -41,6 +42,7 @@ frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
     });
     gItems->StretchWithSize();
     Connect();
+    KeepCodesOut({txtQuantityToAdd, txtItemPrice});
 
     txtQuantityToAdd->setText(QStringLiteral("1"));
     SelectedItemQuantity = 1;
@@ -157,8 +159,9 @@ void frmAddOrderItem::TakeItem()
 
     const qint64 itemId = gItems->CurrentRowData();
     if (!IsInStock(itemId, SelectedItemQuantity)) {
-        MsgBox(tr("This item does not have enough items in stock. To add this item first increase the total number in "
-                  "stock."),
+        ScanMsgBox(
+            tr("This item does not have enough items in stock. To add this item first increase the total number in "
+               "stock."),
             Icon::Critical);
         txtQuantityToAdd->FocusAll();
         return;

@@ -61,17 +61,29 @@ void MergeIntoLine(qint64 lineId, qint64 oldQuantity, qint32 itemId, qint32 quan
                              .Number("lineId", lineId));
 }
 
+/// Id and quantity.
+Recordset LinesOfItem(qint32 itemId)
+{
+    return gConnection->Execute(
+        Sql("SELECT id, quantity FROM invoiceline WHERE invoiceid = {gCurrentInvoiceId} AND itemid = {itemId}")
+            .Number("gCurrentInvoiceId", OpenInvoice::gCurrentInvoiceId)
+            .Number("itemId", itemId));
+}
+
 } // namespace
+
+qint64 LineOfItem(qint32 itemId)
+{
+    const Recordset line = LinesOfItem(itemId);
+    return line.Eof() ? 0 : line.Long(0);
+}
 
 bool AddNewOrderItemToDB(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
 {
     if (IsShortOfStock(itemId, quantity))
         return false;
 
-    Recordset line = gConnection->Execute(
-        Sql("SELECT id, quantity FROM invoiceline WHERE invoiceid = {gCurrentInvoiceId} AND itemid = {itemId}")
-            .Number("gCurrentInvoiceId", OpenInvoice::gCurrentInvoiceId)
-            .Number("itemId", itemId));
+    Recordset line = LinesOfItem(itemId);
     if (line.Eof()) {
         AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));
         return true;

@@ -2,6 +2,9 @@
 
 #include "base/currency.h"
 
+/// The open invoice's line of the item, 0 for none.
+qint64 LineOfItem(qint32 itemId);
+
 /// Takes `quantity` units of the item out of stock and puts them on the open invoice, merging with a line of the same
 /// item, whose price then holds for all of it. `unitPrice` is before tax and before `discountPercent`; a new line of a
 /// warranty invoice is stored at 0.

@@ -1,5 +1,6 @@
 #include "base/numbers.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "db/batch.h"
 #include "db/connection.h"
 #include "invoicing/add_group_items.h"
@@ -57,24 +58,6 @@ void InvoicePage::AddOrderItem()
     });
 }
 
-void InvoicePage::AddBarCodeItem()
-{
-    const std::optional<qint32> itemId = FindItemByBarCode(txtBarcode->text());
-    if (!itemId) {
-        MsgBox(tr("Item not found."), Icon::Critical);
-        txtBarcode->FocusAll();
-        return;
-    }
-
-    InBatch(*gConnection, [&] {
-        const Currency price = ListPrice(*itemId, cboPriceList->SelectedData());
-        AddLine(*itemId, 1, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
-    });
-
-    txtBarcode->clear();
-    txtBarcode->setFocus();
-}
-
 void InvoicePage::AddGroupItems()
 {
     frmAddGroupItems::GroupItems.clear();
@@ -82,7 +65,7 @@ void InvoicePage::AddGroupItems()
     frmAddGroupItems(cboPriceList->SelectedData(), this).ShowModal();
 
     if (frmAddGroupItems::GroupItemCount != 0 && !AddChosenGroupItems())
-        MsgBox(tr("Not all items have enough stock to be added to the invoice."), Icon::Information);
+        ScanMsgBox(tr("Not all items have enough stock to be added to the invoice."), Icon::Information);
     UpdateInvoiceEdit();
 }
 
@@ -156,6 +139,7 @@ void InvoicePage::CancelInvoice()
             lines.append({lineId, QuantityInRow(row)});
     OpenInvoice::Cancel(lines);
     emit Left();
+    ShowStatus(tr("Invoice %1 cancelled").arg(lblInvoiceNo->text()));
 }
 
 void InvoicePage::PrintPickingList()
@@ -169,21 +153,23 @@ void InvoicePage::CompleteInvoice()
     UpdateInvoiceEdit();
     if (MsgBox(tr("Print Invoice?"), Icon::Question, Buttons::YesNo) == Answer::Yes)
         ShowInvoiceDocument(OpenInvoice::gCurrentInvoiceId, chkWarrantyInvoice->isChecked());
-    Leave(OpenInvoice::Finish());
+    Leave(OpenInvoice::Finish(), tr("Invoice %1 completed"));
 }
 
 void InvoicePage::CloseInvoice()
 {
-    Leave(InBatch(*gConnection, [&] {
+    const QString numberGivenTwice = InBatch(*gConnection, [&] {
         UpdateInvoiceEdit();
         return OpenInvoice::Finish();
-    }));
+    });
+    Leave(numberGivenTwice, tr("Invoice %1 closed"));
 }
 
-void InvoicePage::Leave(const QString& numberGivenTwice)
+void InvoicePage::Leave(const QString& numberGivenTwice, const QString& done)
 {
     emit Left();
-    if (!numberGivenTwice.isEmpty())
-        emit Notice(tr("Invoice number %1 was given twice: another invoice went out under it meanwhile.")
-                        .arg(numberGivenTwice));
+    ShowStatus(numberGivenTwice.isEmpty()
+            ? done.arg(lblInvoiceNo->text())
+            : tr("Invoice number %1 was given twice: another invoice went out under it meanwhile.")
+                  .arg(numberGivenTwice));
 }

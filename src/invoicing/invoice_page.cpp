@@ -10,6 +10,7 @@
 
 void InvoicePage::ShowInvoicePage()
 {
+    m_lastCode.clear();
     FillPriceListChoice();
     if (OpenInvoice::IsOpen()) {
         SetTitle(tr("Edit Invoice"));
@@ -106,13 +107,15 @@ void InvoicePage::LoadCustomerDetailsIntoInvoice(qint32 customerId)
 void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
 {
     RunningTotal running;
+    m_pieces = 0;
     TaxRateColumn taxRates;
     gNewInvoice->LoadRows(OpenInvoice::LinesStatement(), selectRow, selectId,
-        [&running, &taxRates](const Recordset& line, GridFill& fill) {
+        [this, &running, &taxRates](const Recordset& line, GridFill& fill) {
             enum { Id, Quantity, Number, Name, Amount, TaxRateName, TaxRatePercentage };
             const Currency amount = line.Money(Amount);
             const double taxPercentage = line[TaxRatePercentage].ToDouble();
             const Currency lineTotal = LineTotal(line.Long(Quantity), amount, taxPercentage);
+            m_pieces += line.Long(Quantity);
             fill.Add(line.Text(Quantity));
             fill.Add(line.Text(Number));
             fill.Add(line.Text(Name));
@@ -124,6 +127,7 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
     const InvoiceTotals totals = running.Totals();
     ShowTotals(totals.secondTax, totals.total);
     ShowWhetherItExists();
+    ShowScanLine();
 }
 
 void InvoicePage::ShowTotals(double secondTax, double total)

@@ -88,8 +88,11 @@ public:
 signals:
     /// Work on the invoice has ended; the invoice history is to show.
     void Left();
-    /// Something that its user should know, and that asks for no answer.
-    void Notice(const QString& text);
+    /// The lines and pieces of the invoice and the code that was scanned last; "" where no scan is to be told of.
+    void Scanned(const QString& text);
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 
 private:
     /// As they are stored, in every language.
@@ -105,6 +108,8 @@ private:
     void SetCaptions();
     void ConnectSaves();
     void ConnectCommands();
+    void ConnectScans();
+    void ConnectKeys();
 
     void FillPriceListChoice();
     void PriceListChosen();
@@ -121,7 +126,11 @@ private:
     void SearchCustomer();
     void ResetCustomer();
     void AddOrderItem();
+    static void TellUnknownCode();
     void AddBarCodeItem();
+    void ShowScanned(const QString& code, qint32 itemId, bool isAdded);
+    int RowOfLine(qint64 lineId) const;
+    void ShowScanLine();
     void AddGroupItems();
     bool AddChosenGroupItems();
     void EditOrderItem();
@@ -133,7 +142,9 @@ private:
     void CloseInvoice();
     void CancelInvoice();
     void PrintPickingList();
-    void Leave(const QString& numberGivenTwice);
+    void Leave(const QString& numberGivenTwice, const QString& done);
 
     QWidget* m_gone = nullptr; ///< says that the invoice was deleted
+    QString m_lastCode; ///< of the scans on this invoice
+    qint64 m_pieces = 0;
 };

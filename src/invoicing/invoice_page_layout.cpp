@@ -1,8 +1,10 @@
 #include "base/numbers.h"
 #include "controls/focus.h"
 #include "controls/layout.h"
+#include "controls/screen_input.h"
 #include "invoicing/invoice_page.h"
 
+#include <QShortcut>
 #include <QStyle>
 
 namespace {
@@ -75,6 +77,8 @@ InvoicePage::InvoicePage(QWidget* parent)
 
     ConnectSaves();
     ConnectCommands();
+    ConnectScans();
+    ConnectKeys();
 }
 
 void InvoicePage::SetCaptions()
@@ -181,6 +185,16 @@ QLayout* InvoicePage::EndButtons()
     return row({cmdCompleteInvoice, cmdCancelInvoice, cmdPrintPickingList, stretch(), cmdCloseInvoice});
 }
 
+void InvoicePage::ConnectKeys()
+{
+    const QKeySequence toBarCode(Qt::Key_F6);
+    txtBarcode->setToolTip(toBarCode.toString(QKeySequence::NativeText));
+    On(new QShortcut(toBarCode, this), &QShortcut::activated, txtBarcode, &TextBox::FocusAll);
+    PressWithKey(cmdAddOrderItem, this, Qt::Key_F7);
+    PressWithKey(cmdNewInvoiceCustSearch, this, Qt::Key_F8);
+    PressWithKey(cmdCompleteInvoice, this, Qt::Key_F9);
+}
+
 void InvoicePage::ConnectCommands()
 {
     On(cboPriceList, &ComboBox::Click, this, &InvoicePage::PriceListChosen);
@@ -191,7 +205,6 @@ void InvoicePage::ConnectCommands()
 
     On(cmdNewInvoiceCustSearch, &QPushButton::clicked, this, &InvoicePage::SearchCustomer);
     On(cmdNewInvoiceCustReset, &QPushButton::clicked, this, &InvoicePage::ResetCustomer);
-    On(cmdAddBarCodeItem, &QPushButton::clicked, this, &InvoicePage::AddBarCodeItem);
     On(cmdAddOrderItem, &QPushButton::clicked, this, &InvoicePage::AddOrderItem);
     On(cmdEditOrderItem, &QPushButton::clicked, this, &InvoicePage::EditOrderItem);
     On(gNewInvoice, &FlexGrid::DblClick, this, &InvoicePage::EditOrderItem);

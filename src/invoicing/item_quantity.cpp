@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/layout.h"
+#include "controls/scan_watch.h"
 
 qint32 frmItemQuantity::EditLineQuantity = 0;
 Currency frmItemQuantity::EditLinePrice;
@@ -18,6 +19,7 @@ frmItemQuantity::frmItemQuantity(const QString& quantity, const QString& price, 
     }));
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
+    KeepCodesOut({txtQuantityToAdd, txtItemPrice});
 
     txtItemPrice->setText(price);
     txtQuantityToAdd->setText(quantity);

@@ -2,6 +2,9 @@
 
 #include "base/numbers.h"
 #include "db/connection.h"
+#include "inventory/bar_codes.h"
+
+#include <QRegularExpression>
 
 namespace {
 
@@ -53,12 +56,17 @@ void DeleteOrderLine(qint64 lineId, qint32 quantity)
     gConnection->Execute(Sql("DELETE FROM invoiceline WHERE id = {lineId}").Number("lineId", lineId));
 }
 
-std::optional<qint32> FindItemByBarCode(const QString& code)
+std::optional<ScannedItem> FindScannedItem(const QString& text)
 {
-    const Recordset item = gConnection->Execute(Sql("SELECT id FROM item WHERE barcode = '{code}'").Raw("code", code));
-    if (item.Eof())
+    if (const std::optional<qint32> item = FindItemByBarCode(text))
+        return ScannedItem{*item, 1};
+    static const QRegularExpression several(QStringLiteral("^([0-9]{1,4})\\*(.+)$"));
+    const QRegularExpressionMatch match = several.match(text);
+    const int quantity = match.captured(1).toInt();
+    if (quantity == 0)
         return std::nullopt;
-    return qint32(item.Long(0));
+    const std::optional<qint32> item = FindItemByBarCode(match.captured(2));
+    return item ? std::optional(ScannedItem{*item, quantity}) : std::nullopt;
 }
 
 Currency ListPrice(qint32 itemId, qint64 priceListId)

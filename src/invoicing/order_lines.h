@@ -18,9 +18,15 @@ void ChangeOrderLine(qint64 lineId, qint32 oldQuantity, qint32 newQuantity, Curr
 /// Gives `quantity` units back to the line's item, if that still exists, and deletes the line.
 void DeleteOrderLine(qint64 lineId, qint32 quantity);
 
-/// The first item with this bar code. The code goes into the statement as it was scanned, so one with a quote makes the
-/// statement fail.
-std::optional<qint32> FindItemByBarCode(const QString& code);
+/// An item and how many of it are to go on the invoice.
+struct ScannedItem {
+    qint32 itemId = 0;
+    qint32 quantity = 0;
+};
+/// What a text from the bar code box names: an item by its code, or several of it by a number of at most four digits
+/// and a star before the code ("5*4006381333931"). A bar code that reads so itself comes first. As for
+/// FindItemByBarCode, a quote makes the statement fail.
+std::optional<ScannedItem> FindScannedItem(const QString& text);
 
 /// The item's price in the list, rounded to the digits of currency text; 0 when the list has no price for it.
 Currency ListPrice(qint32 itemId, qint64 priceListId);

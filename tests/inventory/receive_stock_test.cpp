@@ -1,6 +1,8 @@
+#include "controls/status_line.h"
 #include "inventory/inventory_list.h"
 #include "inventory/receive_stock.h"
 #include "inventory_test.h"
+#include "support/keyboard.h"
 
 #include <QApplication>
 #include <QTest>
@@ -62,6 +64,31 @@ TEST_F(ReceiveStock, AScannerDrivesTheFormAlone)
     Type(form->txtAddQuantity, "9");
     Press(form->gInventory, Qt::Key_Return);
     EXPECT_EQ(Stock(drill), 0.5) << "Enter books in from the quantity box alone";
+}
+
+TEST_F(ReceiveStock, AScanInTheQuantityBoxFindsItsItemAndBooksNothing)
+{
+    const int saw = Item("Saw").Barcode("4006381333931").Stock(5).Add();
+    const int drill = Item("Drill").Barcode("100000").Stock(5).Add();
+    QString told;
+    QObject::connect(&StatusLine::Get(), &StatusLine::Told, qApp, [&told](const QString& text) { told = text; });
+    Open();
+    for (const auto& [code, item] : {std::pair("4006381333931", saw), std::pair("100000", drill)}) {
+        ScannerTypes(code);
+        EXPECT_TRUE(form->txtAddQuantity->hasFocus());
+        EXPECT_EQ(form->txtAddQuantity->selectedText(), "0");
+        EXPECT_EQ(form->gInventory->CurrentRowData(), item);
+    }
+    answers.ExpectMessage("Item not found.", Icon::Critical);
+    ScannerTypes("4012345678901");
+    EXPECT_EQ(form->txtAddQuantity->text(), "0");
+    EXPECT_EQ(Single("SELECT sum(NoInStock) FROM item"), "10.0");
+
+    form->txtAddQuantity->selectAll();
+    HandTypes("100000\n");
+    EXPECT_EQ(Stock(drill), 100005) << "by hand it is a quantity";
+    EXPECT_EQ(told, "100000 x Drill received, now 100005");
+    QObject::disconnect(&StatusLine::Get(), nullptr, qApp, nullptr);
 }
 
 TEST_F(ReceiveStock, QuantitiesThatAreNoNumberAreRefused)

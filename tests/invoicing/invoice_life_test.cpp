@@ -1,3 +1,4 @@
+#include "controls/status_line.h"
 #include "invoice_page_fixture.h"
 
 #include "invoicing/item_quantity.h"
@@ -109,12 +110,12 @@ TEST_F(InvoiceLife, CloseRaisesTheNumberForAnOldInvoiceToo)
 TEST_F(InvoiceLife, WhoFinishesSecondIsToldThatTheNumberWasGivenTwice)
 {
     QString notice;
-    QObject::connect(page, &InvoicePage::Notice, &window, [&](const QString& text) { notice = text; });
+    QObject::connect(&StatusLine::Get(), &StatusLine::Told, &window, [&](const QString& text) { notice = text; });
     OpenNew();
     Invoice(1).No("00001").Add();
     Run("UPDATE nextinvoiceno SET invoiceno = 2");
     Click(page->cmdCloseInvoice);
-    EXPECT_TRUE(notice.contains("00001")) << notice.toStdString();
+    EXPECT_TRUE(notice.startsWith("Invoice number 00001 was given twice")) << notice.toStdString();
 }
 
 TEST_F(InvoiceLife, DocumentsShowTheInvoiceAsItStandsOnThePage)

@@ -1,0 +1,30 @@
+#include "app/status_bar.h"
+
+#include "base/guard.h"
+
+StatusBar::StatusBar(QWidget* parent)
+    : QStatusBar(parent)
+    , m_scanned(new QLabel)
+{
+    m_scanned->setTextFormat(Qt::PlainText);
+    addPermanentWidget(m_scanned);
+    On(this, &QStatusBar::messageChanged, this, &StatusBar::ShowIfNeeded);
+    hide();
+}
+
+void StatusBar::ShowNotice(const QString& text)
+{
+    constexpr int LongEnoughToRead = 30'000;
+    showMessage(text, LongEnoughToRead);
+}
+
+void StatusBar::ShowScanned(const QString& text)
+{
+    m_scanned->setText(text);
+    ShowIfNeeded();
+}
+
+void StatusBar::ShowIfNeeded()
+{
+    setVisible(!currentMessage().isEmpty() || !m_scanned->text().isEmpty());
+}

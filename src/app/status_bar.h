@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+#include <QStatusBar>
+
+/// The line at the bottom of the main window: at the left what was done last, at the right what the open invoice has
+/// been scanned to. It is there only while it has something to say.
+class StatusBar : public QStatusBar {
+    Q_OBJECT
+public:
+    explicit StatusBar(QWidget* parent);
+
+    void ShowNotice(const QString& text);
+    /// "" for nothing.
+    void ShowScanned(const QString& text);
+
+private:
+    void ShowIfNeeded();
+
+    QLabel* m_scanned;
+};

@@ -1,0 +1,84 @@
+#include "base/numbers.h"
+#include "controls/message_box.h"
+#include "controls/scan_sound.h"
+#include "controls/scan_watch.h"
+#include "controls/status_line.h"
+#include "db/batch.h"
+#include "db/connection.h"
+#include "invoicing/add_order_line.h"
+#include "invoicing/invoice_page.h"
+#include "invoicing/order_lines.h"
+
+void InvoicePage::ConnectScans()
+{
+    On(cmdAddBarCodeItem, &QPushButton::clicked, this, &InvoicePage::AddBarCodeItem);
+    // A quote would end the program; where it was not meant for the bar code box, that would be out of place.
+    const auto isKnown = [](const QString& code) { return !code.contains(u'\'') && FindScannedItem(code); };
+    TakeScans({this, txtBarcode, cmdAddBarCodeItem, isKnown, [] { TellUnknownCode(); }});
+    KeepCodesOut({txtDiscount, txtAmountPayed});
+}
+
+void InvoicePage::TellUnknownCode()
+{
+    PlayScanSound(ScanSound::NotFound);
+    ScanMsgBox(tr("Item not found."), Icon::Critical);
+}
+
+void InvoicePage::AddBarCodeItem()
+{
+    const QString code = txtBarcode->text();
+    const std::optional<ScannedItem> scanned = FindScannedItem(code);
+    if (!scanned) {
+        TellUnknownCode();
+        txtBarcode->FocusAll();
+        return;
+    }
+
+    const bool isAdded = InBatch(*gConnection, [&] {
+        const Currency price = ListPrice(scanned->itemId, cboPriceList->SelectedData());
+        return AddLine(
+            scanned->itemId, scanned->quantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
+    });
+
+    txtBarcode->clear();
+    txtBarcode->setFocus();
+    ShowScanned(code, scanned->itemId, isAdded);
+}
+
+void InvoicePage::ShowScanned(const QString& code, qint32 itemId, bool isAdded)
+{
+    PlayScanSound(isAdded ? ScanSound::Found : ScanSound::NotFound);
+    if (!isAdded)
+        ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
+    m_lastCode = code;
+    ShowScanLine();
+    if (const int row = RowOfLine(LineOfItem(itemId)); row > 0)
+        gNewInvoice->ShowTinted(row);
+}
+
+int InvoicePage::RowOfLine(qint64 lineId) const
+{
+    int row = gNewInvoice->Rows() - 1;
+    while (row > 0 && gNewInvoice->RowData(row) != lineId)
+        --row;
+    return row;
+}
+
+void InvoicePage::ShowScanLine()
+{
+    constexpr int ShownOfACode = 40;
+    if (isVisible() && !m_lastCode.isEmpty())
+        emit Scanned(tr("Lines: %1   Pieces: %2   Last code: %3")
+                         .arg(gNewInvoice->Rows() - 1)
+                         .arg(m_pieces)
+                         .arg(m_lastCode.left(ShownOfACode)));
+    else
+        emit Scanned(QString());
+}
+
+void InvoicePage::hideEvent(QHideEvent* event)
+{
+    Panel::hideEvent(event);
+    if (!event->spontaneous())
+        emit Scanned(QString());
+}

@@ -1,0 +1,252 @@
+#include "base/settings_store.h"
+#include "controls/combo_box.h"
+#include "controls/date_picker.h"
+#include "controls/flex_grid.h"
+#include "controls/form.h"
+#include "controls/layout.h"
+#include "controls/message_box.h"
+#include "controls/scan_watch.h"
+#include "controls/status_line.h"
+#include "support/keyboard.h"
+#include "support/screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+const QString Known = "Ab 12/34-56";
+const QString UnknownEan = "4006381333931";
+const QString Unknown = "C-1234567";
+
+/// A screen with a control of each kind.
+class ScanWatching : public testing::Test {
+protected:
+    ScanWatching()
+    {
+        SetSettingsFolder(settings.path());
+        cboList->AddItems({{"Able", 1}, {"Baker", 2}, {"4 for 3", 3}, {"Carol", 4}});
+        cboList->SetListIndex(1);
+        dtDate->SetCheckBox(true);
+        dtDate->SetValue(QDate(2026, 3, 14).startOfDay());
+        grid->SetRows(5);
+        grid->SelectRow(3);
+        txtName->setText("Ann Carter");
+        txtNotes->SetText("To the back door");
+        KeepCodesOut({txtPrice});
+        window.setLayout(
+            column({txtCode, cmdLookUp, txtName, txtPrice, txtNotes, cboList, dtDate, chkPaid, cmdOther, grid}));
+        On(cmdLookUp, &QPushButton::clicked, &window, [this] {
+            events << txtCode->text();
+            txtCode->clear();
+        });
+        On(txtCode, &QLineEdit::returnPressed, cmdLookUp, &QPushButton::click);
+        On(cmdOther, &QPushButton::clicked, &window, [this] { events << "other"; });
+        On(grid, &FlexGrid::DblClick, &window, [this] { events << "opened"; });
+        On(dtDate, &DatePicker::Change, &window, [this] { events << "date"; });
+        On(cboList, &ComboBox::Click, &window, [this] { events << "list"; });
+        On(&StatusLine::Get(), &StatusLine::Told, &window, [this](const QString& text) { events << text; });
+        Watch();
+        Shown(&window);
+    }
+    ~ScanWatching() override { SetSettingsFolder({}); }
+
+    void Watch()
+    {
+        TakeScans({&window, txtCode, cmdLookUp, [](const QString& code) { return code == Known; },
+            [this] { events << "unknown"; }});
+    }
+
+    QStringList State() const
+    {
+        return {txtName->text(), QString::number(txtName->isModified()), txtPrice->text(),
+            QString::number(txtPrice->cursorPosition()), txtNotes->Text(),
+            QString::number(txtNotes->textCursor().position()), QString::number(txtNotes->document()->isModified()),
+            cboList->Text(), dtDate->Value()->toString(Qt::ISODate), QString::number(chkPaid->isChecked()),
+            QString::number(grid->Row())};
+    }
+    QWidget* DatePart() const { return dtDate->findChild<QDateEdit*>(); }
+    QList<QWidget*> OtherThanTexts() const { return {cboList, DatePart(), chkPaid, cmdOther, grid}; }
+
+    QTemporaryDir settings;
+    QStringList events;
+    QWidget window;
+    TextBox* txtCode = new TextBox;
+    QPushButton* cmdLookUp = new QPushButton;
+    TextBox* txtName = new TextBox;
+    TextBox* txtPrice = new TextBox;
+    MultiLineTextBox* txtNotes = new MultiLineTextBox;
+    ComboBox* cboList = new ComboBox;
+    DatePicker* dtDate = new DatePicker;
+    QCheckBox* chkPaid = new QCheckBox;
+    QPushButton* cmdOther = new QPushButton;
+    FlexGrid* grid = new FlexGrid;
+};
+
+TEST_F(ScanWatching, AKnownCodeGoesToTheBarCodeBoxAndLeavesNoTraceInAnyControl)
+{
+    const QStringList before = State();
+    for (QWidget* control : QList<QWidget*>{txtName, txtPrice, txtNotes} + OtherThanTexts()) {
+        control->setFocus();
+        ScannerTypes(Known);
+        EXPECT_EQ(events, QStringList{Known}) << control->metaObject()->className();
+        EXPECT_EQ(State(), before) << control->metaObject()->className();
+        EXPECT_TRUE(txtCode->hasFocus());
+        events.clear();
+    }
+    cboList->setFocus();
+    cboList->showPopup();
+    ScannerTypes(Known);
+    EXPECT_EQ(events, QStringList{Known});
+    EXPECT_EQ(State(), before);
+    EXPECT_FALSE(cboList->view()->isVisible());
+}
+
+TEST_F(ScanWatching, AnUnknownCodeIsTypedInATextBoxAndToldOfElsewhere)
+{
+    for (const auto& [box, code, isTyped] : {std::tuple(txtName, UnknownEan, true), std::tuple(txtPrice, Unknown, true),
+             std::tuple(txtPrice, QString("4006381333932"), true), std::tuple(txtPrice, UnknownEan, false),
+             std::tuple(txtPrice, QString("12345"), true)}) {
+        box->setText("12.50");
+        box->setFocus();
+        box->setSelection(5, -4);
+        ScannerTypes(code);
+        EXPECT_EQ(box->text(), isTyped ? "1" + code : "12.50") << code.toStdString();
+        EXPECT_EQ(box->selectedText(), isTyped ? "" : "2.50");
+        EXPECT_EQ(box->cursorPosition(), isTyped ? code.size() + 1 : 1);
+        EXPECT_EQ(events, isTyped ? QStringList() : QStringList{"unknown"});
+        events.clear();
+    }
+    const QStringList before = State();
+    for (QWidget* control : OtherThanTexts()) {
+        control->setFocus();
+        ScannerTypes(Unknown);
+        EXPECT_EQ(events, QStringList{"unknown"}) << control->metaObject()->className();
+        EXPECT_EQ(State(), before) << control->metaObject()->className();
+        EXPECT_TRUE(control->hasFocus());
+        events.clear();
+    }
+}
+
+TEST_F(ScanWatching, WhatIsTypedByHandDoesWhatItAlwaysDoes)
+{
+    txtName->setFocus();
+    txtName->selectAll();
+    HandTypes(Known + "\n");
+    EXPECT_EQ(txtName->text(), Known);
+    cboList->setFocus();
+    HandTypes("c");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cboList->currentIndex() == 3; }));
+    chkPaid->setFocus();
+    HandTypes(" ");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return chkPaid->isChecked(); }));
+    cmdOther->setFocus();
+    HandTypes(" ");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return events.contains("other"); }));
+    grid->setFocus();
+    HandTypes("123456\n");
+    EXPECT_EQ(events, (QStringList{"list", "other", "opened"}));
+    EXPECT_EQ(grid->Row(), 3);
+
+    txtPrice->setFocus();
+    ScannerTypes("Ab 12");
+    EXPECT_EQ(txtPrice->text(), "Ab 12") << "too short for a code";
+}
+
+TEST_F(ScanWatching, AProgramThatIsBusyTellsScansFromKeysByTheirOwnTime)
+{
+    On(txtName, &QLineEdit::textChanged, &window, [] { QTest::qSleep(40); });
+    txtName->setFocus();
+    ScannerTypes(Known);
+    EXPECT_EQ(events, QStringList{Known});
+    txtPrice->setFocus();
+    HandTypes(Known + "\n");
+    EXPECT_EQ(txtPrice->text(), Known) << "typed ahead, and taken in all at once";
+}
+
+TEST_F(ScanWatching, UndoGoesOnBeforeTheScan)
+{
+    txtPrice->setFocus();
+    HandTypes("12.50");
+    ScannerTypes(Known);
+    EXPECT_EQ(txtPrice->text(), "12.50");
+    txtPrice->undo();
+    EXPECT_EQ(txtPrice->text(), "");
+
+    txtNotes->setFocus();
+    txtNotes->selectAll();
+    ScannerTypes(Known);
+    EXPECT_EQ(txtNotes->textCursor().selectedText(), "To the back door");
+    EXPECT_FALSE(txtNotes->document()->isUndoAvailable());
+    txtNotes->setFocus();
+    txtNotes->moveCursor(QTextCursor::End);
+    HandTypes("!");
+    ScannerTypes(Known);
+    EXPECT_EQ(txtNotes->Text(), "To the back door!");
+    EXPECT_FALSE(txtNotes->document()->isRedoAvailable());
+}
+
+TEST_F(ScanWatching, NoScanAnswersAMessageBox)
+{
+    for (const auto& [ask, told] : {std::pair<std::function<void()>, QString>(
+                                        [this] {
+                                            const Answer answer = MsgBox("Sure?", Icon::Question, Buttons::YesNo);
+                                            events << (answer == Answer::No ? "No" : "Yes");
+                                        },
+                                        "Answer the question first, then scan again."),
+             {[] { MsgBox("Saved.", Icon::None); }, "Close the message first, then scan again."}}) {
+        WhenFormShows<QMessageBox>([&, told = told](QMessageBox& box) {
+            for (const QString& code : {QString("yn y123"), Known}) {
+                ScannerTypes(code);
+                QTest::qWait(50);
+                EXPECT_TRUE(box.isVisible());
+                EXPECT_EQ(events, QStringList{told});
+                events.clear();
+            }
+            HandTypes(box.button(QMessageBox::No) ? "n" : "\n");
+            EXPECT_TRUE(QTest::qWaitFor([&box] { return !box.isVisible(); }));
+        });
+        ask();
+        EXPECT_EQ(events.removeAll("No"), told.startsWith("Answer") ? 1 : 0);
+    }
+}
+
+TEST_F(ScanWatching, AScanClosesTheBoxOfTheLastScanAndGoesOn)
+{
+    for (const QString& code : {Known, Unknown}) {
+        WhenFormShows<QMessageBox>([&](QMessageBox& box) {
+            ScannerTypes(code);
+            EXPECT_FALSE(box.isVisible());
+            // The scanner does not wait for the program.
+            ScannerTypes(Known);
+        });
+        ScanMsgBox("Item not found.", Icon::Critical);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return events.size() == 2; }));
+        EXPECT_EQ(events, (QStringList{code, Known}));
+        events.clear();
+    }
+}
+
+TEST_F(ScanWatching, WithAGapOfZeroKeysAreJustKeys)
+{
+    SaveConfig("Scan Gap", "0");
+    Watch();
+    txtPrice->setFocus();
+    ScannerTypes(Known);
+    EXPECT_EQ(txtPrice->text(), Known);
+    grid->setFocus();
+    ScannerTypes(Known);
+    EXPECT_EQ(events, QStringList{"opened"});
+
+    SaveConfig("Scan Gap", "200");
+    Watch();
+    HandTypes(Known + "\n");
+    EXPECT_EQ(events, (QStringList{"opened", Known})) << "a slow scanner";
+}
+
+} // namespace

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+/// Keys as the window system brings them, `msAKey` apart by their own time, to the window that is worked with; '\n' is
+/// Enter. They take no time themselves.
+void PressKeys(const QString& keys, int msAKey);
+
+/// A scanner that ends its code with Enter.
+inline void ScannerTypes(const QString& code)
+{
+    PressKeys(code + u'\n', 20);
+}
+/// The same keys from a person's hands.
+inline void HandTypes(const QString& keys)
+{
+    PressKeys(keys, 120);
+}
