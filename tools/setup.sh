@@ -9,23 +9,11 @@ BuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-
 # Devanagari.
 RunPackages=(libqt6svg6 libqt6sql6-sqlite fonts-liberation fonts-dejavu-core fonts-droid-fallback fonts-lohit-deva)
 
-Say() { printf '%s\n' "$*"; }
-
-Fail() {
-    Say "$*" >&2
-    exit 1
-}
+source tools/data-file.sh
 
 Log=$(mktemp 2>/dev/null) || Fail "No temporary file can be made in ${TMPDIR:-/tmp}: is there room, and may you write there?"
 trap 'rm -f "$Log"' EXIT
 trap 'printf "\n%s\n" "Interrupted. The same command goes on from here."; exit 130' INT TERM
-
-# Writable FOLDER: makes the folder if need be.
-Writable() {
-    local probe=$1/.probe
-    { mkdir -p "$1" && touch "$probe" && rm "$probe"; } 2>/dev/null ||
-        Fail "Nothing can be written to the folder $(realpath -m "$1"): may you write there, and is there room?"
-}
 
 # The build's tools take these apart, each in a way of its own.
 case $PWD in

@@ -21,11 +21,27 @@ bool EndsInSeparator(const QString& folder)
     return folder.endsWith(QLatin1Char('/')) || folder.endsWith(QLatin1Char('\\'));
 }
 
+/// What an installed program reads, at its place in the system's data; "" when the program is not installed.
+QString InstalledFolder()
+{
+    const QString place = QStringLiteral("/" TAVRIN_DATA_FROM_PROGRAM);
+    const QString folder = QDir::cleanPath(QCoreApplication::applicationDirPath() + place);
+    return QDir(folder).exists() ? folder : QString();
+}
+
 } // namespace
 
 QString ProgramFolder()
 {
-    return gProgramFolder.isEmpty() ? QCoreApplication::applicationDirPath() : gProgramFolder;
+    if (!gProgramFolder.isEmpty())
+        return gProgramFolder;
+    const QString installed = InstalledFolder();
+    return installed.isEmpty() ? QCoreApplication::applicationDirPath() : installed;
+}
+
+bool IsInstalled()
+{
+    return gProgramFolder.isEmpty() && !InstalledFolder().isEmpty();
 }
 
 void SetProgramFolder(const QString& folder)

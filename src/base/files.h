@@ -4,8 +4,11 @@
 
 class QIODevice;
 
-/// The folder that holds the program and all it reads, without a trailing separator.
+/// The folder that holds the program and all it reads, without a trailing separator. An installed program reads from
+/// the system's folder for data instead, such as /usr/share/tavrin-inventory.
 QString ProgramFolder();
+/// True for a program whose folder belongs to the system: nothing can be written there.
+bool IsInstalled();
 /// Tests and tools point it elsewhere; "" brings the program's own folder back.
 void SetProgramFolder(const QString& folder);
 

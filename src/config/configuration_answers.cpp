@@ -1,5 +1,6 @@
 #include "config/configuration_answers.h"
 
+#include "base/database_path.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/settings_store.h"
@@ -54,7 +55,7 @@ QString CopyOfLogo(const QString& logo)
 {
     if (logo.isEmpty())
         return QString();
-    const QString copy = MakeUniqueFileName(ProgramFolder(), ExtensionOf(logo));
+    const QString copy = MakeUniqueFileName(LogoFolder(), ExtensionOf(logo));
     // A pipe would keep the copy waiting for ever.
     if (QFileInfo(logo).isFile())
         QFile::copy(logo, copy);
