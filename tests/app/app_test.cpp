@@ -13,6 +13,15 @@ MainWindow& MainWindowTest::Window(QSize size)
     return *m_window;
 }
 
+MainWindow& MainWindowTest::LoadAgain()
+{
+    m_window.reset();
+    if (m_before)
+        gConnection = m_before;
+    m_connection.Close();
+    return Window();
+}
+
 void MainWindowTest::TearDown()
 {
     m_window.reset();

@@ -3,6 +3,7 @@
 #include "config/secondary_tax.h"
 #include "invoicing/open_invoice.h"
 #include "support/form_check.h"
+#include "support/golden.h"
 
 #include <QLocale>
 
@@ -27,94 +28,59 @@ int Sum(const QList<int>& widths)
 
 } // namespace
 
-TEST_F(LoadTest, TheFirstScreenIsTheInvoiceHistoryWithAllInvoices)
+TEST_F(LoadTest, TheWindowStartsOnTheInvoiceHistoryWithItsListsFilled)
 {
     const int ann = Customer("Ann", "Lee").Business("Lee & Sons").Add();
-    Invoice(ann).No("00007").Paid(true).Add();
-    Invoice(ann).No("00008").Add();
-    Item("Screws M4").Add();
+    Invoice(ann).No("00007").Paid(true).Date(QDate(2026, 3, 1)).Add();
+    Invoice(ann).No("00008").Date(QDate(2026, 3, 1)).Add();
+    for (const char* list : {"Zulu", "Alpha"})
+        PriceListRow(list);
+    Item("Screws M4").Price("Alpha", "2.5").Add();
+    SetRegional(QLocale(QLocale::German, QLocale::Germany));
 
     MainWindow& window = Window();
     EXPECT_TRUE(window.picArrivals->isVisible());
-    EXPECT_EQ(window.picArrivals->gInvoices->Rows(), 3);
-    EXPECT_EQ(Entries(window.picArrivals->cboInvoiceFilter), QStringList({"All Invoices", "Unpaid Invoices"}));
-    EXPECT_EQ(window.picArrivals->cboInvoiceFilter->ListIndex(), 0);
-    EXPECT_EQ(Entries(window.picNewInvoice->cboPaymentMethod),
-        QStringList({"N/A", "Check", "Cash", "Credit Card", "Bank Transfer", "Charge to Account"}));
-    EXPECT_EQ(window.picInventory->gInventory->Rows(), 2);
-    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
-    EXPECT_EQ(OpenInvoice::gCurrentCustomerId, -1);
+    EXPECT_EQ(OpenInvoice::gCurrentInvoiceId + OpenInvoice::gCurrentCustomerId, -2);
+    QString text;
+    for (const QWidget* panel : Panels(window)) {
+        text += panel->objectName() + '\n';
+        for (const FlexGrid* grid : panel->findChildren<FlexGrid*>()) {
+            text += "  " + GridTitles(grid).join(" | ") + '\n';
+            for (const QStringList& row : GridRows(grid))
+                text += "    " + row.join(" | ") + '\n';
+        }
+        for (const ComboBox* list : panel->findChildren<ComboBox*>())
+            text += "  " + list->objectName() + ": " + list->Text() + " of " + Entries(list).join(" | ") + '\n';
+    }
+    for (const char* day : {"lblLabels_52", "lblLabels_58"})
+        text += Find<QLabel>(&window, day)->text() + '\n';
+    ExpectGolden(text, "main_window.txt");
 }
 
-TEST_F(LoadTest, ThePriceListsStandByNameAndTheFirstIsChosen)
+TEST_F(LoadTest, TheSecondTaxFollowsTheSettingsRow)
 {
-    const int zulu = PriceListRow("Zulu");
-    const int alpha = PriceListRow("Alpha");
-    ComboBox* lists = Window().picInventory->cboInvoicePriceList;
-    EXPECT_EQ(lists->Text(), "Alpha");
-    EXPECT_EQ(lists->SelectedData(), alpha);
-    EXPECT_EQ(lists->ItemData(lists->ListCount() - 1), zulu);
+    const std::tuple<const char*, const char*, const char*> settings[] = {
+        {"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = NULL", ":", ""},
+        {"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'GST'", "GST:", "GST"},
+        {"UPDATE settings SET SecondaryTaxEnable = 0", "", "GST"}, {"DELETE FROM settings", "", "2nd Sales Tax"}};
+    for (const auto& [statement, shown, name] : settings) {
+        Run(statement);
+        MainWindow& window = LoadAgain();
+        window.Run("mnuReservationAdd");
+        EXPECT_EQ(SecondTaxShown(window), shown);
+        EXPECT_EQ(
+            window.picNewInvoice->lblLabels_26->text() + SecondaryTax::SecondaryTaxName, name + QString(":") + name);
+    }
 }
 
-namespace {
-
-struct TaxSettings {
-    const char* statement;
-    bool shown;
-    const char* label;
-    const char* name;
-};
-
-class SecondaryTaxLabelTest : public MainWindowTest, public ::testing::WithParamInterface<TaxSettings> { };
-
-} // namespace
-
-TEST_P(SecondaryTaxLabelTest, FollowsTheSettingsRow)
-{
-    Run(GetParam().statement);
-    MainWindow& window = Window();
-    window.Run("mnuReservationAdd");
-    EXPECT_EQ(window.picNewInvoice->lblLabels_26->isVisible(), GetParam().shown);
-    EXPECT_EQ(window.picNewInvoice->lblSecondTax->isVisible(), GetParam().shown);
-    EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), GetParam().label);
-    EXPECT_EQ(SecondaryTax::SecondaryTaxName, GetParam().name);
-}
-
-INSTANTIATE_TEST_SUITE_P(Settings, SecondaryTaxLabelTest,
-    ::testing::Values(
-        TaxSettings{"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'GST'", true, "GST:", "GST"},
-        TaxSettings{"UPDATE settings SET SecondaryTaxEnable = 0, SecondaryTaxName = 'GST'", false, "GST:", "GST"},
-        TaxSettings{"UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = NULL", true, ":", ""},
-        TaxSettings{"DELETE FROM settings", false, "2nd Sales Tax:", "2nd Sales Tax"}));
-
-TEST_F(LoadTest, ThePostCodeLabelTakesTheStoredTermAsItStands)
-{
-    SaveConfig("PostCode", "ZIP");
-    EXPECT_EQ(Find<QLabel>(&Window(), "lblPostCode")->text(), "ZIP");
-}
-
-TEST_F(LoadTest, ThePostCodeLabelLosesItsColonWithoutAStoredTerm)
+TEST_F(LoadTest, ThePostCodeLabelTakesTheStoredTermOrLosesItsColon)
 {
     // Terms that nothing uses any more do not disturb the load, whatever they hold.
     SaveConfig("CostPerNight", "cheap");
     SaveConfig("SalesTaxPercentage", "");
     EXPECT_EQ(Find<QLabel>(&Window(), "lblPostCode")->text(), "Post Code");
-}
-
-TEST_F(LoadTest, WeekdaysFollowTheLocale)
-{
-    SetRegional(QLocale(QLocale::German, QLocale::Germany));
-    MainWindow& window = Window();
-    EXPECT_EQ(Find<QLabel>(&window, "lblLabels_52")->text(), "Montag");
-    EXPECT_EQ(Find<QLabel>(&window, "lblLabels_58")->text(), "Sonntag");
-}
-
-TEST_F(LoadTest, GraphListsStartOnTheirFirstEntries)
-{
-    ReportsPanel* reports = Window().picReports;
-    EXPECT_EQ(reports->cboGraphType->Text(), "Invoices this month");
-    EXPECT_EQ(reports->cboGraphStyle->Text(), "3D Bar");
-    EXPECT_EQ(reports->cboGraphStyle->ListCount(), 8);
+    SaveConfig("PostCode", "ZIP");
+    EXPECT_EQ(Find<QLabel>(&LoadAgain(), "lblPostCode")->text(), "ZIP");
 }
 
 TEST_F(LoadTest, ExpandingTheGraphTwiceBringsItBackToItsPlace)
@@ -139,19 +105,6 @@ TEST_F(LoadTest, ExpandingTheGraphTwiceBringsItBackToItsPlace)
     EXPECT_EQ(reports->c->width(), place.width());
 }
 
-TEST_F(LoadTest, EachGridHasItsTitles)
-{
-    MainWindow& window = Window();
-    EXPECT_EQ(
-        GridTitles(window.picArrivals->gInvoices), QStringList({"Number", "Business Name", "Name", "Invoice Date"}));
-    EXPECT_EQ(GridTitles(window.picCustomers->gcust), QStringList({"Name", "Address", "Zip/Postcode", "Phone"}));
-    EXPECT_EQ(GridTitles(window.picVendors->gVendors), QStringList({"Business Name", "Contact Name", "Phone"}));
-    EXPECT_EQ(GridTitles(window.picItemGroups->gItemGroups), QStringList({"Name"}));
-    EXPECT_EQ(GridTitles(window.picInventory->gInventory).mid(3), QStringList({"Tax Rate", "In Stock"}));
-    EXPECT_EQ(GridTitles(window.picNewInvoice->gNewInvoice),
-        QStringList({"Qty", "Number", "Name", "Sale Price", "Tax Rate", "Sub-Total"}));
-}
-
 TEST_F(LoadTest, AtLoadTheInventoryGivesItsSpareWidthToTheNumberAndNotToTheName)
 {
     const MainWindow window;
@@ -160,7 +113,7 @@ TEST_F(LoadTest, AtLoadTheInventoryGivesItsSpareWidthToTheNumberAndNotToTheName)
     EXPECT_EQ(Widths(window.picInventory->gInventory), QList<int>({700 * 15 - 6700, 2400, 1600, 1100, 1600}));
 }
 
-TEST_F(LoadTest, ResizingGivesTheSpareWidthToEachGridsColumnEvenOutOfSight)
+TEST_F(LoadTest, ResizingGivesTheSpareWidthToEachGridsColumnEvenOutOfSightAndKeepsWhatWasDragged)
 {
     MainWindow& window = Window({1200, 760});
     for (const QSize size : {QSize(1200, 760), QSize(1500, 900)}) {
@@ -172,11 +125,7 @@ TEST_F(LoadTest, ResizingGivesTheSpareWidthToEachGridsColumnEvenOutOfSight)
     }
     EXPECT_EQ(window.picInventory->gInventory->ColWidth(3), 1100);
     EXPECT_GT(window.picInventory->gInventory->ColWidth(1), 2400);
-}
 
-TEST_F(LoadTest, AResizeKeepsTheColumnsThatTheUserDragged)
-{
-    MainWindow& window = Window();
     FlexGrid* gcust = window.picCustomers->gcust;
     gcust->SetColWidth(0, 3000);
     window.resize(1400, 800);
@@ -201,7 +150,6 @@ TEST_F(LoadTest, ClosingStoresTheWidthsOfAllSixGridsAndNothingElse)
     window.picCustomers->gcust->SetColWidth(0, 3210);
     window.picVendors->gVendors->SetColWidth(2, 0);
     ASSERT_EQ(Count("invoice"), 1);
-    const QString customers = Single("SELECT count(*) || group_concat(FirstName) FROM customer");
 
     ScriptedAnswers nothingAsked;
     window.Run("mnuFileExit");
@@ -212,9 +160,8 @@ TEST_F(LoadTest, ClosingStoresTheWidthsOfAllSixGridsAndNothingElse)
     for (const char* key :
         {"gInvoicesColWidth3", "gInventoryColWidth4", "gNewInvoiceColWidth5", "gItemGroupsColWidth0"})
         EXPECT_NE(GetConfig(key, "unset"), "unset") << key;
-    EXPECT_EQ(Count("invoice"), 1);
+    EXPECT_EQ(Count("invoice") + Count("customer"), 1) << "what is typed is not saved";
     EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, openInvoice);
-    EXPECT_EQ(Single("SELECT count(*) || group_concat(FirstName) FROM customer"), customers);
 }
 
 TEST_F(LoadTest, OpeningAnInvoiceOnThePageInViewSavesWhatWasBeingTypedThere)
@@ -256,27 +203,19 @@ TEST_F(LoadTest, RestoredWidthsHoldOutOfSightAndOddOnesAreIgnored)
     EXPECT_EQ(window.picArrivals->gInvoices->ColWidth(3), 1440);
 }
 
-TEST_F(LoadTest, EveryPanelIsFitToShow)
+TEST_F(LoadTest, EveryPanelIsFitToShowAndTheWindowForASmallScreen)
 {
     Customer("Ann", "Lee").Add();
     MainWindow& window = Window();
-    CheckScreen(window.picArrivals, window.picArrivals->Controls(), {});
-    window.ShowMainPanel(CustomersListPanel);
-    CheckScreen(window.picCustomers, window.picCustomers->Controls(), {});
-    window.ShowMainPanel(VendorsListPanel);
-    CheckScreen(window.picVendors, window.picVendors->Controls(), {});
-    window.ShowMainPanel(ReportsViewPanel);
-    CheckScreen(window.picReports, window.picReports->Controls(), {"cboReportFirstProduct", "cboReportSecondProduct"});
-    window.ShowMainPanel(InventoryListPanel);
-    CheckScreen(window.picInventory, window.picInventory->Controls(), {});
-    window.ShowMainPanel(ItemGroupsPanel);
-    CheckScreen(window.picItemGroups, window.picItemGroups->Controls(), {});
-    window.Run("mnuReservationAdd");
-    CheckScreen(window.picNewInvoice, window.picNewInvoice->Controls(), {"lblLabels_26", "lblSecondTax"});
-}
-
-TEST_F(LoadTest, TheWindowFitsASmallScreen)
-{
-    EXPECT_LE(Window().minimumSizeHint().width(), 900);
-    EXPECT_LE(Window().minimumSizeHint().height(), 500);
+    EXPECT_LE(window.minimumSizeHint().width(), 900);
+    EXPECT_LE(window.minimumSizeHint().height(), 500);
+    const QStringList hiddenOnPurpose{
+        "cboReportFirstProduct", "cboReportSecondProduct", "lblLabels_26", "lblSecondTax"};
+    for (const char* entry : {"mnuListInvoices", "mnuCustomersView", "mnuVendorsView", "mnuReportQuick",
+             "mnuViewInventory", "mnuInventoryViewItemGroup", "mnuReservationAdd"}) {
+        window.Run(entry);
+        for (Panel* panel : Panels(window))
+            if (panel->isVisible())
+                CheckScreen(panel, panel->Controls(), hiddenOnPurpose);
+    }
 }

@@ -64,72 +64,26 @@ TEST_F(MenuTest, MenusAndToolbarStandAsTheyAreDelivered)
     ExpectGolden(ToolbarOf(window), "toolbar.txt");
 }
 
-TEST_F(MenuTest, NoMenuStartsOrEndsWithASeparatorOrShowsTwoInARow)
+TEST_F(MenuTest, AnEntryShowsItsPanelAloneAndANumberThatNoPanelHasNone)
 {
-    for (const QAction* head : Window().menuBar()->actions()) {
-        bool separatorBefore = true;
-        for (const QAction* entry : head->menu()->actions()) {
-            EXPECT_FALSE(separatorBefore && entry->isSeparator()) << head->text().toStdString();
-            separatorBefore = entry->isSeparator();
-        }
-        EXPECT_FALSE(separatorBefore) << head->text().toStdString();
+    MainWindow& window = Window();
+    const auto visible = [&window] {
+        QStringList names;
+        for (const Panel* panel : Panels(window))
+            if (panel->isVisible() && panel->size() == window.picBack->size())
+                names.append(panel->objectName());
+        return names.join(' ');
+    };
+    for (const auto& [entry, panel] : {std::pair("mnuReservationAdd", "picNewInvoice"),
+             {"mnuListInvoices", "picArrivals"}, {"mnuViewInventory", "picInventory"},
+             {"mnuCustomersView", "picCustomers"}, {"mnuReportQuick", "picReports"}, {"mnuVendorsView", "picVendors"},
+             {"mnuInventoryViewItemGroup", "picItemGroups"}}) {
+        window.Run(entry);
+        EXPECT_EQ(visible(), panel);
     }
-}
-
-namespace {
-
-struct PanelEntry {
-    const char* entry;
-    const char* panel;
-};
-void PrintTo(const PanelEntry& entry, std::ostream* out)
-{
-    *out << entry.entry;
-}
-
-class PanelEntryTest : public MainWindowTest, public ::testing::WithParamInterface<PanelEntry> { };
-
-} // namespace
-
-TEST_P(PanelEntryTest, ShowsItsPanelAlone)
-{
-    MainWindow& window = Window();
-    window.Run(QLatin1String(GetParam().entry));
-    QStringList visible;
-    for (const QWidget* widget : window.picBack->findChildren<QWidget*>())
-        if (dynamic_cast<const Panel*>(widget) && widget->isVisible())
-            visible.append(widget->objectName());
-    EXPECT_EQ(visible, QStringList{GetParam().panel});
-    EXPECT_EQ(Find<QWidget>(&window, GetParam().panel)->size(), window.picBack->size());
-}
-
-INSTANTIATE_TEST_SUITE_P(Entries, PanelEntryTest,
-    ::testing::Values(PanelEntry{"mnuReservationAdd", "picNewInvoice"}, PanelEntry{"mnuListInvoices", "picArrivals"},
-        PanelEntry{"mnuViewInventory", "picInventory"}, PanelEntry{"mnuCustomersView", "picCustomers"},
-        PanelEntry{"mnuReportQuick", "picReports"}, PanelEntry{"mnuVendorsView", "picVendors"},
-        PanelEntry{"mnuInventoryViewItemGroup", "picItemGroups"}));
-
-TEST_F(MenuTest, ANumberThatNoPanelHasChangesNothing)
-{
-    MainWindow& window = Window();
-    window.ShowMainPanel(InventoryListPanel);
     for (const int number : {-1, 7, 1000})
         window.ShowMainPanel(number);
-    EXPECT_TRUE(window.picInventory->isVisible());
-}
-
-TEST_F(MenuTest, ViewingAListReadsItAnew)
-{
-    MainWindow& window = Window();
-    Customer("Ann", "Lee").Add();
-    VendorRow("Bolts & Co");
-    Item("Screws M4").Add();
-    window.Run("mnuCustomersView");
-    window.Run("mnuVendorsView");
-    window.Run("mnuViewInventory");
-    EXPECT_EQ(window.picCustomers->gcust->TextMatrix(1, 0), "Ann Lee");
-    EXPECT_EQ(window.picVendors->gVendors->TextMatrix(1, 0), "Bolts & Co");
-    EXPECT_EQ(window.picInventory->gInventory->TextMatrix(1, 1), "Screws M4");
+    EXPECT_EQ(visible(), "picItemGroups");
 }
 
 TEST_F(MenuTest, AddingARecordReadsItsListAnewFromAnyView)
@@ -165,14 +119,13 @@ TEST_F(MenuTest, ClosingTheTaxRatesLetsTheOpenInvoiceFollowAtOnce)
         window.Run("mnuInvTaxRates");
     };
     closeWithTax("PST");
-    EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), "PST:");
-    EXPECT_TRUE(window.picNewInvoice->lblLabels_26->isVisible() && window.picNewInvoice->lblSecondTax->isVisible());
+    EXPECT_EQ(SecondTaxShown(window), "PST:");
     closeWithTax("");
     closeWithTax(qPrintable(QString(150, u'W')));
     QCoreApplication::processEvents();
     EXPECT_EQ(window.width(), 1024);
     closeWithTax("");
-    EXPECT_FALSE(window.picNewInvoice->lblLabels_26->isVisible() || window.picNewInvoice->lblSecondTax->isVisible());
+    EXPECT_EQ(SecondTaxShown(window), "");
 }
 
 TEST_F(MenuTest, TheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
@@ -189,11 +142,10 @@ TEST_F(MenuTest, TheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
     });
     NextOn<frmWizConfig_Barcode, frmWizConfig_PickingList, frmWizConfig_Cats, frmWizConfig_Complete>();
     window.Run("mnuConfigureWizard");
-    EXPECT_EQ(window.picNewInvoice->lblLabels_26->text(), "PST:");
-    EXPECT_TRUE(window.picNewInvoice->lblLabels_26->isVisible() && window.picNewInvoice->lblSecondTax->isVisible());
+    EXPECT_EQ(SecondTaxShown(window), "PST:");
 }
 
-TEST_F(MenuTest, HelpEntriesAndLinksAskForTheirTopicsAndPages)
+TEST_F(MenuTest, HelpEntriesLinksAndPrintingAskForTheirTopicsPagesAndDialogs)
 {
     MainWindow& window = Window();
     ScriptedAnswers answers;
@@ -203,25 +155,18 @@ TEST_F(MenuTest, HelpEntriesAndLinksAskForTheirTopicsAndPages)
     answers.ExpectLink(SupportSite());
     answers.ExpectLink(FeedbackMail());
     answers.ExpectLink(CustomReportsPage());
+    answers.ExpectPrint(false);
+    answers.ExpectPageSetup(false);
     for (const char* entry : {"mnuHelpContents", "mnuHelpIndex", "mnuHelpSearch", "mnuHelpOnlineSupport",
-             "mnuHelpSendFeedback", "mnuCustomReports"})
+             "mnuHelpSendFeedback", "mnuCustomReports", "mnuFilePrint", "mnuFilePageSetup"})
         window.Run(entry);
     EXPECT_TRUE(FeedbackMail().startsWith("mailto:"));
     EXPECT_TRUE(CustomReportsPage().endsWith("/InventoryCustomisation.php?s=app"));
 }
 
-TEST_F(MenuTest, CancelledPrintingAndPageSetupSayNothing)
+TEST_F(MenuTest, EditEntriesActOnTheTextBoxWithTheFocusAndDoNothingInAList)
 {
-    MainWindow& window = Window();
-    ScriptedAnswers answers;
-    answers.ExpectPrint(false);
-    answers.ExpectPageSetup(false);
-    window.Run("mnuFilePrint");
-    window.Run("mnuFilePageSetup");
-}
-
-TEST_F(MenuTest, EditEntriesActOnTheTextBoxWithTheFocus)
-{
+    Customer("Ann", "Lee").Add();
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
     TextBox* box = window.picNewInvoice->txtFirstname;
@@ -243,23 +188,15 @@ TEST_F(MenuTest, EditEntriesActOnTheTextBoxWithTheFocus)
     box->setCursorPosition(0);
     choose("mnuEditClear");
     EXPECT_EQ(box->text(), "nn");
-}
 
-TEST_F(MenuTest, EditEntriesDoNothingInAList)
-{
-    Customer("Ann", "Lee").Add();
-    MainWindow& window = Window();
     window.Run("mnuCustomersView");
     FlexGrid* gcust = window.picCustomers->gcust;
     gcust->setFocus();
     const QList<QStringList> before = GridRows(gcust);
-    for (const char* entry : {"mnuEditUndo", "mnuEditCut", "mnuEditPaste", "mnuEditClear"}) {
-        window.Run(entry);
-        QCoreApplication::processEvents();
-    }
+    for (const char* entry : {"mnuEditUndo", "mnuEditCut", "mnuEditPaste", "mnuEditClear"})
+        choose(entry);
     EXPECT_EQ(GridRows(gcust), before);
     EXPECT_EQ(gcust->Row(), 1);
-    EXPECT_EQ(Count("customer"), 1);
 }
 
 TEST_F(MenuTest, ToolbarButtonsHavePicturesOfTheirOwn)
@@ -275,11 +212,6 @@ TEST_F(MenuTest, ToolbarButtonsHavePicturesOfTheirOwn)
     EXPECT_EQ(pictures.size(), 7);
 }
 
-TEST(Toolbar, AnOldKeyStillRunsTheWebOrdersWizard)
-{
-    EXPECT_EQ(EntryOfToolbarKey("Web Bookings"), "mnuWebConfig");
-}
-
 TEST_F(MenuTest, ToolbarClicksSwitchPanelsAndWebOrdersDoesNothing)
 {
     MainWindow& window = Window();
@@ -292,4 +224,5 @@ TEST_F(MenuTest, ToolbarClicksSwitchPanelsAndWebOrdersDoesNothing)
     EXPECT_TRUE(window.picInventory->isVisible());
     click("Invoices");
     EXPECT_TRUE(window.picArrivals->isVisible());
+    EXPECT_EQ(EntryOfToolbarKey("Web Bookings"), "mnuWebConfig") << "an old key still runs the wizard";
 }

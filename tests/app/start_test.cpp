@@ -79,24 +79,20 @@ TEST_F(StartTest, TheFirstStartShowsTheTipAndAsksAndTheSecondDoesNot)
     EXPECT_TRUE(program->Window()->picArrivals->isVisible());
 }
 
-TEST_F(StartTest, YesToTheTutorialOpensItAndAsksNoMore)
+TEST_F(StartTest, EitherYesLeadsToTheConfigurationWizard)
 {
     SaveOption("Show Tips at Startup", "0");
-    ScriptedAnswers answers;
-    answers.Expect(Tutorial, Answer::Yes);
-    answers.ExpectHelp(HelpCommand::Context, 3);
-    WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
-    EXPECT_TRUE(Start());
-}
-
-TEST_F(StartTest, YesToTheSecondQuestionStartsTheConfigurationWizard)
-{
-    SaveOption("Show Tips at Startup", "0");
-    ScriptedAnswers answers;
-    answers.Expect(Tutorial, Answer::No);
-    answers.Expect(Wizard, Answer::Yes);
-    WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
-    EXPECT_TRUE(Start());
+    for (const bool tutorial : {true, false}) {
+        SaveConfig("FirstRun", "True");
+        ScriptedAnswers answers;
+        answers.Expect(Tutorial, tutorial ? Answer::Yes : Answer::No);
+        if (tutorial)
+            answers.ExpectHelp(HelpCommand::Context, 3);
+        else
+            answers.Expect(Wizard, Answer::Yes);
+        WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
+        EXPECT_TRUE(Start());
+    }
 }
 
 TEST_F(StartTest, AFirstRunThatIsNoBooleanEndsTheProgramAndStaysAsItIs)
@@ -109,7 +105,7 @@ TEST_F(StartTest, AFirstRunThatIsNoBooleanEndsTheProgramAndStaysAsItIs)
     EXPECT_EQ(GetConfig("FirstRun", ""), "perhaps");
 }
 
-TEST_F(StartTest, TheSplashLoadsBehindItselfAndClosesByItself)
+TEST_F(StartTest, TheSplashLoadsBehindItselfAndClosesByItselfByAClickOrWhenTheLoadFailed)
 {
     int loads = 0;
     frmSplash splash([&] { return ++loads > 0; });
@@ -117,10 +113,7 @@ TEST_F(StartTest, TheSplashLoadsBehindItselfAndClosesByItself)
     EXPECT_TRUE(QTest::qWaitFor([&] { return loads >= 2; }, 1400));
     EXPECT_TRUE(splash.isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !splash.isVisible(); }, 3000));
-}
 
-TEST_F(StartTest, AClickOnTheSplashClosesItAndSoDoesALoadThatFailed)
-{
     frmSplash clicked([] { return true; });
     Shown(&clicked);
     Click(clicked.Frame1);
@@ -131,35 +124,19 @@ TEST_F(StartTest, AClickOnTheSplashClosesItAndSoDoesALoadThatFailed)
     EXPECT_TRUE(QTest::qWaitFor([&] { return !failing.isVisible(); }, 1000));
 }
 
-namespace {
-
-struct StoredFolder {
-    const char* ending; ///< of the stored folder; null for nothing stored
-    const char* endingAfterwards;
-};
-
-class StoredFolderTest : public DatabaseTest, public ::testing::WithParamInterface<StoredFolder> { };
-
-} // namespace
-
-TEST_P(StoredFolderTest, IsRepairedInTheStoreOnlyWithoutASeparator)
+TEST_F(StartTest, AStoredFolderIsRepairedOnlyWithoutASeparatorAndNoneIsTheProgramsOwn)
 {
-    SaveConfig("DBPath", Folder() + GetParam().ending);
-    EXPECT_EQ(ResolveDatabaseFolder(), Folder() + GetParam().endingAfterwards);
-    EXPECT_EQ(GetConfig("DBPath", ""), Folder() + GetParam().endingAfterwards);
-}
-
-INSTANTIATE_TEST_SUITE_P(Endings, StoredFolderTest,
-    ::testing::Values(
-        StoredFolder{"", "/"}, StoredFolder{"/", "/"}, StoredFolder{"\\", "\\"}, StoredFolder{"/x", "/x/"}));
-
-TEST_F(StartTest, WithoutAStoredFolderItIsTheProgramsOwnAndIsNotStored)
-{
-    EXPECT_EQ(ResolveDatabaseFolder(), ProgramFolder() + "\\");
-    EXPECT_EQ(GetConfig("DBPath", "unset"), "unset");
+    for (const auto& [stored, repaired] : {std::pair("", "/"), {"/", "/"}, {"\\", "\\"}, {"/x", "/x/"}}) {
+        SaveConfig("DBPath", Folder() + stored);
+        EXPECT_EQ(ResolveDatabaseFolder(), Folder() + repaired);
+        EXPECT_EQ(GetConfig("DBPath", ""), Folder() + repaired);
+    }
     SaveConfig("DBPath", "");
     EXPECT_EQ(ResolveDatabaseFolder(), ProgramFolder() + "\\");
     EXPECT_EQ(GetConfig("DBPath", "unset"), "");
+    SetSettingsFolder(Folder() + "/no settings yet");
+    EXPECT_EQ(ResolveDatabaseFolder(), ProgramFolder() + "\\");
+    EXPECT_EQ(GetConfig("DBPath", "unset"), "unset");
 }
 
 TEST_F(StartTest, AFolderStoredWithABackslashOpens)
@@ -169,44 +146,28 @@ TEST_F(StartTest, AFolderStoredWithABackslashOpens)
     EXPECT_TRUE(Start());
 }
 
-namespace {
-
-struct BadFile {
-    const char* name;
-    void (*make)(const QString& path);
-};
-void PrintTo(const BadFile& file, std::ostream* out)
+TEST_F(StartTest, ABadFileIsToldAndEndsTheStartWithNothingStoredOrMade)
 {
-    *out << file.name;
-}
-
-class BadDatabaseTest : public StartTest, public ::testing::WithParamInterface<BadFile> { };
-
-} // namespace
-
-TEST_P(BadDatabaseTest, IsToldAndEndsTheStartWithNothingStoredOrMade)
-{
+    const std::function<void(const QString&)> bad[] = {[](const QString&) {},
+        [](const QString& path) { WriteFile(path, ""); },
+        [](const QString& path) { WriteFile(path, QByteArray(5000, 'x')); },
+        [](const QString& path) { WriteFile(path, QByteArray("SQLite format 3\0", 16)); },
+        [](const QString& path) { QFile::remove(path) && QDir().mkpath(path); }};
     const QString folder = Folder() + "/bad/";
     QDir().mkpath(folder);
-    GetParam().make(folder + "db.mdb");
     SaveConfig("DBPath", folder);
-    const QStringList before = QDir(folder).entryList();
-
-    ScriptedAnswers answers;
-    answers.ExpectMessage("Unable to open database " + folder + "db.mdb", Icon::Critical);
-    EXPECT_FALSE(Start());
-    EXPECT_EQ(program->Window(), nullptr);
-    EXPECT_EQ(GetConfig("FirstRun", "unset"), "unset");
-    EXPECT_EQ(GetConfig("gcustColWidth0", "unset"), "unset");
-    EXPECT_EQ(QDir(folder).entryList(), before);
+    for (const auto& make : bad) {
+        make(folder + "db.mdb");
+        const QStringList before = QDir(folder).entryList();
+        ScriptedAnswers answers;
+        answers.ExpectMessage("Unable to open database " + folder + "db.mdb", Icon::Critical);
+        EXPECT_FALSE(Start());
+        EXPECT_EQ(program->Window(), nullptr);
+        EXPECT_EQ(GetConfig("FirstRun", "unset"), "unset");
+        EXPECT_EQ(GetConfig("gcustColWidth0", "unset"), "unset");
+        EXPECT_EQ(QDir(folder).entryList(), before);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Files, BadDatabaseTest,
-    ::testing::Values(BadFile{"missing", [](const QString&) {}},
-        BadFile{"folder", [](const QString& path) { QDir().mkpath(path); }},
-        BadFile{"empty", [](const QString& path) { WriteFile(path, ""); }},
-        BadFile{"text", [](const QString& path) { WriteFile(path, QByteArray(5000, 'x')); }},
-        BadFile{"cut short", [](const QString& path) { WriteFile(path, QByteArray("SQLite format 3\0", 16)); }}));
 
 TEST_F(StartTest, ADamagedFileIsToldOfOnceWithItsName)
 {

@@ -13,20 +13,14 @@ namespace {
 class Files : public testing::Test {
 protected:
     QString Path(const QString& name) const { return m_folder.filePath(name); }
-    static void Make(const QString& path)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
 
     QTemporaryDir m_folder;
 };
 
 TEST_F(Files, AFolderMayEndInEitherSeparatorOrNone)
 {
-    EXPECT_EQ(NativePath("/opt/tavrin\\", "db.mdb"), "/opt/tavrin/db.mdb");
-    EXPECT_EQ(NativePath("/opt/tavrin/", "db.mdb"), "/opt/tavrin/db.mdb");
-    EXPECT_EQ(NativePath("/opt/tavrin", "db.mdb"), "/opt/tavrin/db.mdb");
+    for (const char* folder : {"/opt/tavrin\\", "/opt/tavrin/", "/opt/tavrin"})
+        EXPECT_EQ(NativePath(folder, "db.mdb"), "/opt/tavrin/db.mdb");
     EXPECT_EQ(NativePath("/", "db.mdb"), "/db.mdb");
     EXPECT_EQ(NativePath("", "db.mdb"), "db.mdb");
     SetProgramFolder("/opt/tavrin/");

@@ -1,9 +1,9 @@
 #include "base/settings_store.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace {
@@ -38,13 +38,10 @@ TEST_F(SettingsStore, TextsWrittenByHandAreReadWholeAndStayAsTheyAre)
     const QList<std::pair<const char*, const char*>> written = {{"DBPath", "/home/ann,  bob/the shop; old, /"},
         {"PostCode", "a;b"}, {"SalesTaxName", "#1 = VAT, GST"}, {"CostPerNight", "1,5"}, {"Price List", "50%, 100%"},
         {"Odd", ",;,"}};
-    QFile file(m_folder.filePath("Tavrin Inventory.ini"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("; by hand\n[Config]\n");
+    QByteArray lines = "; by hand\n[Config]\n";
     for (const auto& [key, text] : written)
-        file.write(QByteArray(key) + " = " + text + "\n");
-    file.write("[Other]\nDBPath=x,y\n");
-    file.close();
+        lines += QByteArray(key) + " = " + text + "\n";
+    WriteFile(m_folder.filePath("Tavrin Inventory.ini"), lines + "[Other]\nDBPath=x,y\n");
     for (int turn = 0; turn < 2; ++turn) {
         for (const auto& [key, text] : written)
             EXPECT_EQ(GetConfig(key, "absent"), text) << key << turn;
@@ -67,14 +64,7 @@ TEST_F(SettingsStore, EachAddressIsItsOwn)
 TEST_F(SettingsStore, AValueIsOnDiskAtOnce)
 {
     SaveConfig("FirstRun", "False");
-    const QDir folder(m_folder.path());
-    QByteArray all;
-    for (const QString& name : folder.entryList(QDir::Files)) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        all += file.readAll();
-    }
-    EXPECT_TRUE(all.contains("FirstRun=False"));
+    EXPECT_TRUE(ReadFile(m_folder.filePath("Tavrin Inventory.ini")).contains("FirstRun=False"));
 }
 
 TEST_F(SettingsStore, AStoreThatCannotBeReadCountsAsEmpty)

@@ -1,4 +1,5 @@
 #include "chart/chart_scene.h"
+#include "support/golden.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ using Values = std::vector<std::vector<std::optional<double>>>;
 constexpr std::nullopt_t Gap = std::nullopt;
 
 /// Rows of values, with the days of December as their labels.
-ChartData Data(const Values& rows, const QString& dates = QStringLiteral("dd.MM.yyyy"))
+ChartData Data(const Values& rows, const QString& dates = QString("dd.MM.yyyy"))
 {
     ChartData data;
     data.Resize(int(rows.size()), rows.empty() ? 0 : int(rows.front().size()));
@@ -31,7 +32,7 @@ ChartData Data(const Values& rows, const QString& dates = QStringLiteral("dd.MM.
 
 ChartScene Scene(const ChartData& data, ChartType type, QSizeF size = {900, 500}, bool rightToLeft = false)
 {
-    static const QFontMetricsF metrics{QFont(QStringLiteral("Liberation Sans"), 9)};
+    static const QFontMetricsF metrics{QFont(QString("Liberation Sans"), 9)};
     ChartRequest request;
     request.type = type;
     request.size = size;
@@ -59,10 +60,34 @@ QPolygonF Seen(const ChartText& text)
     return turn.map(QPolygonF(text.box.translated(-text.pivot)));
 }
 
-int Count(const ChartScene& scene, FaceKind kind)
+/// The picture in letters, as it is painted: the first series "A" on its fronts and "a" on its sides, the second "B"
+/// and "b", a line as the number of its series, and the texts that are not turned.
+QString Drawn(const ChartScene& scene)
 {
-    return int(std::count_if(
-        scene.shapes.faces.begin(), scene.shapes.faces.end(), [kind](const Face& face) { return face.kind == kind; }));
+    constexpr int Width = 6, Height = 13;
+    QStringList rows(int(scene.size.height()) / Height, QString(int(scene.size.width()) / Width, ' '));
+    const auto put = [&rows](QPointF place, QChar letter) {
+        const int row = int(place.y()) / Height, column = int(place.x()) / Width;
+        if (row >= 0 && row < rows.size() && column >= 0 && column < rows[row].size())
+            rows[row][column] = letter;
+    };
+    for (const Face& face : scene.shapes.faces) {
+        const bool isLine = face.kind == FaceKind::Line;
+        for (qsizetype i = 0; isLine && i + 1 < face.outline.size(); ++i)
+            for (int step = 0; step <= 100; ++step)
+                put(QLineF(face.outline[i], face.outline[i + 1]).pointAt(step / 100.0), QChar('1' + face.column));
+        const QChar letter((face.kind == FaceKind::Front ? 'A' : 'a') + face.column);
+        for (double y = Height / 2.0; y < scene.size.height() && !isLine && face.kind != FaceKind::Ridge; y += Height)
+            for (double x = Width / 2.0; x < scene.size.width(); x += Width)
+                if (QPolygonF(face.outline).containsPoint({x, y}, Qt::OddEvenFill))
+                    put({x, y}, letter);
+    }
+    for (const ChartText& text : scene.texts)
+        for (qsizetype i = 0; i < text.text.size() && text.degrees == 0; ++i)
+            put({text.box.left() + double(i) * Width, text.box.center().y()}, text.text[i]);
+    for (QString& row : rows)
+        row = ('|' + row).trimmed();
+    return rows.join('\n') + '\n';
 }
 
 class EveryType : public testing::TestWithParam<ChartType> { };
@@ -72,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(ChartTypes, EveryType,
 
 TEST_P(EveryType, LabelsNeverTouchAndStayInThePicture)
 {
-    const QString longDates = QStringLiteral("yyyy. MM. dd.");
+    const QString longDates = QString("yyyy. MM. dd.");
     for (const bool rightToLeft : {false, true})
         for (const int rows : {1, 2, 12, 31})
             for (const double width : {200, 330, 481, 620, 900, 1600}) {
@@ -110,40 +135,6 @@ TEST_P(EveryType, HoldsAnyDataWithinThePicture)
         }
 }
 
-TEST_P(EveryType, ShowsItsOwnShapesExactlyBetweenBaseAndValue)
-{
-    const ChartScene scene = Scene(Data({{4.0}, {0.0}, {-3.0}, {5.0}, {Gap}, {2.0}}), GetParam());
-    const double base = scene.room.Y(0);
-    EXPECT_EQ(Count(scene, FaceKind::Side) > 0, HasDepth(GetParam()));
-    EXPECT_EQ(scene.room.depth != QPointF(), HasDepth(GetParam()));
-    EXPECT_NEAR(scene.Place({1, 0})->y(), base + scene.shapes.lanes[0].y(), 0.5);
-    EXPECT_NEAR(scene.Place({3, 0})->y(), scene.room.front.top() + scene.shapes.lanes[0].y(), 0.5);
-    EXPECT_FALSE(scene.Place({4, 0}));
-    bool slopes = false;
-    for (const Face& face : scene.shapes.faces) {
-        if (face.kind == FaceKind::Side) {
-            EXPECT_EQ(face.outline[1] - face.outline[0], face.outline[2] - face.outline[3]);
-            EXPECT_NE(face.outline[0].y(), face.outline[3].y());
-            continue;
-        }
-        for (qsizetype i = 0; i + 1 < face.outline.size(); ++i) {
-            const QPointF edge = face.outline[i + 1] - face.outline[i];
-            slopes |= edge.x() != 0 && edge.y() != 0;
-        }
-        if (face.kind == FaceKind::Front) {
-            for (const QPointF& corner : face.outline.last(2))
-                EXPECT_NEAR(corner.y(), base + scene.shapes.lanes[0].y(), 0.5);
-        }
-    }
-    const ChartFamily family = FamilyOf(GetParam());
-    EXPECT_EQ(slopes, family == ChartFamily::Line || family == ChartFamily::Area);
-    EXPECT_EQ(Count(scene, FaceKind::Front) == 0, family == ChartFamily::Line);
-    EXPECT_TRUE(family != ChartFamily::Bar || Count(scene, FaceKind::Front) == 5);
-    // A stroke for each stretch between gaps.
-    EXPECT_EQ(Count(scene, FaceKind::Line) == 2,
-        family == ChartFamily::Line || (family != ChartFamily::Bar && !HasDepth(GetParam())));
-}
-
 TEST_P(EveryType, TheMousePointsAtTheValueThatIsDrawnThere)
 {
     for (const bool rightToLeft : {false, true}) {
@@ -159,99 +150,21 @@ TEST_P(EveryType, TheMousePointsAtTheValueThatIsDrawnThere)
     }
 }
 
-TEST(ChartShapes, AreHitInTheMiddleOfTheirFaces)
+TEST(ChartPictures, AreDrawnFromTheBackToTheFront)
 {
-    const ChartScene scene = Scene(Data({{9.0, 3.0}, {6.0, 8.0}}), VtChChartType3dBar);
-    for (const Face& face : scene.shapes.faces) {
-        const QPointF middle = QPolygonF(face.outline).boundingRect().center();
-        // The right side of the first bar may stand behind the second.
-        EXPECT_TRUE(face.kind == FaceKind::Side || scene.PointAt(middle) == ChartPoint({face.firstRow, face.column}));
-    }
-}
-
-/// The face that was painted last at a place.
-const Face* Painted(const ChartScene& scene, QPointF place)
-{
-    const Face* top = nullptr;
-    for (const Face& face : scene.shapes.faces)
-        if (face.kind != FaceKind::Ridge && QPolygonF(face.outline).containsPoint(place, Qt::OddEvenFill))
-            top = &face;
-    return top;
-}
-
-/// Where the line of sight through a place first meets a solid: its front, and the place on the front of the room's
-/// plane that slides back to there.
-struct Meeting {
-    const Face* front = nullptr;
-    QPointF onFront;
-    double depth = 2;
-    bool isFront = false;
-};
-
-Meeting Nearest(const ChartScene& scene, QPointF place)
-{
-    constexpr int Steps = 150;
-    Meeting nearest;
-    for (const Face& front : scene.shapes.faces) {
-        if (front.kind != FaceKind::Front)
+    QString pictures;
+    for (int type = VtChChartType3dBar; type <= VtChChartType2dStep; ++type) {
+        const ChartData data = Data({{4.0, 3.0}, {0.0, -2.0}, {-3.0, 5.0}, {5.0, 1.0}, {Gap, 2.0}, {2.0, 6.0}}, "dd");
+        ChartScene scene = Scene(data, ChartType(type), {480, 260});
+        pictures += QString("== type %1\n").arg(type) + Drawn(scene);
+        if (!HasDepth(scene.type))
             continue;
-        const auto side = std::find_if(scene.shapes.faces.begin(), scene.shapes.faces.end(),
-            [&](const Face& face) { return face.kind == FaceKind::Side && face.column == front.column; });
-        const QPointF extent = side->outline[3] - side->outline[0];
-        for (int i = 0; i <= Steps; ++i) {
-            const QPointF back = extent * i / Steps;
-            const double depth = (scene.shapes.lanes[size_t(front.column)] + back).x() / scene.room.depth.x();
-            if (depth >= nearest.depth || !QPolygonF(front.outline).containsPoint(place - back, Qt::OddEvenFill))
-                continue;
-            nearest = {&front, place - back, depth, i == 0};
-            break;
-        }
+        // So deep that the sides of one solid reach across several rows and over each other.
+        scene.room.depth = {110, -55};
+        scene.shapes = BuildShapes(data, scene.type, scene.room);
+        pictures += QString("== type %1, deep\n").arg(type) + Drawn(scene);
     }
-    return nearest;
-}
-
-/// Whether a place lies on the front edge of a side, as near as the steps of the search are.
-bool IsOnFrontEdge(const Face& side, QPointF place)
-{
-    const QLineF edge(side.outline[0], side.outline[1]);
-    return edge.length() == 0
-        || std::abs(edge.dx() * (place.y() - edge.y1()) - edge.dy() * (place.x() - edge.x1())) / edge.length() < 1;
-}
-
-class SolidType : public testing::TestWithParam<ChartType> { };
-INSTANTIATE_TEST_SUITE_P(
-    ChartTypes, SolidType, testing::Values(VtChChartType3dBar, VtChChartType3dArea, VtChChartType3dStep));
-
-TEST_P(SolidType, WhatIsNearerIsPaintedOverWhatIsFurther)
-{
-    Values rows;
-    for (int row = 0; row < 24; ++row)
-        rows.push_back({(row * 7) % 13 - 4.5, -0.3 - (row * 5) % 11});
-    const ChartData data = Data(rows);
-    ChartScene scene = Scene(data, GetParam(), {500, 400});
-    // So deep that the sides of one solid reach across several rows and over each other.
-    scene.room.depth = {110, -55};
-    scene.shapes = BuildShapes(data, GetParam(), scene.room);
-    int compared = 0;
-    for (double y = 5; y < 400; y += 8.9)
-        for (double x = 5; x < 620; x += 10.7) {
-            const Face* painted = Painted(scene, {x, y});
-            bool isEdge = false;
-            for (const QPointF beside : {QPointF(1.5, 0), QPointF(-1.5, 0), QPointF(0, 1.5), QPointF(0, -1.5)})
-                isEdge |= Painted(scene, QPointF(x, y) + beside) != painted;
-            if (isEdge)
-                continue;
-            const Meeting nearest = Nearest(scene, {x, y});
-            ASSERT_EQ(painted != nullptr, nearest.front != nullptr) << x << ", " << y;
-            if (!painted)
-                continue;
-            ++compared;
-            ASSERT_EQ(painted->column, nearest.front->column) << x << ", " << y;
-            ASSERT_EQ(painted->firstRow, nearest.front->firstRow) << x << ", " << y;
-            ASSERT_EQ(painted->kind == FaceKind::Front, nearest.isFront) << x << ", " << y;
-            ASSERT_TRUE(nearest.isFront || IsOnFrontEdge(*painted, nearest.onFront)) << x << ", " << y;
-        }
-    EXPECT_GT(compared, 150);
+    ExpectGolden(pictures, "charts.txt");
 }
 
 } // namespace

@@ -40,15 +40,15 @@ void Fill(Chart& chart)
 {
     chart.SetColumnCount(2);
     chart.SetRowCount(3);
-    const QStringList labels{QStringLiteral("Jan-2026"), QStringLiteral("<b>Feb</b>"), QStringLiteral("Mar-2026")};
-    const QStringList first{QStringLiteral("12"), QStringLiteral("1,234.5"), QStringLiteral("7")};
-    const QStringList second{QStringLiteral("3"), QString(), QStringLiteral("0")};
+    const QStringList labels{"Jan-2026", "<b>Feb</b>", "Mar-2026"};
+    const QStringList first{"12", "1,234.5", "7"};
+    const QStringList second{"3", QString(), "0"};
     for (int row = 1; row <= 3; ++row) {
         Cell(chart, row, 1).SetData(first[row - 1]);
         Cell(chart, row, 2).SetData(second[row - 1]);
         chart.SetRowLabel(labels[row - 1]);
     }
-    Cell(chart, 1, 2).SetColumnLabel(QStringLiteral("Screws"));
+    Cell(chart, 1, 2).SetColumnLabel("Screws");
 }
 
 TEST(ChartCells, KeepWhatTheyHoldWhenTheCountsAndTheTypeChange)
@@ -60,17 +60,17 @@ TEST(ChartCells, KeepWhatTheyHoldWhenTheCountsAndTheTypeChange)
     chart.SetColumnCount(2);
     chart.SetChartType(VtChChartType2dStep);
 
-    EXPECT_EQ(Cell(chart, 2, 1).Data(), QStringLiteral("1234.5"));
-    EXPECT_EQ(chart.RowLabel(), QStringLiteral("<b>Feb</b>"));
+    EXPECT_EQ(Cell(chart, 2, 1).Data(), "1234.5");
+    EXPECT_EQ(chart.RowLabel(), "<b>Feb</b>");
     EXPECT_EQ(Cell(chart, 1, 2).Data(), QString());
     EXPECT_THROW(chart.SetRow(3), RuntimeError);
     EXPECT_THROW(chart.SetColumn(0), RuntimeError);
     EXPECT_THROW(chart.SetRowCount(-1), RuntimeError);
-    EXPECT_THROW(chart.SetData(QStringLiteral("many")), RuntimeError);
+    EXPECT_THROW(chart.SetData("many"), RuntimeError);
     EXPECT_EQ(chart.Data(), QString());
     SetRegional(QLocale(QLocale::German, QLocale::Germany));
-    chart.SetData(QStringLiteral("7,5"));
-    EXPECT_EQ(chart.Data(), QStringLiteral("7,5"));
+    chart.SetData("7,5");
+    EXPECT_EQ(chart.Data(), "7,5");
 }
 
 /// Counts how often a widget is painted.
@@ -125,15 +125,15 @@ TEST(ChartReading, ArrowKeysWalkTheValuesOverGapsAndTellThem)
         Press(&chart, key);
         return QToolTip::text();
     };
-    EXPECT_TRUE(tipAfter(Qt::Key_Right).contains(QStringLiteral("Jan-2026, Series 1: 12")));
-    EXPECT_TRUE(tipAfter(Qt::Key_Right).contains(QStringLiteral("&lt;b&gt;Feb&lt;/b&gt;, Series 1: 1,234.5")));
-    EXPECT_TRUE(tipAfter(Qt::Key_Home).contains(QStringLiteral("Jan-2026, Series 1: 12")));
-    EXPECT_TRUE(tipAfter(Qt::Key_Down).contains(QStringLiteral("Jan-2026, Screws: 3")));
-    EXPECT_TRUE(tipAfter(Qt::Key_Right).contains(QStringLiteral("Mar-2026, Screws: 0")));
-    tipAfter(Qt::Key_Right);
+    const std::pair<Qt::Key, const char*> walk[] = {{Qt::Key_Right, "Jan-2026, Series 1: 12"},
+        {Qt::Key_Right, "&lt;b&gt;Feb&lt;/b&gt;, Series 1: 1,234.5"}, {Qt::Key_Home, "Jan-2026, Series 1: 12"},
+        {Qt::Key_Down, "Jan-2026, Screws: 3"}, {Qt::Key_Right, "Mar-2026, Screws: 0"},
+        {Qt::Key_Right, "Mar-2026, Screws: 0"}};
+    for (const auto& [key, tip] : walk)
+        EXPECT_TRUE(tipAfter(key).contains(tip)) << tip;
     EXPECT_EQ(chart.MarkedPoint(), ChartPoint({2, 1}));
     chart.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_TRUE(tipAfter(Qt::Key_Right).contains(QStringLiteral("Jan-2026, Screws: 3")));
+    EXPECT_TRUE(tipAfter(Qt::Key_Right).contains("Jan-2026, Screws: 3"));
     chart.SetRowCount(0);
     QCoreApplication::processEvents();
     EXPECT_FALSE(chart.MarkedPoint());
@@ -146,7 +146,7 @@ TEST(ChartReading, TheMouseOverAValueTellsIt)
     Fill(chart);
     Shown(&chart);
     QTest::mouseMove(&chart, chart.PointRect({1, 0}).center() + QPoint(0, 30));
-    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("1,234.5")));
+    EXPECT_TRUE(QToolTip::text().contains("1,234.5"));
     QTest::mouseClick(&chart, Qt::LeftButton, {}, chart.PointRect({0, 0}).center());
     EXPECT_EQ(chart.MarkedPoint(), ChartPoint({0, 0}));
 }
@@ -161,18 +161,18 @@ TEST(ChartReading, AScreenReaderGetsATableOfTheData)
     const auto text = [&](int row, int column) { return table->cellAt(row, column)->text(QAccessible::Name); };
     EXPECT_EQ(table->rowCount(), 3);
     EXPECT_EQ(table->columnCount(), 3);
-    EXPECT_EQ(table->columnDescription(2), QStringLiteral("Screws"));
-    EXPECT_EQ(text(1, 0), QStringLiteral("<b>Feb</b>"));
-    EXPECT_EQ(text(1, 1), QStringLiteral("1,234.5"));
+    EXPECT_EQ(table->columnDescription(2), "Screws");
+    EXPECT_EQ(text(1, 0), "<b>Feb</b>");
+    EXPECT_EQ(text(1, 1), "1,234.5");
     EXPECT_EQ(text(1, 2), QString());
     EXPECT_EQ(reader->indexOfChild(reader->child(5)), 5);
-    EXPECT_EQ(reader->text(QAccessible::Value).split(u'\n').at(2), QStringLiteral("Mar-2026: Series 1: 7; Screws: 0"));
-    EXPECT_EQ(reader->text(QAccessible::Description), QStringLiteral("3D bar chart, Jan-2026 to Mar-2026"));
+    EXPECT_EQ(reader->text(QAccessible::Value).split(u'\n').at(2), "Mar-2026: Series 1: 7; Screws: 0");
+    EXPECT_EQ(reader->text(QAccessible::Description), "3D bar chart, Jan-2026 to Mar-2026");
 
-    Cell(chart, 2, 1).SetData(QStringLiteral("5"));
+    Cell(chart, 2, 1).SetData("5");
     chart.SetRowCount(2);
     QCoreApplication::processEvents();
-    EXPECT_EQ(text(1, 1), QStringLiteral("5"));
+    EXPECT_EQ(text(1, 1), "5");
     EXPECT_EQ(table->rowCount(), 2);
     EXPECT_EQ(table->cellAt(2, 0), nullptr);
 }
@@ -187,13 +187,13 @@ TEST(ChartPicture, IsSavedAsPngOrSvgByTheNameAndNothingIsLeftOfAFailure)
         ScriptedAnswers answers;
         const QString path = folder.filePath(QLatin1String(name));
         answers.ExpectSaveFile(path);
-        if (path.contains(QStringLiteral("gone")))
+        if (path.contains("gone"))
             answers.ExpectMessage(QStringLiteral("The chart could not be saved as %1.").arg(path), Icon::Critical);
         chart.SaveAs();
         return path;
     };
     EXPECT_EQ(QImage(saveAs("a.png")).size(), QSize(800, 500));
-    EXPECT_FALSE(QImage(saveAs("b") + QStringLiteral(".png")).isNull());
+    EXPECT_FALSE(QImage(saveAs("b") + ".png").isNull());
     QFile svg(saveAs("c.SVG"));
     ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
     const QByteArray drawing = svg.readAll();
@@ -202,8 +202,7 @@ TEST(ChartPicture, IsSavedAsPngOrSvgByTheNameAndNothingIsLeftOfAFailure)
     EXPECT_EQ(renderer.viewBox(), QRect(0, 0, 400, 250));
     saveAs("gone/d.svg");
     saveAs("gone/e.png");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
-        QStringList({QStringLiteral("a.png"), QStringLiteral("b.png"), QStringLiteral("c.SVG")}));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList({"a.png", "b.png", "c.SVG"}));
 }
 
 TEST(ChartPicture, IsCopiedAndPrintedFromTheMenu)
@@ -221,7 +220,7 @@ TEST(ChartPicture, IsCopiedAndPrintedFromTheMenu)
     menu->close();
 
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("chart.pdf"));
+    const QString file = folder.filePath("chart.pdf");
     CurrentPrinter().setOutputFormat(QPrinter::PdfFormat);
     CurrentPrinter().setOutputFileName(file);
     {
@@ -232,16 +231,16 @@ TEST(ChartPicture, IsCopiedAndPrintedFromTheMenu)
         EXPECT_FALSE(QFile::exists(file));
         menu->actions().last()->trigger();
         EXPECT_GT(QFile(file).size(), 1000);
-        CurrentPrinter().setOutputFileName(folder.filePath(QStringLiteral("gone/chart.pdf")));
+        CurrentPrinter().setOutputFileName(folder.filePath("gone/chart.pdf"));
         answers.ExpectPrint(true);
-        answers.ExpectMessage(QStringLiteral("The chart could not be printed."), Icon::Critical);
+        answers.ExpectMessage("The chart could not be printed.", Icon::Critical);
         chart.Print();
     }
     CurrentPrinter().setOutputFileName(QString());
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
         return;
     WhenFormShows<QMessageBox>([](QMessageBox& box) {
-        EXPECT_TRUE(box.text().startsWith(QStringLiteral("No printer is installed.")));
+        EXPECT_TRUE(box.text().startsWith("No printer is installed."));
         QTest::keyClick(&box, Qt::Key_Return);
     });
     chart.Print();

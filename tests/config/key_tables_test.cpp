@@ -34,19 +34,8 @@ struct KeyDialog {
     std::string Button(const char* what) const { return std::string(groups ? "cmdCat" : "cmd") + what; }
     QString DetailsName() const { return QStringLiteral("frmAdd") + QString(noun).remove(' ').remove('-'); }
 
-    QString NothingToEdit() const
-    {
-        return QStringLiteral("No %1 has been selected to edit. Please select a %1 and try again.").arg(noun);
-    }
-    QString NothingToRemove() const { return QStringLiteral("Please select a %1 to remove.").arg(noun); }
-    QString InUse() const
-    {
-        return QStringLiteral("This %1 is in use by one or more %2 and so cannot be deleted. To delete this %3 first "
-                              "remove the %2 and then try again.")
-            .arg(noun, users, nounAsMisspelt);
-    }
-    QString Question() const { return QStringLiteral("Are you sure you want to delete this %1?").arg(noun); }
-    QString NameMissing() const { return QStringLiteral("Please enter a %1 name to continue.").arg(noun); }
+    /// A message with its nouns: %1 of the row, %2 of what uses it, %3 of the row as it is misspelt there.
+    QString Said(const char* message) const { return QString(message).arg(noun, users, nounAsMisspelt); }
 };
 
 void PrintTo(const KeyDialog& dialog, std::ostream* out)
@@ -119,33 +108,37 @@ protected:
 
 TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemove)
 {
+    const QString nothingToEdit = GetParam().Said("No %1 has been selected to edit. Please select a %1 and try again.");
     Run(GetParam().emptied);
     Open();
-    answers.ExpectMessage(GetParam().NothingToEdit(), Icon::Critical);
+    answers.ExpectMessage(nothingToEdit, Icon::Critical);
     Press("Edit");
-    answers.ExpectMessage(GetParam().NothingToRemove(), Icon::Critical);
+    answers.ExpectMessage(GetParam().Said("Please select a %1 to remove."), Icon::Critical);
     Press("Remove");
     if (List()) {
-        answers.ExpectMessage(GetParam().NothingToEdit(), Icon::Critical);
+        answers.ExpectMessage(nothingToEdit, Icon::Critical);
         QTest::mouseDClick(List()->viewport(), Qt::LeftButton);
     }
 }
 
 TEST_P(KeyTablesTest, ARowInUseIsRefusedAndAnotherGoesOnYesAlone)
 {
+    const QString question = GetParam().Said("Are you sure you want to delete this %1?");
+    const QString inUse = GetParam().Said("This %1 is in use by one or more %2 and so cannot be deleted. To delete "
+                                          "this %3 first remove the %2 and then try again.");
     OpenOverOneRow();
     const qint64 before = RowCount();
     Run(GetParam().use);
-    answers.ExpectMessage(GetParam().InUse(), Icon::Critical);
+    answers.ExpectMessage(inUse, Icon::Critical);
     Press("Remove");
     Run(GetParam().unuse);
 
     for (const Answer answer : {Answer::No, Answer::Cancel}) {
-        answers.Expect(GetParam().Question(), Icon::Question, Buttons::YesNoCancel, answer);
+        answers.Expect(question, Icon::Question, Buttons::YesNoCancel, answer);
         Press("Remove");
         EXPECT_EQ(RowCount(), before);
     }
-    answers.Expect(GetParam().Question(), Icon::Question, Buttons::YesNoCancel, Answer::Yes);
+    answers.Expect(question, Icon::Question, Buttons::YesNoCancel, Answer::Yes);
     Press("Remove");
     EXPECT_EQ(RowCount(), before - 1);
     EXPECT_EQ(Name(), "");
@@ -160,7 +153,7 @@ TEST_P(KeyTablesTest, ANewRowNeedsANameAndIsListed)
     WhenDetailsShow([&](NameForm& details) {
         CheckForm(details);
         EXPECT_EQ(details.txtName->text(), "");
-        answers.ExpectMessage(GetParam().NameMissing(), Icon::Critical);
+        answers.ExpectMessage(GetParam().Said("Please enter a %1 name to continue."), Icon::Critical);
         Click(details.cmdOK);
         EXPECT_TRUE(details.isVisible() && details.txtName->hasFocus());
         Type(details.txtName, odd);

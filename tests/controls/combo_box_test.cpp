@@ -66,19 +66,15 @@ TEST_F(Combo, TheUsersPicksAndStepsFireOneClickEach)
     combo.AddItems({{"Able", 1}, {"Baker", 2}, {"Charlie", 3}});
     Shown(&combo);
     EXPECT_EQ(combo.ListIndex(), -1);
+    QStringList chosen;
+    QObject::connect(&combo, &ComboBox::Click, &combo, [&] { chosen.append(combo.Text()); });
     Pick(&combo, "Baker");
-    EXPECT_EQ(combo.SelectedData(), 2);
-    EXPECT_EQ(clicks.size(), 1);
     Pick(&combo, "Baker");
-    EXPECT_EQ(clicks.size(), 2) << "the same entry again";
     Press(&combo, Qt::Key_Down);
-    EXPECT_EQ(combo.SelectedData(), 3);
-    EXPECT_EQ(clicks.size(), 3);
     Press(&combo, Qt::Key_Down);
-    EXPECT_EQ(clicks.size(), 3) << "no step past the end";
     QTest::keyClick(&combo, 'a');
-    EXPECT_EQ(combo.Text(), "Able");
-    EXPECT_EQ(clicks.size(), 4);
+    EXPECT_EQ(chosen, QStringList({"Baker", "Baker", "Charlie", "Able"})) << "no step past the end";
+    EXPECT_EQ(combo.SelectedData(), 1);
 }
 
 TEST_F(Combo, AHundredThousandEntriesOpenAndSearchAtOnce)
@@ -102,7 +98,6 @@ TEST_F(Combo, AHundredThousandEntriesOpenAndSearchAtOnce)
     SelectComboByData(&combo, 99999);
     EXPECT_EQ(combo.ListIndex(), 99999);
     EXPECT_LT(timer.elapsed(), 2000) << "generous for slow builds";
-    RecordProperty("milliseconds", int(timer.elapsed()));
 }
 
 TEST_F(Combo, TheWheelChangesNothingWithoutTheFocus)

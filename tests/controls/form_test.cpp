@@ -33,26 +33,20 @@ public:
     frmSample()
         : Form("frmSample", "Sample", nullptr)
     {
-        chkTaxed->setText("&Taxed");
-        cmdOther->setText("&Other");
-        cmdOK->setText("OK");
-        cmdCancel->setText("Cancel");
+        for (auto [button, text] : {std::pair<QAbstractButton*, const char*>(chkTaxed, "&Taxed"), {cmdOther, "&Other"},
+                 {cmdOK, "OK"}, {cmdCancel, "Cancel"}}) {
+            button->setText(text);
+            On(button, &QPushButton::clicked, this, [this, button = button] { done << button->text(); });
+        }
         dtDue->SetCheckBox(true);
         setLayout(column({
             instructions("Instructions - fill in the form and then click OK."),
             row({stretch(), cmdOK, cmdCancel, cmdOther}),
-            fields({
-                {"Not&es:", txtNotes},
-                {"&Due:", dtDue},
-                {"&Name:", txtName},
-                {"&Field:", row({cboField_3, chkTaxed})},
-            }),
+            fields({{"Not&es:", txtNotes}, {"&Due:", dtDue}, {"&Name:", txtName},
+                {"&Field:", row({cboField_3, chkTaxed})}}),
         }));
         cmdOK->setDefault(true);
         SetCancelButton(cmdCancel);
-        On(cmdOK, &QPushButton::clicked, this, [this] { done << "ok"; });
-        On(cmdOther, &QPushButton::clicked, this, [this] { done << "other"; });
-        On(cmdCancel, &QPushButton::clicked, this, [this] { done << "cancel"; });
     }
 
     QStringList done;
@@ -73,11 +67,11 @@ TEST(Forms, AClickThatComesAfterTheFormHasClosedDoesNothing)
     clickLate();
     form.accept();
     clickLate();
-    EXPECT_EQ(form.done, QStringList{"ok"});
+    EXPECT_EQ(form.done, QStringList{"OK"});
     Shown(&form);
     EXPECT_TRUE(form.txtName->hasFocus());
     clickLate();
-    EXPECT_EQ(form.done, QStringList({"ok", "ok"}));
+    EXPECT_EQ(form.done, QStringList({"OK", "OK"}));
 }
 
 TEST(Forms, TabFollowsTheOrderOfDeclaration)
@@ -101,14 +95,14 @@ TEST(Forms, EnterRunsTheDefaultButtonOrTheButtonWithTheFocus)
     Shown(&form);
     Press(form.txtName, Qt::Key_Return);
     Press(form.cboField_3, Qt::Key_Enter, Qt::KeypadModifier);
-    EXPECT_EQ(form.done, QStringList({"ok", "ok"}));
+    EXPECT_EQ(form.done, QStringList({"OK", "OK"}));
     Press(form.cmdOther, Qt::Key_Return);
-    EXPECT_EQ(form.done.last(), "other");
+    EXPECT_EQ(form.done.last(), "&Other");
     Press(form.txtNotes, Qt::Key_Return);
     EXPECT_EQ(form.done.size(), 3) << "a box of several lines keeps Enter for itself";
     SetDefaultButton(form.cmdOther, true);
     Press(form.txtName, Qt::Key_Return);
-    EXPECT_EQ(form.done.last(), "other");
+    EXPECT_EQ(form.done.last(), "&Other");
     SetDefaultButton(form.cmdOther, false);
     Press(form.txtName, Qt::Key_Return);
     EXPECT_EQ(form.done.size(), 4) << "no default button: Enter runs none";
@@ -119,14 +113,11 @@ TEST(Forms, EscClicksTheCancelButtonAndTheFormCloses)
     frmSample form;
     WhenFormShows<frmSample>([](frmSample& shown) { Press(shown.txtName, Qt::Key_Escape); });
     form.ShowModal();
-    EXPECT_EQ(form.done, QStringList({"cancel"}));
+    EXPECT_EQ(form.done, QStringList({"Cancel"}));
     EXPECT_EQ(form.result(), QDialog::Rejected);
     WhenFormShows<frmSample>([](frmSample& shown) { shown.close(); });
     form.ShowModal();
     EXPECT_EQ(form.done.size(), 1) << "the window's close button does not run it";
-    WhenFormShows<frmSample>([](frmSample& shown) { Click(shown.cmdCancel); });
-    form.ShowModal();
-    EXPECT_FALSE(form.isVisible());
 }
 
 TEST(Forms, AnErrorInAHandlerEndsTheProgramAndNothingElseRuns)
@@ -139,7 +130,7 @@ TEST(Forms, AnErrorInAHandlerEndsTheProgramAndNothingElseRuns)
     EXPECT_EQ(end.Number(), 13);
     form.show();
     form.cmdOK->click();
-    EXPECT_EQ(form.done, QStringList({"other"}));
+    EXPECT_EQ(form.done, QStringList({"&Other"}));
 }
 
 class SamplePanel : public Panel {
@@ -231,11 +222,10 @@ TEST(MessageBoxes, AYesNoQuestionMustBeAnswered)
 
 TEST(MessageBoxes, EscCancelsWhereThereIsACancel)
 {
-    const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
-    WhenFormShows<QMessageBox>(escape);
-    EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, Buttons::YesNoCancel), Answer::Cancel);
-    WhenFormShows<QMessageBox>(escape);
-    EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, Buttons::OkCancel), Answer::Cancel);
+    for (const Buttons buttons : {Buttons::YesNoCancel, Buttons::OkCancel}) {
+        WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, buttons), Answer::Cancel);
+    }
     WhenFormShows<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Backup");
         QTest::keyClick(&box, Qt::Key_Return);

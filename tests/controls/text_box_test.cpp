@@ -38,7 +38,7 @@ TEST(TextBoxes, KeepTheirSelectionWhileAMenuIsUsedByKeys)
     QMainWindow window;
     auto* box = new TextBox(&window);
     window.setCentralWidget(box);
-    QObject::connect(window.menuBar()->addMenu("&Edit")->addAction("Cu&t"), &QAction::triggered, box, &TextBox::cut);
+    window.menuBar()->addMenu("&Edit")->addAction("Cu&t", box, &TextBox::cut);
     Shown(&window);
     box->setText("hello");
     box->FocusAll();

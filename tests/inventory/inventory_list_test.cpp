@@ -12,13 +12,7 @@ protected:
         panel->RefreshInventoryList(1, 0);
         ShowPanel();
     }
-    QStringList Names() const
-    {
-        QStringList names;
-        for (const QStringList& row : GridRows(panel->gInventory))
-            names.append(row[1]);
-        return names;
-    }
+    QStringList Names() const { return GridColumn(panel->gInventory, 1); }
 };
 
 TEST_F(InventoryListTest, EachPriceListShowsTheItemsThatHaveAPriceInItOrNoPriceAtAll)

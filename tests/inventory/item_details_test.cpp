@@ -107,16 +107,11 @@ TEST_F(ItemDetails, AStoredItemShowsWhole)
     CheckForm(*form);
 }
 
-TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOne)
+TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOneAndANullOrALocationThatIsGoneEndsTheProgram)
 {
     WarehouseRow("A Shed");
-    const int item = Item("Saw").Location(LocationRow(0, "Nowhere")).SubCategory(999).Add();
-    Open(item);
+    Open(Item("Saw").Location(LocationRow(0, "Nowhere")).SubCategory(999).Add());
     EXPECT_EQ(Lists(), QStringList({"", "", "N/A", "N/A", "Default Warehouse", "N/A"})) << "the sub-category is gone";
-}
-
-TEST_F(ItemDetails, ANullLevelAndALocationThatIsGoneEndTheProgram)
-{
     const auto errorOf = [this](const char* column, const char* value) {
         const int item = Item("Saw").Add();
         Run(QString("UPDATE item SET %1 = %2 WHERE id = %3").arg(column, value).arg(item));

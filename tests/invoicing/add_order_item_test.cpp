@@ -1,9 +1,6 @@
 #include "invoicing/add_order_item.h"
 
-#include "support/form_check.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
+#include "support/form_test.h"
 
 namespace {
 
@@ -37,17 +34,13 @@ protected:
     /// The names of the items found, sorted: the statement leaves their order open.
     static QStringList Found(const frmAddOrderItem& form)
     {
-        QStringList names;
-        for (const QStringList& row : GridRows(form.gItems))
-            names.append(row.at(1));
+        QStringList names = GridColumn(form.gItems, 1);
         names.sort();
         return names;
     }
     static void SelectItem(frmAddOrderItem& form, const QString& name)
     {
-        for (int row = 1; row < form.gItems->Rows(); ++row)
-            if (form.gItems->TextMatrix(row, 1) == name)
-                ClickRow(form.gItems, row);
+        ClickRow(form.gItems, 1 + int(GridColumn(form.gItems, 1).indexOf(name)));
     }
 
     int tools = 0, hand = 0, power = 0, trade = 0;
@@ -74,7 +67,7 @@ TEST_F(AddOrderItem, OpensWithAllItemsAtThePricesOfTheInvoicesList)
     CheckForm(*form);
 }
 
-TEST_F(AddOrderItem, CategoriesLeadToTheirSubCategories)
+TEST_F(AddOrderItem, SearchesByCategoryAndByEnterInAField)
 {
     const auto form = Form();
     EXPECT_EQ(Entries(form->cboCategory), (QStringList{"All Categories", "No Category", "Tools"}));
@@ -91,11 +84,8 @@ TEST_F(AddOrderItem, CategoriesLeadToTheirSubCategories)
     EXPECT_EQ(form->cboSubCategory->Text(), "All Sub-Categories");
     Click(form->cmdSearch);
     EXPECT_EQ(Found(*form), QStringList{"Glue"});
-}
 
-TEST_F(AddOrderItem, EnterInASearchFieldSearches)
-{
-    const auto form = Form();
+    Pick(form->cboCategory, "All Categories");
     Type(form->txtItemDescription, "o'brien");
     Press(form->txtItemDescription, Qt::Key_Return);
     EXPECT_EQ(Found(*form), QStringList{"Drill"});
@@ -118,6 +108,13 @@ TEST_F(AddOrderItem, ATypedPriceOverridesTheListAndEnterAddsTheItem)
     EXPECT_EQ(frmAddOrderItem::SelectedItemID, hammer);
     EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 2) << "half to even";
     EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Money("10.25"));
+
+    const auto again = Form();
+    Type(again->txtQuantityToAdd, "abc");
+    Type(again->txtItemPrice, "dear");
+    Click(again->cmdOk);
+    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 1) << "bad numbers count as one piece at no price";
+    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Currency());
 }
 
 TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
@@ -136,16 +133,6 @@ TEST_F(AddOrderItem, MoreThanIsInStockIsRefused)
     DoubleClickRow(form->gItems, form->gItems->Row());
     EXPECT_EQ(frmAddOrderItem::SelectedItemID, drill);
     EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 2);
-}
-
-TEST_F(AddOrderItem, BadNumbersCountAsOnePieceAtNoPrice)
-{
-    const auto form = Form();
-    Type(form->txtQuantityToAdd, "abc");
-    Type(form->txtItemPrice, "dear");
-    Click(form->cmdOk);
-    EXPECT_EQ(frmAddOrderItem::SelectedItemQuantity, 1);
-    EXPECT_EQ(frmAddOrderItem::SelectedItemPrice, Currency());
 }
 
 TEST_F(AddOrderItem, CancelSelectsNothingAndAnEmptyListItemNought)

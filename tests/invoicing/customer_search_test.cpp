@@ -47,21 +47,16 @@ TEST_F(CustomerSearch, NoMatchIsSaidAndNothingCanBeSelected)
     EXPECT_TRUE(form.cmdSelect->isEnabled());
 }
 
-TEST_F(CustomerSearch, ClosedWithoutAChoiceChangesNothing)
+TEST_F(CustomerSearch, ClosedWithoutAChoiceChangesNothingAndAnIdBeyondSixteenBitsEndsTheProgram)
 {
-    Customer("Ada", "Byron").Add();
+    Customer("Ada", "Byron").Set("id", "32768").Add();
     OpenNew();
     WhenFormShows<frmResCustSearch>([](frmResCustSearch& form) { Press(&form, Qt::Key_Escape); });
     page->cmdNewInvoiceCustSearch->click();
     EXPECT_EQ(frmResCustSearch::SelectedCustomerID, -1);
     EXPECT_EQ(Single("SELECT CustomerID FROM invoice"), "NULL");
-}
 
-TEST_F(CustomerSearch, AnIdBeyondSixteenBitsEndsTheProgram)
-{
-    Customer("Ada", "Byron").Set("id", "32768").Add();
-    OpenNew();
-    ExpectedEnd end;
+    const ExpectedEnd end;
     WhenFormShows<frmResCustSearch>([](frmResCustSearch& form) { Click(form.cmdSelect); });
     page->cmdNewInvoiceCustSearch->click();
     EXPECT_EQ(end.Number(), 6);

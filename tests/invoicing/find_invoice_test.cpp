@@ -1,17 +1,14 @@
 #include "invoicing/find_invoice.h"
 
-#include "support/form_check.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
+#include "support/form_test.h"
 
 namespace {
 
-class FindInvoice : public DatabaseTest {
+class FindInvoice : public FormTest<frmFindInvoice> {
 protected:
     void SetUp() override
     {
-        DatabaseTest::SetUp();
+        FormTest::SetUp();
         frmFindInvoice::InvoiceSelected = false;
         frmFindInvoice::SelectedInvoiceID = -1;
         customer = Customer("Ann", "Smith").Business("Zinc Works").Add();
@@ -32,7 +29,6 @@ protected:
     static QDateTime Day(int day) { return QDate(2026, 3, day).startOfDay(); }
 
     int customer = 0;
-    std::unique_ptr<frmFindInvoice> form;
 };
 
 TEST_F(FindInvoice, FindsFromMidnightOfTheFirstDayToTheLastMinuteOfTheLast)
@@ -51,19 +47,13 @@ TEST_F(FindInvoice, FindsFromMidnightOfTheFirstDayToTheLastMinuteOfTheLast)
 TEST_F(FindInvoice, StartsWithThePresentDay)
 {
     InvoiceAt(QDate(2026, 3, 14), QTime(18, 0));
-    Shown(form.get());
+    CheckForm(*form);
     Press(form->dtFromDate, Qt::Key_Return);
     EXPECT_EQ(form->lblTotalCustomers->text(), "1") << "Enter starts the search";
 }
 
-TEST_F(FindInvoice, IsLaidOutForItsUser)
-{
-    CheckForm(*form);
-}
-
 TEST_F(FindInvoice, ASearchNeedsBothDates)
 {
-    ScriptedAnswers answers;
     answers.ExpectMessage(
         "No criteria to search by has been entered. Please enter some details and try again.", Icon::Critical);
     Search(std::nullopt, std::nullopt);
@@ -74,21 +64,9 @@ TEST_F(FindInvoice, ASearchNeedsBothDates)
     EXPECT_TRUE(end.Ended()) << "an empty date makes no statement";
 }
 
-TEST_F(FindInvoice, TheSelectedInvoiceIsHandedBack)
-{
-    InvoiceAt(QDate(2026, 3, 5), QTime(9, 0));
-    const int later = InvoiceAt(QDate(2026, 3, 6), QTime(9, 0));
-    Search(Day(5), Day(6));
-    DoubleClickRow(form->gres, 2);
-    EXPECT_FALSE(form->isVisible());
-    EXPECT_TRUE(frmFindInvoice::InvoiceSelected);
-    EXPECT_EQ(frmFindInvoice::SelectedInvoiceID, later);
-}
-
 TEST_F(FindInvoice, WithoutASelectionItSaysSoAndCloseHandsNothingBack)
 {
     Search(Day(5), Day(6));
-    ScriptedAnswers answers;
     answers.ExpectMessage(
         "No reservation has been selected. Select a reservation to to view or edit and try again.", Icon::Critical);
     Click(form->cmdEditCustomer);
@@ -99,17 +77,22 @@ TEST_F(FindInvoice, WithoutASelectionItSaysSoAndCloseHandsNothingBack)
     EXPECT_EQ(frmFindInvoice::SelectedInvoiceID, -1);
 }
 
-TEST_F(FindInvoice, AnIdBeyond16BitsIsAnOverflow)
+TEST_F(FindInvoice, TheSelectedInvoiceIsHandedBackUpToAnIdOfSixteenBits)
 {
-    InvoiceAt(QDate(2026, 3, 5), QTime(9, 0));
-    InvoiceAt(QDate(2026, 3, 5), QTime(10, 0));
-    Run("UPDATE invoice SET id = 32768 WHERE id = (SELECT max(id) FROM invoice)");
-    Run("UPDATE invoice SET id = 32767 WHERE id = (SELECT min(id) FROM invoice)");
-    Search(Day(5), Day(5));
-    ExpectedEnd end;
-    DoubleClickRow(form->gres, 2);
-    EXPECT_EQ(end.Number(), 6);
-    EXPECT_FALSE(frmFindInvoice::InvoiceSelected);
+    Invoice(customer).Date(Day(5)).Set("id", 32767).Add();
+    Invoice(customer).Date(Day(5)).Set("id", 32768).Add();
+    Search(Day(5), Day(6));
+    {
+        ExpectedEnd end;
+        DoubleClickRow(form->gres, 2);
+        EXPECT_EQ(end.Number(), 6);
+        EXPECT_FALSE(frmFindInvoice::InvoiceSelected);
+    }
+    Search(Day(5), Day(6));
+    DoubleClickRow(form->gres, 1);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(frmFindInvoice::InvoiceSelected);
+    EXPECT_EQ(frmFindInvoice::SelectedInvoiceID, 32767);
 }
 
 } // namespace

@@ -1,45 +1,31 @@
 #include "invoicing/invoice_history.h"
 
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
-
-#include <QVBoxLayout>
+#include "support/form_test.h"
 
 namespace {
 
 /// The history in a window, set up as the main window does it.
-class InvoiceHistoryTest : public DatabaseTest {
+class InvoiceHistoryTest : public PanelTest<InvoiceHistory> {
 protected:
     void SetUp() override
     {
-        DatabaseTest::SetUp();
+        PanelTest::SetUp();
         smith = Customer("Ann", "Smith").Business("Zinc Works").Add();
         brown = Customer("Zoe", "Brown").Business("Alloys").Add();
         first = Invoice(smith).No("00001").Date(QDate(2026, 1, 5)).Add();
         second = Invoice(brown).No("00002").Date(QDate(2026, 3, 4)).Paid(true).Add();
         third = Invoice(brown).No("00003").Date(QDate(2025, 12, 31)).Add();
 
-        history = new InvoiceHistory(&window);
-        (new QVBoxLayout(&window))->addWidget(history);
-        window.resize(900, 600);
         history->FillInvoiceFilter();
         history->ShowAllInvoices();
         QObject::connect(history, &InvoiceHistory::OpenInvoice, &window, [this](qint32 id) { opened.append(id); });
         QObject::connect(history, &InvoiceHistory::NewInvoice, &window, [this] { opened.append(-1); });
-        Shown(&window);
+        ShowPanel();
     }
 
-    QStringList Numbers() const
-    {
-        QStringList numbers;
-        for (const QStringList& row : GridRows(history->gInvoices))
-            numbers.append(row.at(0));
-        return numbers;
-    }
+    QStringList Numbers() const { return GridColumn(history->gInvoices); }
 
-    QWidget window;
-    InvoiceHistory* history = nullptr;
+    InvoiceHistory* history = panel;
     QList<qint32> opened;
     int smith = 0, brown = 0;
     int first = 0, second = 0, third = 0;
@@ -74,7 +60,6 @@ TEST_F(InvoiceHistoryTest, DeletingGivesNoStockBack)
     Line(first, screws, 1, "1");
     ClickTitle(history->gInvoices, 0);
     ClickRow(history->gInvoices, 2);
-    ScriptedAnswers answers;
     answers.Expect("Are you sure you want to delete this invoice?", Answer::Yes);
     Click(history->cmdSimpleCalCancel);
     EXPECT_EQ(Numbers(), (QStringList{"00001", "00003"}));

@@ -2,28 +2,12 @@
 #include "invoice_page_fixture.h"
 
 #include "invoicing/item_quantity.h"
-#include "paper/preview_window.h"
-
-#include <QApplication>
+#include "support/previews.h"
 
 namespace {
 
 class InvoiceLife : public InvoicePageTest {
 protected:
-    void TearDown() override
-    {
-        ClosePreviews();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        InvoicePageTest::TearDown();
-    }
-    QStringList PreviewTitles() const
-    {
-        QStringList titles;
-        for (const QWidget* top : QApplication::topLevelWidgets())
-            if (qobject_cast<const PreviewWindow*>(top))
-                titles.append(top->windowTitle());
-        return titles;
-    }
     double NextNumber() const { return Single("SELECT invoiceno FROM nextinvoiceno").toDouble(); }
     QString CustomerOfInvoice() const { return Single("SELECT CustomerID FROM invoice ORDER BY id DESC"); }
 };
@@ -123,16 +107,15 @@ TEST_F(InvoiceLife, DocumentsShowTheInvoiceAsItStandsOnThePage)
     Open(Invoice(Customer("Ada", "Byron").Add()).No("00009").Add());
     page->lblInvoiceNo->setText("A-1");
     page->cmdPrintPickingList->click();
-    EXPECT_EQ(PreviewTitles(), QStringList{"Picking List A-1"});
+    EXPECT_EQ(Previews().value(0)->windowTitle(), "Picking List A-1");
     EXPECT_NE(OpenInvoice::gCurrentInvoiceId, -1);
     ClosePreviews();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     page->lblInvoiceNo->setText("A-2");
     ScriptedAnswers answers;
     answers.Expect("Print Invoice?", Icon::Question, Buttons::YesNo, Answer::Yes);
     page->cmdCompleteInvoice->click();
-    EXPECT_EQ(PreviewTitles(), QStringList{"Invoice A-2"});
+    EXPECT_EQ(Previews().value(0)->windowTitle(), "Invoice A-2");
     EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, -1);
 }
 

@@ -1,7 +1,6 @@
 #include "invoicing/invoice_page.h"
 
 #include "invoice_page_fixture.h"
-#include "support/form_check.h"
 
 #include <QMenuBar>
 #include <QTest>
@@ -18,12 +17,6 @@ protected:
         return false;
     }
 };
-
-TEST_F(Page, OwesItsUserWhatEveryScreenOwes)
-{
-    OpenNew();
-    CheckScreen(page, page->Controls(), {"lblLabels_26", "lblSecondTax"});
-}
 
 TEST_F(Page, ANewInvoiceIsEmptyAndTheOneThatNewInvoiceShowsAgain)
 {

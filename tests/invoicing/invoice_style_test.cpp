@@ -2,9 +2,7 @@
 
 #include "base/settings_store.h"
 #include "invoicing/invoice_report_style.h"
-#include "support/form_check.h"
-#include "support/screen.h"
-#include "support/temporary_database.h"
+#include "support/form_test.h"
 
 namespace {
 using InvoiceStyleForm = DatabaseTest;

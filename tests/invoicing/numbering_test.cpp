@@ -1,9 +1,6 @@
 #include "invoicing/set_next_invoice_no.h"
 
-#include "support/form_check.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
+#include "support/form_test.h"
 
 namespace {
 

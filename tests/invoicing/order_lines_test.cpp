@@ -48,15 +48,9 @@ TEST_F(OrderLines, AddingTheSameItemTwiceKeepsTheFirstPrice)
 
 TEST_F(OrderLines, AmountsAreNetOfDiscountAndNothingUnderWarranty)
 {
-    struct Case {
-        const char* price;
-        double discount;
-        bool warranty;
-        const char* amount;
-    };
-    for (const auto& [price, discount, warranty, amount] :
-        {Case{"9.99", 10, false, "8.991"}, Case{"9.99", 0, false, "9.99"}, Case{"9.99", 10, true, "0"},
-            Case{"10", -5, false, "10.5"}, Case{"0.07", 33, false, "0.0469"}}) {
+    const std::tuple<const char*, double, bool, const char*> sales[] = {{"9.99", 10, false, "8.991"},
+        {"9.99", 0, false, "9.99"}, {"9.99", 10, true, "0"}, {"10", -5, false, "10.5"}, {"0.07", 33, false, "0.0469"}};
+    for (const auto& [price, discount, warranty, amount] : sales) {
         Run("DELETE FROM invoiceline");
         const int screws = Item("Screws").Stock(10).Add();
         AddNewOrderItemToDB(screws, 2, discount, warranty, Money(price));
@@ -74,19 +68,15 @@ TEST_F(OrderLines, AnItemThatIsGoneOrHasNoTaxRateAddsNothing)
     EXPECT_EQ(Stock(odd), 4);
 }
 
-TEST_F(OrderLines, ALineWhoseItemIsGoneJustGoes)
-{
-    const int line = Line(OpenInvoice::gCurrentInvoiceId, Item("Nails").Stock(1).Add(), 1, "2.5");
-    Run("DELETE FROM item");
-    DeleteOrderLine(line, 1);
-    EXPECT_EQ(Count("invoiceline"), 0);
-}
-
-TEST_F(OrderLines, AListPriceIsRoundedAsItWouldBeShown)
+TEST_F(OrderLines, ALineWhoseItemIsGoneJustGoesAndAListPriceIsRoundedAsItWouldBeShown)
 {
     const int screws = Item("Screws").Price("1.2345").Add();
     EXPECT_EQ(ListPrice(screws, 1), Money("1.23"));
     EXPECT_EQ(ListPrice(screws, 99), Currency());
+    const int line = Line(OpenInvoice::gCurrentInvoiceId, Item("Nails").Stock(1).Add(), 1, "2.5");
+    Run("DELETE FROM item");
+    DeleteOrderLine(line, 1);
+    EXPECT_EQ(Count("invoiceline"), 0);
 }
 
 } // namespace

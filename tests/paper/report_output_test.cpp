@@ -1,11 +1,12 @@
 #include "paper/report_output.h"
 
 #include "paper/report_picture.h"
+#include "support/files.h"
 #include "support/report_designs.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
+#include <QDir>
 #include <QPrinter>
 #include <QTemporaryDir>
 
@@ -13,12 +14,6 @@
 
 namespace {
 const ReportPaper Letter{12240, 15840};
-
-QByteArray Bytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// What a PDF shows: its pages and fonts, without the frame around them.
 QList<QByteArray> Streams(const QByteArray& pdf)
@@ -54,7 +49,7 @@ TEST_F(ReportOutput, APdfHasItsPagesItsTitleItsLanguageAndReadableText)
     ReportLayout layout(NameList(Numbered(200)), Letter);
     ASSERT_TRUE(SaveReportAsPdf(layout, Path("names.pdf")));
 
-    const QByteArray pdf = Bytes(Path("names.pdf"));
+    const QByteArray pdf = ReadFile(Path("names.pdf"));
     EXPECT_TRUE(pdf.startsWith("%PDF-1."));
     EXPECT_TRUE(pdf.endsWith("%%EOF\n"));
     EXPECT_TRUE(pdf.contains("/Count " + QByteArray::number(layout.PageCount())));
@@ -88,7 +83,7 @@ TEST_F(ReportOutput, PrintsThePagesThatWereChosenOnThePrintersPaper)
     printer.setPrintRange(QPrinter::PageRange);
     printer.setFromTo(2, 3);
     ASSERT_TRUE(PrintReport(layout, printer));
-    EXPECT_TRUE(Bytes(Path("printed.pdf")).contains("/Count 2"));
+    EXPECT_TRUE(ReadFile(Path("printed.pdf")).contains("/Count 2"));
     EXPECT_EQ(layout.Paper(), ReportPaper()) << "the preview stays as it was";
     EXPECT_FALSE(printer.fullPage());
 }
@@ -117,7 +112,7 @@ TEST_F(ReportOutput, PreviewPrinterAndPdfBreakTheSamePages)
             ReportLayout fresh(report, Letter);
             ASSERT_TRUE(PrintReport(fresh, printer) && SaveReportAsPdf(preview, Path("saved.pdf")));
             EXPECT_EQ(fresh.PageCount(), preview.PageCount());
-            EXPECT_EQ(Streams(Bytes(Path("printed.pdf"))), Streams(Bytes(Path("saved.pdf"))));
+            EXPECT_EQ(Streams(ReadFile(Path("printed.pdf"))), Streams(ReadFile(Path("saved.pdf"))));
         }
 }
 
@@ -126,16 +121,11 @@ TEST_F(ReportOutput, PicturesThatCannotBeReadAreLeftOut)
     QImage picture(300, 100, QImage::Format_RGB32);
     picture.fill(Qt::red);
     ASSERT_TRUE(picture.save(Path("logo.png")));
-    QFile(Path("text.png")).open(QIODevice::WriteOnly);
-    QFile cut(Path("cut.png"));
-    ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
-    cut.write(Bytes(Path("logo.png")).left(40));
-    cut.close();
+    WriteFile(Path("text.png"), "");
+    WriteFile(Path("cut.png"), ReadFile(Path("logo.png")).left(40));
 
     EXPECT_EQ(ReadPicture(Path("logo.png"), {1000, 1000}).size(), QSize(300, 100));
     EXPECT_EQ(ReadPicture(Path("logo.png"), {150, 150}).size(), QSize(150, 50)) << "in its own shape";
-    EXPECT_TRUE(ReadPicture(Path("missing.png"), {150, 150}).isNull());
-    EXPECT_TRUE(ReadPicture(Path("text.png"), {150, 150}).isNull());
-    EXPECT_TRUE(ReadPicture(Path("cut.png"), {150, 150}).isNull());
-    EXPECT_TRUE(ReadPicture(m_folder.path(), {150, 150}).isNull());
+    for (const QString& bad : {Path("missing.png"), Path("text.png"), Path("cut.png"), m_folder.path()})
+        EXPECT_TRUE(ReadPicture(bad, {150, 150}).isNull()) << bad.toStdString();
 }

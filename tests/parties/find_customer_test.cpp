@@ -17,7 +17,7 @@ protected:
         Type(box, text);
         Press(box, Qt::Key_Return);
         EXPECT_EQ(form->lblTotalCustomers->text().toInt(), GridRows(form->gcust).size());
-        return FirstColumn(form->gcust);
+        return GridColumn(form->gcust);
     }
 };
 
@@ -108,14 +108,14 @@ TEST_F(FindCustomerTest, TheSearchRunsAgainAfterAnEditAnAddAndADeletion)
     };
     WhenFormShows<frmCustomer>(naming("Moss"));
     Press(form->gcust, Qt::Key_Return);
-    EXPECT_EQ(FirstColumn(form->gcust), QStringList{"Ann Lee"}) << "Bob was the one selected";
+    EXPECT_EQ(GridColumn(form->gcust), QStringList{"Ann Lee"}) << "Bob was the one selected";
     WhenFormShows<frmCustomer>(naming("Leeds"));
     Click(form->cmdCreateCustomer);
-    EXPECT_EQ(FirstColumn(form->gcust), QStringList({"Ann Lee", " Leeds"}));
+    EXPECT_EQ(GridColumn(form->gcust), QStringList({"Ann Lee", " Leeds"}));
 
     Type(form->txtLastname, "");
     WhenFormShows<frmCustomer>([](frmCustomer& customer) { Click(customer.cmdCancel); });
     answers.ExpectMessage(NoCriteria, Icon::Critical);
     Click(form->cmdCreateCustomer);
-    EXPECT_EQ(FirstColumn(form->gcust).size(), 2) << "the list keeps its rows";
+    EXPECT_EQ(GridColumn(form->gcust).size(), 2) << "the list keeps its rows";
 }

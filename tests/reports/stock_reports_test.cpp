@@ -1,13 +1,11 @@
 #include "reports/stock_reports.h"
 
 #include "controls/dialogs.h"
-#include "paper/preview_window.h"
 #include "records/data_environment.h"
 #include "reports/reorder_filter.h"
-#include "support/form_check.h"
+#include "support/form_test.h"
 #include "support/golden.h"
-#include "support/screen.h"
-#include "support/temporary_database.h"
+#include "support/previews.h"
 
 #include <QPrinter>
 
@@ -24,20 +22,6 @@ protected:
         Item("Nut").Number("C3").Stock(10).ReorderLevel(10).MinStockLevel(99).Add();
         Item("Anchor").Number("D4").Stock(-2).ReorderLevel(0.5).Location(m_shelf).Add();
         Item("Orphan").Number("A1").Stock(0).ReorderLevel(5).Vendor(9999).Add();
-    }
-    void TearDown() override
-    {
-        ClosePreviews();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        DatabaseTest::TearDown();
-    }
-    static QList<PreviewWindow*> Previews()
-    {
-        QList<PreviewWindow*> previews;
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* preview = qobject_cast<PreviewWindow*>(window); preview && preview->isVisible())
-                previews.append(preview);
-        return previews;
     }
     static QStringList Names(PreviewWindow* preview)
     {
@@ -65,19 +49,15 @@ protected:
 };
 } // namespace
 
-TEST_F(StockReports, TheReorderReportListsItemsBelowTheirReorderLevel)
+TEST_F(StockReports, ListItemsBelowTheirReorderLevelOrEveryItemWithAVendorByName)
 {
-    const Report report = PrepareReorderReport();
-    ExpectGolden(ReportText(report), "reorder.txt");
-    EXPECT_EQ(report.margins.left, 720);
-    EXPECT_EQ(report.width, 11906 - 1441);
-}
-
-TEST_F(StockReports, TheStockLevelReportListsEveryItemWithAVendorByName)
-{
-    const Report report = PrepareStockLevelReport();
-    ExpectGolden(ReportText(report), "stock_level.txt");
-    EXPECT_EQ(report.margins.left, 1440);
+    const Report reorder = PrepareReorderReport();
+    ExpectGolden(ReportText(reorder), "reorder.txt");
+    EXPECT_EQ(reorder.margins.left, 720);
+    EXPECT_EQ(reorder.width, 11906 - 1441);
+    const Report level = PrepareStockLevelReport();
+    ExpectGolden(ReportText(level), "stock_level.txt");
+    EXPECT_EQ(level.margins.left, 1440);
 }
 
 TEST_F(StockReports, AReportThatIsOpenedAgainShowsCurrentStock)
@@ -113,7 +93,7 @@ TEST_F(StockReports, EachFilterNarrowsTheReport)
     EXPECT_FALSE(DataEnvironment().IsOpen("repFilteredReorder"));
 }
 
-TEST_F(StockReports, TheFilterFormEnablesTheListOfTheChosenOption)
+TEST_F(StockReports, TheFilterFormEnablesTheListOfTheChosenOptionAndNoOptionWithoutEntries)
 {
     WhenFormShows<frmReorderReportFilter>([this](frmReorderReportFilter& form) {
         CheckForm(form);
@@ -121,25 +101,20 @@ TEST_F(StockReports, TheFilterFormEnablesTheListOfTheChosenOption)
         EXPECT_EQ(Entries(form.cboItem), QStringList({"Anchor", "Nut", "Orphan", "Screw"}));
         EXPECT_EQ(Entries(form.cboSort), QStringList({"Name", "Number"}));
         EXPECT_EQ(form.cboVendor->SelectedData(), m_bolts);
-        const QList<std::pair<QRadioButton*, ComboBox*>> filters{{form.optFilter_1, form.cboVendor},
-            {form.optFilter_2, form.cboItem}, {form.optFilter_3, form.cboItemLocation}};
+        const QList<ComboBox*> lists{form.cboVendor, form.cboItem, form.cboItemLocation};
+        const std::pair<QRadioButton*, ComboBox*> filters[] = {{form.optFilter_1, form.cboVendor},
+            {form.optFilter_2, form.cboItem}, {form.optFilter_3, form.cboItemLocation}, {form.optFilter_0, nullptr}};
         for (const auto& [option, list] : filters) {
             Click(option);
-            for (const auto& other : filters)
-                EXPECT_EQ(other.second->isEnabled(), other.second == list);
+            for (const ComboBox* other : lists)
+                EXPECT_EQ(other->isEnabled(), other == list);
         }
-        Click(form.optFilter_0);
-        for (const auto& other : filters)
-            EXPECT_FALSE(other.second->isEnabled());
         Click(form.cmdCancel);
     });
     ShowFilteredReorderReport(nullptr);
     EXPECT_FALSE(frmReorderReportFilter::ReorderFilterConfirmed);
     EXPECT_EQ(Previews().size(), 0);
-}
 
-TEST_F(StockReports, AnOptionWithoutEntriesCannotBePicked)
-{
     Run("DELETE FROM vendor WHERE id <> 1");
     WhenFormShows<frmReorderReportFilter>([](frmReorderReportFilter& form) {
         EXPECT_FALSE(form.optFilter_1->isEnabled());
