@@ -20,6 +20,9 @@ void StatusBar::ShowNotice(const QString& text)
 
 void StatusBar::ShowScanned(const QString& text)
 {
+    // The scan has been taken now that the last message may have been about.
+    if (!text.isEmpty() && text != m_scanned->text())
+        clearMessage();
     m_scanned->setText(text);
     ShowIfNeeded();
 }

@@ -173,8 +173,12 @@ private:
             return false;
         if (IsCharacter(key))
             return IsCharacterTaken(window, key);
-        if (IsEnter(key) && m_code.size() >= ShortestScan)
-            return IsScanTaken();
+        if (IsEnter(key)) {
+            if (QMessageBox* box = BoxInFront())
+                return IsEnterTaken(*box, key);
+            if (m_code.size() >= ShortestScan)
+                return IsScanTaken();
+        }
         EndBurst();
         return false;
     }
@@ -196,7 +200,7 @@ private:
 
     bool HasToWait(const QWidget* target) const
     {
-        return qobject_cast<QMessageBox*>(WorkedWith()) || (TakerNow() && !TextBefore::IsTextBox(target));
+        return BoxInFront() || (TakerNow() && !TextBefore::IsTextBox(target));
     }
 
     void Hold(QWindow* window, const QKeyEvent* key)
@@ -210,13 +214,22 @@ private:
         if (!std::exchange(m_isCertain, true))
             m_gapEnd.start(0);
         else
-            EndBurst();
+            LetHeldGo();
     }
 
-    /// The keys so far were no scan: those that wait get to where they were bound for.
     void EndBurst()
     {
+        LetHeldGo();
         Forget();
+    }
+
+    /// The keys that wait get to where they were bound for, but not to a message box: one at a time is what people
+    /// press.
+    void LetHeldGo()
+    {
+        m_gapEnd.stop();
+        if (QMessageBox* box = BoxInFront(); box && m_code.size() > 1 && !m_held.empty())
+            return Refuse(*box);
         for (std::deque<HeldKey> held = std::exchange(m_held, {}); !held.empty(); held.pop_front())
             Send(held.front());
     }
@@ -249,16 +262,6 @@ private:
     bool IsScanTaken()
     {
         const QString code = m_code;
-        if (auto* box = qobject_cast<QMessageBox*>(WorkedWith())) {
-            TakeBack();
-            const bool closes = box->property(ScansClose).toBool();
-            const Taker* taker = TakerNow();
-            if (closes && taker)
-                SendOn(*taker, code);
-            else
-                Refuse(box);
-            return true;
-        }
         const Taker* taker = TakerNow();
         QWidget* target = Target();
         const bool isKnown = taker && target != taker->calls.box && IsKnown(*taker, code);
@@ -283,11 +286,34 @@ private:
         return isKnown;
     }
 
-    static void Refuse(const QMessageBox* box)
+    // Message boxes. What is at stake is more than a scan: nobody presses Enter that fast behind another key, so that
+    // even the end of a scan that came haltingly answers nothing.
+
+    QMessageBox* BoxInFront() const { return qobject_cast<QMessageBox*>(WorkedWith()); }
+
+    bool IsEnterTaken(QMessageBox& box, const QKeyEvent* key)
     {
+        constexpr ulong Late = 300;
+        const QString code = m_code;
+        if (code.isEmpty())
+            return m_refused > 0 && key->timestamp() - m_refused <= Late;
+        const Taker* taker = box.property(ScansClose).toBool() ? TakerNow() : nullptr;
+        if (taker) {
+            TakeBack();
+            SendOn(*taker, code);
+        } else {
+            Refuse(box);
+        }
+        return true;
+    }
+
+    void Refuse(const QMessageBox& box)
+    {
+        TakeBack();
+        m_refused = m_last;
         PlayScanSound(ScanSound::NotFound);
-        ShowStatus(box->standardButtons() & QMessageBox::No ? tr("Answer the question first, then scan again.")
-                                                            : tr("Close the message first, then scan again."));
+        ShowStatus(box.standardButtons() & QMessageBox::No ? tr("Answer the question first, then scan again.")
+                                                           : tr("Close the message first, then scan again."));
     }
 
     /// The screen that takes scans and that the user works with, be it behind dialogs of its own and message boxes.
@@ -372,6 +398,7 @@ private:
 
     QString m_code; ///< the burst so far
     ulong m_last = 0; ///< when its last key was pressed
+    ulong m_refused = 0; ///< when the last key was pressed that a message box did not take
     std::vector<TextBefore> m_before;
     std::deque<HeldKey> m_held;
     const QEvent* m_replayed = nullptr;

@@ -48,10 +48,10 @@ void InvoicePage::AddBarCodeItem()
 void InvoicePage::ShowScanned(const QString& code, qint32 itemId, bool isAdded)
 {
     PlayScanSound(isAdded ? ScanSound::Found : ScanSound::NotFound);
-    if (!isAdded)
-        ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
     m_lastCode = code;
     ShowScanLine();
+    if (!isAdded)
+        ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
     if (const int row = RowOfLine(LineOfItem(itemId)); row > 0)
         gNewInvoice->ShowTinted(row);
 }

@@ -201,7 +201,7 @@ TEST_F(ScanWatching, NoScanAnswersAMessageBox)
                                         "Answer the question first, then scan again."),
              {[] { MsgBox("Saved.", Icon::None); }, "Close the message first, then scan again."}}) {
         WhenFormShows<QMessageBox>([&, told = told](QMessageBox& box) {
-            for (const QString& code : {QString("yn y123"), Known}) {
+            for (const QString& code : {QString("yn y123"), Known, QString("n1"), QString("y")}) {
                 ScannerTypes(code);
                 QTest::qWait(50);
                 EXPECT_TRUE(box.isVisible());
