@@ -148,9 +148,17 @@ private:
         return focus || !window ? focus : window->focusWidget();
     }
 
+    /// Two keys at a scanner's speed are a scanner's; a busy computer may hold up some of those behind them.
+    ulong LongestGap() const
+    {
+        constexpr int Hitch = 5;
+        const bool isForgiven = m_code.size() >= 2 && m_hitches <= m_code.size() / 8;
+        return ulong(m_gap) * (isForgiven ? Hitch : 1);
+    }
+
     bool GoesOn(const QKeyEvent* key) const
     {
-        return !m_code.isEmpty() && key->timestamp() >= m_last && key->timestamp() - m_last <= ulong(m_gap);
+        return !m_code.isEmpty() && key->timestamp() >= m_last && key->timestamp() - m_last <= LongestGap();
     }
 
     /// A list that has dropped down takes Enter before it is pressed, when shortcuts are looked for.
@@ -168,6 +176,8 @@ private:
         // The time is that of the key itself: keys that had to wait for the program are as fast as they were pressed.
         if (!GoesOn(key))
             EndBurst();
+        else if (key->timestamp() - m_last > ulong(m_gap))
+            ++m_hitches;
         m_last = key->timestamp();
         if (IsShift(key))
             return false;
@@ -190,7 +200,7 @@ private:
         if (!m_held.empty() || HasToWait(target)) {
             Hold(window, key);
             m_isCertain = false;
-            m_gapEnd.start(m_gap);
+            m_gapEnd.start(int(LongestGap()));
             return true;
         }
         if (TextBefore::IsTextBox(target) && (m_before.empty() || m_before.back().Box() != target))
@@ -245,6 +255,7 @@ private:
     {
         m_gapEnd.stop();
         m_code.clear();
+        m_hitches = 0;
         m_before.clear();
     }
 
@@ -397,6 +408,7 @@ private:
     std::vector<Taker> m_takers;
 
     QString m_code; ///< the burst so far
+    int m_hitches = 0; ///< gaps in it that were too long
     ulong m_last = 0; ///< when its last key was pressed
     ulong m_refused = 0; ///< when the last key was pressed that a message box did not take
     std::vector<TextBefore> m_before;

@@ -10,7 +10,8 @@
 class QMessageBox;
 
 /// A bar code scanner types like a keyboard, only faster. A scan is six or more characters, none more than the setting
-/// "Scan Gap" (milliseconds, 35 unless it is set) after the one before, and Enter; 0 lets all keys be just keys.
+/// "Scan Gap" (milliseconds, 35 unless it is set) after the one before, and Enter; 0 lets all keys be just keys. A
+/// pause or two of five gaps, where a busy computer held up a key, are forgiven.
 ///
 /// While the user works with a screen that takes scans, or with a dialog of it, a scan of a known code goes to its bar
 /// code box, wherever the focus is: nothing else of it shows, and an open dialog is cancelled. An unknown code is just

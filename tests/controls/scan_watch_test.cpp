@@ -167,6 +167,15 @@ TEST_F(ScanWatching, AProgramThatIsBusyTellsScansFromKeysByTheirOwnTime)
     txtPrice->setFocus();
     HandTypes(Known + "\n");
     EXPECT_EQ(txtPrice->text(), Known) << "typed ahead, and taken in all at once";
+
+    events.clear();
+    grid->setFocus();
+    ScannerTypes("Ab 1\a2/34-56");
+    EXPECT_EQ(events, QStringList{Known}) << "a key was held up";
+    txtName->clear();
+    txtName->setFocus();
+    ScannerTypes("Ab \a12\a/3\a4-56");
+    EXPECT_EQ(txtName->text(), Known) << "too many of them";
 }
 
 TEST_F(ScanWatching, UndoGoesOnBeforeTheScan)

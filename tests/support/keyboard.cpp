@@ -35,9 +35,14 @@ void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const
 void PressKeys(const QString& keys, int msAKey)
 {
     constexpr ulong Pause = 1000;
+    constexpr ulong Hitch = 100;
     static ulong time = Pause;
     time += Pause;
     for (const QChar character : keys) {
+        if (character == u'\a') {
+            time += Hitch;
+            continue;
+        }
         time += ulong(msAKey);
         const bool isEnter = character == u'\n';
         const Qt::Key key = isEnter ? Qt::Key_Return : Qt::Key(character.toUpper().unicode());

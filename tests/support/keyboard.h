@@ -3,7 +3,7 @@
 #include <QString>
 
 /// Keys as the window system brings them, `msAKey` apart by their own time, to the window that is worked with; '\n' is
-/// Enter. They take no time themselves.
+/// Enter, and '\a' a pause of a tenth of a second. They take no time themselves.
 void PressKeys(const QString& keys, int msAKey);
 
 /// A scanner that ends its code with Enter.
