@@ -36,6 +36,7 @@ void SetLanguage(const QString& code)
     if (language.language() == QLocale::C)
         return;
     // The one installed last is asked first.
-    Install(language, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    for (const char* part : {"qtbase", "qt_help"})
+        Install(language, QLatin1String(part), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     Install(language, QStringLiteral("tavrin"), QStringLiteral(":/translations"));
 }
