@@ -652,6 +652,26 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Charge to Account</source>
         <translation>Auf Rechnung</translation>
     </message>
+    <message>
+        <source>Invoice %1 cancelled</source>
+        <translation>Rechnung %1 verworfen</translation>
+    </message>
+    <message>
+        <source>Invoice %1 completed</source>
+        <translation>Rechnung %1 abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Invoice %1 closed</source>
+        <translation>Rechnung %1 geschlossen</translation>
+    </message>
+    <message>
+        <source>There is not enough in stock to add %1.</source>
+        <translation>Es ist nicht genug auf Lager, um %1 hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>Lines: %1   Pieces: %2   Last code: %3</source>
+        <translation>Positionen: %1   Stück: %2   Letzter Code: %3</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceReport</name>
@@ -1354,6 +1374,17 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Shrink &gt;&gt;</source>
         <translation>Verkleinern &gt;&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ScanWatch</name>
+    <message>
+        <source>Answer the question first, then scan again.</source>
+        <translation>Beantworten Sie zuerst die Frage und scannen Sie dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>Close the message first, then scan again.</source>
+        <translation>Schließen Sie zuerst die Meldung und scannen Sie dann noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -2566,6 +2597,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>No valid number has been entered to update. Please enter a valid number and try again.</source>
         <translation>Es ist keine gültige Menge angegeben. Bitte geben Sie eine gültige Zahl ein und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 received, now %3</source>
+        <translation>%1 x %2 eingegangen, jetzt %3</translation>
     </message>
 </context>
 <context>

@@ -652,6 +652,26 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Charge to Account</source>
         <translation>Porter au compte</translation>
     </message>
+    <message>
+        <source>Invoice %1 cancelled</source>
+        <translation>Facture %1 annulée</translation>
+    </message>
+    <message>
+        <source>Invoice %1 completed</source>
+        <translation>Facture %1 terminée</translation>
+    </message>
+    <message>
+        <source>Invoice %1 closed</source>
+        <translation>Facture %1 fermée</translation>
+    </message>
+    <message>
+        <source>There is not enough in stock to add %1.</source>
+        <translation>Le stock ne suffit pas pour ajouter %1.</translation>
+    </message>
+    <message>
+        <source>Lines: %1   Pieces: %2   Last code: %3</source>
+        <translation>Lignes : %1   Pièces : %2   Dernier code : %3</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceReport</name>
@@ -1354,6 +1374,17 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Shrink &gt;&gt;</source>
         <translation>Réduire &gt;&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ScanWatch</name>
+    <message>
+        <source>Answer the question first, then scan again.</source>
+        <translation>Répondez d&apos;abord à la question, puis scannez à nouveau.</translation>
+    </message>
+    <message>
+        <source>Close the message first, then scan again.</source>
+        <translation>Fermez d&apos;abord le message, puis scannez à nouveau.</translation>
     </message>
 </context>
 <context>
@@ -2566,6 +2597,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No valid number has been entered to update. Please enter a valid number and try again.</source>
         <translation>Aucun nombre valide n&apos;a été saisi. Veuillez saisir un nombre valide et réessayer.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 received, now %3</source>
+        <translation>%1 x %2 reçus, maintenant %3</translation>
     </message>
 </context>
 <context>
