@@ -40,19 +40,12 @@ TEST(Layouts, TheControlsOfABlockShareTheirEdgesAndTakeTheWidth)
     text->hide();
     screen.resize(500, 300);
     Shown(&screen);
-    EXPECT_EQ(name->geometry().left(), zip->geometry().left());
-    EXPECT_EQ(name->geometry().top(), phone->geometry().top());
-    EXPECT_GT(phone->geometry().left(), name->geometry().right() + 12);
+    EXPECT_EQ(name->x(), zip->x());
+    EXPECT_EQ(name->y(), phone->y());
+    EXPECT_GT(phone->x(), name->geometry().right() + 12);
     EXPECT_GT(name->width(), 120);
     EXPECT_GT(hint->height(), hint->fontMetrics().lineSpacing() * 2 - 4) << "the instructions wrap";
     EXPECT_EQ(qobject_cast<QGroupBox*>(box)->title(), "Address");
-}
-
-TEST(Layouts, FifteenTwipsAreAPixel)
-{
-    EXPECT_EQ(TwipsToPixels(960), 64);
-    EXPECT_EQ(TwipsToPixels(800), 53);
-    EXPECT_EQ(PixelsToTwips(53), 795);
 }
 
 } // namespace

@@ -106,7 +106,7 @@ TEST_F(PriceListsTest, RemovingAsksAndTakesThePricesButNotTheCustomersChoice)
     EXPECT_EQ(Single("SELECT PriceListID FROM customer"), QString::number(trade));
 }
 
-TEST_F(PriceListsTest, WithoutASelectionAndWithAnIdBeyondSixteenBitsNothingCanBeEdited)
+TEST_F(PriceListsTest, WhatIsMissingOrBeyondSixteenBitsCannotBeEdited)
 {
     Run("DELETE FROM PriceList");
     Open();
@@ -118,21 +118,19 @@ TEST_F(PriceListsTest, WithoutASelectionAndWithAnIdBeyondSixteenBitsNothingCanBe
 
     Run("INSERT INTO PriceList (id, name) VALUES (40000, 'Far')");
     Open();
-    ExpectedEnd end;
-    Click(form->cmdEdit);
-    EXPECT_EQ(end.Number(), 6);
-}
+    {
+        const ExpectedEnd end;
+        Click(form->cmdEdit);
+        EXPECT_EQ(end.Number(), 6);
+    }
 
-TEST_F(PriceListsTest, AnEmptyNameIsRefusedAndAMissingListIsReported)
-{
     frmAddPriceList::gEditPriceListId = 77;
     answers.ExpectMessage("Record not found.", Icon::Critical);
     frmAddPriceList details(nullptr);
     Shown(&details);
     answers.ExpectMessage("Please enter a Price List name to continue.", Icon::Critical);
     Click(details.cmdOK);
-    EXPECT_TRUE(details.isVisible());
-    EXPECT_TRUE(details.txtName->hasFocus());
+    EXPECT_TRUE(details.isVisible() && details.txtName->hasFocus());
 }
 
 } // namespace

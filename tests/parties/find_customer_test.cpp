@@ -100,16 +100,16 @@ TEST_F(FindCustomerTest, TheSearchRunsAgainAfterAnEditAnAddAndADeletion)
     EXPECT_EQ(form->lblTotalCustomers->text(), "2");
     EXPECT_EQ(form->gcust->Row(), 2);
 
-    const auto naming = [](const QString& name) {
-        return [name](frmCustomer& customer) {
+    const auto expectNaming = [](const QString& name) {
+        WhenFormShows<frmCustomer>([name](frmCustomer& customer) {
             Type(customer.txtLastname, name);
             Press(customer.txtLastname, Qt::Key_Return);
-        };
+        });
     };
-    WhenFormShows<frmCustomer>(naming("Moss"));
+    expectNaming("Moss");
     Press(form->gcust, Qt::Key_Return);
     EXPECT_EQ(GridColumn(form->gcust), QStringList{"Ann Lee"}) << "Bob was the one selected";
-    WhenFormShows<frmCustomer>(naming("Leeds"));
+    expectNaming("Leeds");
     Click(form->cmdCreateCustomer);
     EXPECT_EQ(GridColumn(form->gcust), QStringList({"Ann Lee", " Leeds"}));
 

@@ -1,9 +1,15 @@
 #include "support/form_check.h"
 
+#include "controls/date_picker.h"
+#include "controls/flex_grid.h"
+#include "controls/text_box.h"
 #include "support/reading_check.h"
 #include "support/screen.h"
 
 #include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 std::string NameOf(const QWidget* control)
@@ -125,4 +131,43 @@ QStringList ControlNames(const QList<QWidget*>& controls)
     for (const QWidget* control : controls)
         names.append(QStringLiteral("%1 %2").arg(control->objectName(), Caption(control)).trimmed());
     return names;
+}
+
+namespace {
+QString ValueOf(const QWidget* control)
+{
+    if (auto* box = qobject_cast<const QLineEdit*>(control))
+        return box->text();
+    if (auto* lines = dynamic_cast<const MultiLineTextBox*>(control))
+        return lines->Text().replace(u'\r', QStringLiteral("\\r")).replace(u'\n', QStringLiteral("\\n"));
+    if (auto* box = qobject_cast<const QAbstractButton*>(control))
+        return box->isChecked() ? QStringLiteral("x") : QStringLiteral("-");
+    if (auto* combo = qobject_cast<const QComboBox*>(control))
+        return combo->currentText() + QStringLiteral(" of ") + Entries(combo).join(QStringLiteral(" | "));
+    if (auto* list = qobject_cast<const QListWidget*>(control))
+        return Entries(list).join(QStringLiteral(" | "));
+    if (auto* date = dynamic_cast<const DatePicker*>(control))
+        return date->Value() ? date->Value()->toString(Qt::ISODate) : QStringLiteral("none");
+    auto* grid = dynamic_cast<const FlexGrid*>(control);
+    if (!grid)
+        return Caption(control);
+    QString text = GridTitles(grid).join(QStringLiteral(" | "));
+    for (int row = 1; row < grid->Rows(); ++row)
+        text += QLatin1String(row == grid->Row() ? "\n  > " : "\n    ")
+            + GridRows(grid)[row - 1].join(QStringLiteral(" | "));
+    return text;
+}
+} // namespace
+
+QString ScreenValues(const QList<QWidget*>& controls)
+{
+    QString text;
+    for (const QWidget* control : controls) {
+        if (qobject_cast<const QPushButton*>(control))
+            continue;
+        text += QString(control->objectName() + QStringLiteral(": ") + ValueOf(control)).trimmed();
+        text += control->isVisible() ? QString() : QStringLiteral(" (hidden)");
+        text += (control->isEnabled() ? QString() : QStringLiteral(" (off)")) + u'\n';
+    }
+    return text;
 }

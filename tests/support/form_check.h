@@ -22,3 +22,8 @@ QString ScreenText(const QWidget* screen);
 
 /// The names and captions of the controls in order of declaration: "cmdOK &OK".
 QStringList ControlNames(const QList<QWidget*>& controls);
+
+/// What the controls hold, in order of declaration, a line each: "txtName: Ann", "chkPaid: x", "cboList: two of one |
+/// two", a grid with its titles and rows, the current one marked ">". Switched off or hidden ones say so. Buttons are
+/// left out.
+QString ScreenValues(const QList<QWidget*>& controls);

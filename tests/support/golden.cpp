@@ -8,23 +8,23 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QStringList>
 
 namespace {
 
 const QString Arrow = QStringLiteral("=>");
-constexpr char Letters[] = "n\nr\rt\t\\\\";
-
 /// "\n" for a line end, "\u00a0" for a blank that does not break.
 QString Visible(const QString& text)
 {
     QString visible;
     for (const QChar character : text) {
-        const char* letter = Letters;
-        while (*letter != '\0' && character != QLatin1Char(letter[1]))
-            letter += 2;
-        if (*letter != '\0')
-            visible += u'\\' + QString(QLatin1Char(*letter));
+        if (character == u'\n' || character == u'\r' || character == u'\t' || character == u'\\')
+            visible += QLatin1String(character == u'\n' ? "\\n"
+                    : character == u'\r'                ? "\\r"
+                    : character == u'\t'                ? "\\t"
+                                                        : "\\\\");
         else if (character.isPrint() && (character == u' ' || !character.isSpace()))
             visible += character;
         else
@@ -33,23 +33,11 @@ QString Visible(const QString& text)
     return visible;
 }
 
-QString Meant(const QString& visible)
+QString Meant(QString visible)
 {
-    QString text;
-    for (qsizetype at = 0; at < visible.size(); ++at) {
-        if (visible[at] != u'\\' || at + 1 == visible.size()) {
-            text += visible[at];
-        } else if (visible[++at] == u'u') {
-            text += QChar(visible.mid(at + 1, 4).toUShort(nullptr, 16));
-            at += 4;
-        } else {
-            const char* letter = Letters;
-            while (*letter != '\0' && visible[at] != QLatin1Char(*letter))
-                letter += 2;
-            text += *letter != '\0' ? QChar(QLatin1Char(letter[1])) : visible[at];
-        }
-    }
-    return text;
+    const QJsonDocument text =
+        QJsonDocument::fromJson("[\"" + visible.replace(u'"', QLatin1String("\\\"")).toUtf8() + "\"]");
+    return text.array().at(0).toString();
 }
 
 QString Given(const QString& written)

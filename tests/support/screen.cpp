@@ -111,10 +111,8 @@ bool Reachable(const QWidget* control, const char* act)
         && control->window()->windowType() != Qt::Popup;
     if (control->isVisible() && control->isEnabled() && !blocked)
         return true;
-    ADD_FAILURE() << "cannot " << act << ' ' << qPrintable(control->objectName()) << ": "
-                  << (blocked                       ? "a modal form is in front of it"
-                             : control->isVisible() ? "it is switched off"
-                                                    : "it is hidden");
+    const char* const why = blocked ? "behind a modal form" : control->isVisible() ? "switched off" : "hidden";
+    ADD_FAILURE() << "cannot " << act << ' ' << qPrintable(control->objectName()) << ": it is " << why;
     return false;
 }
 
