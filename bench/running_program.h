@@ -14,6 +14,8 @@ public:
     ~RunningProgram();
 
     MainWindow& Window() { return *m_window; }
+    /// Of its data file.
+    QString Path() const { return m_connection.Path(); }
     /// The engine's handle of the program's own connection, so that a floor has the same cache and functions.
     sqlite3* Handle();
 

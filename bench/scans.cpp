@@ -7,7 +7,10 @@
 #include "invoicing/open_invoice.h"
 #include "make_database/ean13.h"
 
+#include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QTest>
+#include <QWindow>
 
 namespace {
 
@@ -53,6 +56,7 @@ public:
         m_takeFromStock.Run(1, item);
         m_lines.Run(invoice);
         m_commit.Run();
+        m_lineOfItem.Run(invoice, item);
     }
 
 private:
@@ -157,10 +161,111 @@ void ReportScans(const std::string& subject, ScanRace&& race, double allowedMs)
     PrintFigure((subject + ", painting after it, median").c_str(), race.Painting().Median(), 0, FrameMs, "ms");
 }
 
+constexpr int KeyMs = 10;
+
+/// Keys as the window system brings them to the main window, each at its time.
+class Keyboard {
+public:
+    explicit Keyboard(QWidget& window)
+        : m_window(window)
+    {
+        m_clock.start();
+    }
+
+    /// Waits until it is time for the key, while the program does what it has to. Returns what the key took.
+    double Press(QChar character)
+    {
+        m_time += KeyMs;
+        while (m_clock.elapsed() < qint64(m_time))
+            LetPaint();
+        return Send(*m_window.windowHandle(), character);
+    }
+    void Type(const QString& keys)
+    {
+        for (const QChar key : keys)
+            Press(key);
+    }
+    /// Sends it to a window, or past it straight to a control.
+    double Send(QObject& receiver, QChar character) const
+    {
+        const bool isEnter = character == u'\r';
+        QKeyEvent press(QEvent::KeyPress, isEnter ? Qt::Key_Return : character.unicode(), Qt::NoModifier, character);
+        QKeyEvent release(QEvent::KeyRelease, press.key(), Qt::NoModifier, character);
+        press.setTimestamp(m_time);
+        release.setTimestamp(m_time);
+        return MillisecondsOf([&] {
+            QCoreApplication::sendEvent(&receiver, &press);
+            QCoreApplication::sendEvent(&receiver, &release);
+        });
+    }
+    void Wait(ulong milliseconds) { m_time += milliseconds; }
+
+private:
+    QWidget& m_window;
+    QElapsedTimer m_clock;
+    ulong m_time = 0;
+};
+
+/// A cashier who scans without looking, on an invoice that has long been open.
+void MeasureScanner(RunningProgram& program)
+{
+    constexpr int Lines = 300;
+    constexpr int CodesInARow = 30;
+    constexpr ulong Pause = 1000;
+    Connection onDisk;
+    onDisk.Open(program.Path());
+    FloorStatement count(FloorHandle(onDisk), EngineSql{"SELECT count(*) FROM invoiceline WHERE invoiceid = ?"});
+    const qint64 invoice = AddInvoice(program.Handle(), Lines);
+    OpenInvoice::gCurrentInvoiceId = qint32(invoice);
+    program.Window().OpenInvoicePage();
+    InvoicePage& page = *program.Window().picNewInvoice;
+    QWidget* const places[] = {page.txtFirstname, page.gNewInvoice, page.txtBarcode};
+
+    Keyboard keyboard(program.Window());
+    int late = 0;
+    Times toDisk;
+    for (int scan = 0; scan < CodesInARow; ++scan) {
+        places[scan % 3]->setFocus();
+        keyboard.Type(ShopEan13(1000 + scan));
+        count.Run(invoice);
+        late += count.Number() != Lines + scan;
+        toDisk.Add(keyboard.Press(u'\r'));
+    }
+    count.Run(invoice);
+    Report("30 scans at 10 ms a key, late or lost", late + double(Lines + CodesInARow - count.Number()), 0, 0, "scans");
+    Report("such a scan, Enter to the line on disk, slowest", toDisk.Percentile99(), 0, 14 * KeyMs, "ms");
+
+    constexpr int Bursts = 200;
+    Times inList, inText, typing;
+    QWindow& window = *program.Window().windowHandle();
+    for (int burst = 0; burst < Bursts; ++burst) {
+        page.gNewInvoice->setFocus();
+        keyboard.Wait(Pause);
+        for (const QChar key : ShopEan13(1000)) {
+            keyboard.Wait(KeyMs);
+            inList.Add(keyboard.Send(window, key));
+        }
+        page.txtFirstname->setFocus();
+        page.txtFirstname->clear();
+        keyboard.Wait(Pause);
+        for (const QChar key : ShopEan13(1000)) {
+            keyboard.Wait(KeyMs);
+            inText.Add(keyboard.Send(window, key));
+            typing.Add(keyboard.Send(*page.txtFirstname, key));
+        }
+        LetPaint();
+    }
+    constexpr double MostMs = 0.02;
+    Report("a key of a scan, recognised in a list", inList.Median() * 1000, 0, MostMs * 1000, "us");
+    Report("a key of a scan, recognised in a text box, beyond typing it", (inText.Median() - typing.Median()) * 1000, 0,
+        MostMs * 1000, "us");
+}
+
 } // namespace
 
 void MeasureScans(RunningProgram& program)
 {
+    MeasureScanner(program);
     ReportScans("scan of a bar code", ScanRace(program, 0, ScansOfAShortInvoice), 0);
     // A scan that went nowhere would be a fast one.
     PrintFigure("lines missing on the last short invoice",

@@ -247,8 +247,9 @@ private:
     void Send(const HeldKey& held)
     {
         const QScopedValueRollback<const QEvent*> replaying(m_replayed, held.event.get());
+        // Not by sendEvent, which would no longer count it as pressed by the user.
         if (held.window)
-            QCoreApplication::sendEvent(held.window, held.event.get());
+            qApp->notify(held.window, held.event.get());
     }
 
     void Forget()

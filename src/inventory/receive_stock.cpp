@@ -87,7 +87,6 @@ void frmReceiveStock::FindByBarcode()
     }
     PlayScanSound(ScanSound::Found);
     RefreshInventoryList(1, *itemId);
-    gInventory->ShowTinted(gInventory->Row());
     txtAddQuantity->FocusAll();
 }
 

@@ -27,7 +27,8 @@ void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const
         return;
     QKeyEvent event(type, key, modifiers, text);
     event.setTimestamp(time);
-    QCoreApplication::sendEvent(window->windowHandle(), &event);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window->windowHandle(), &event);
 }
 
 } // namespace
