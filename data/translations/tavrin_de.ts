@@ -401,6 +401,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Are you sure you want to delete this invoice?</source>
         <translation>Möchten Sie diese Rechnung wirklich löschen?</translation>
     </message>
+    <message>
+        <source>Invoice %1 deleted</source>
+        <translation>Rechnung %1 gelöscht</translation>
+    </message>
 </context>
 <context>
     <name>InvoicePage</name>
@@ -2131,6 +2135,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Discount:</source>
         <translation>Rabatt:</translation>
     </message>
+    <message>
+        <source>Customer %1 saved</source>
+        <translation>Kunde %1 gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>frmFindCustomer</name>
@@ -2363,6 +2371,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>The Name is already in use. Continue anyway?</source>
         <translation>Die Bezeichnung wird bereits verwendet. Trotzdem fortfahren?</translation>
+    </message>
+    <message>
+        <source>Item %1 saved</source>
+        <translation>Artikel %1 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -2842,6 +2854,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Email:</source>
         <translation>E-Mail:</translation>
+    </message>
+    <message>
+        <source>Vendor %1 saved</source>
+        <translation>Lieferant %1 gespeichert</translation>
     </message>
 </context>
 <context>

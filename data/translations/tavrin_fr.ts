@@ -401,6 +401,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Are you sure you want to delete this invoice?</source>
         <translation>Voulez-vous vraiment supprimer cette facture ?</translation>
     </message>
+    <message>
+        <source>Invoice %1 deleted</source>
+        <translation>Facture %1 supprimée</translation>
+    </message>
 </context>
 <context>
     <name>InvoicePage</name>
@@ -2131,6 +2135,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Discount:</source>
         <translation>Remise :</translation>
     </message>
+    <message>
+        <source>Customer %1 saved</source>
+        <translation>Client %1 enregistré</translation>
+    </message>
 </context>
 <context>
     <name>frmFindCustomer</name>
@@ -2363,6 +2371,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>The Name is already in use. Continue anyway?</source>
         <translation>Cette désignation est déjà utilisée. Continuer quand même ?</translation>
+    </message>
+    <message>
+        <source>Item %1 saved</source>
+        <translation>Article %1 enregistré</translation>
     </message>
 </context>
 <context>
@@ -2842,6 +2854,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Email:</source>
         <translation>E-mail :</translation>
+    </message>
+    <message>
+        <source>Vendor %1 saved</source>
+        <translation>Fournisseur %1 enregistré</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "base/numbers.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection.h"
@@ -62,6 +63,7 @@ void frmItemDetails::Save()
     });
 
     accept();
+    ShowStatus(tr("Item %1 saved").arg(m_name->text()));
 }
 
 bool frmItemDetails::MayBeSaved() const

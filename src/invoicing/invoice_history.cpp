@@ -2,6 +2,7 @@
 
 #include "controls/hourglass.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "db/batch.h"
 #include "invoicing/invoice_cells.h"
 
@@ -103,6 +104,8 @@ void InvoiceHistory::DeleteInvoice()
         return;
     if (MsgBox(tr("Are you sure you want to delete this invoice?"), Icon::Question, Buttons::YesNo) != Answer::Yes)
         return;
+    const QString number = gInvoices->CellText(gInvoices->Row(), "invoiceno");
     DoDelete(invoiceId);
     LoadInPlace();
+    ShowStatus(tr("Invoice %1 deleted").arg(number));
 }

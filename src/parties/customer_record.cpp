@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "controls/layout.h"
+#include "controls/status_line.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 
@@ -66,6 +67,8 @@ void frmCustomer::Save()
     else
         UpdateCustomer();
     accept();
+    const QString name = QStringLiteral("%1 %2").arg(txtFirstname->text(), txtLastname->text()).trimmed();
+    ShowStatus(tr("Customer %1 saved").arg(name.isEmpty() ? txtBusinessName->text() : name));
 }
 
 void frmCustomer::UpdateCustomer() const

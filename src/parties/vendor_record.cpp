@@ -1,6 +1,7 @@
 #include "parties/vendor_record.h"
 
 #include "controls/layout.h"
+#include "controls/status_line.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "sql/schema.h"
@@ -71,6 +72,7 @@ void frmVendor::Save()
     else
         UpdateVendor();
     accept();
+    ShowStatus(tr("Vendor %1 saved").arg(txtBusinessName->text()));
 }
 
 void frmVendor::UpdateVendor() const
