@@ -352,19 +352,21 @@ private:
 
     void GoOn(const Taker& taker, const QString& code)
     {
+        QWidget* modal = QApplication::activeModalWidget();
+        auto* form = dynamic_cast<Form*>(modal);
+        const bool isClosable =
+            modal && (modal->property(ScansClose).toBool() || (form && IsBelow(form, taker.screen)));
+        if (!taker.screen || !taker.screen->isVisible())
+            return Arrived(taker);
+        const bool isThere = !modal || modal == taker.screen->window();
+        if (!isThere && !isClosable)
+            return Arrived(taker);
         // What opened a dialog that was just closed has to come to its end first.
         if (QThread::currentThread()->loopLevel() < m_closedIn) {
-            if (!taker.screen || !taker.screen->isVisible())
-                return Arrived(taker);
-            QWidget* modal = QApplication::activeModalWidget();
-            if (!modal || modal == taker.screen->window()) {
+            if (isThere) {
                 Arrived(taker);
                 return Take(taker.calls, code);
             }
-            auto* form = dynamic_cast<Form*>(modal);
-            const bool isMessage = modal->property(ScansClose).toBool();
-            if (!isMessage && !(form && IsBelow(form, taker.screen)))
-                return Arrived(taker);
             if (form && !IsKnown(taker, code)) {
                 Arrived(taker);
                 return Guarded(taker.calls.tellUnknown);
@@ -374,6 +376,8 @@ private:
                 form->Cancel();
             else
                 static_cast<QMessageBox*>(modal)->accept();
+            if (modal->isVisible())
+                return Arrived(taker);
         }
         QTimer::singleShot(0, this, [this, taker, code] { GoOn(taker, code); });
     }
