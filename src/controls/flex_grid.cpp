@@ -498,7 +498,15 @@ GridFill::~GridFill()
 {
     // The selection falls to the title row with the old rows, as when they are cut off one by one.
     m_grid->SetRow(0);
+    if (m_rows->Cols() > m_grid->Cols())
+        m_grid->SetCols(m_rows->Cols());
     m_grid->Model()->Replace(std::move(*m_rows));
+}
+
+void GridFill::Widen(int cols)
+{
+    if (cols > m_rows->Cols())
+        m_rows->SetCols(cols);
 }
 
 void GridFill::Add(std::string_view utf8)

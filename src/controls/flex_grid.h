@@ -136,6 +136,8 @@ public:
     GridFill(const GridFill&) = delete;
     GridFill& operator=(const GridFill&) = delete;
 
+    /// Lets the rows have this many columns, when that is more than they have; the grid gets them with the rows.
+    void Widen(int cols);
     /// The next cell of the row being built; UTF-8 is copied as it is.
     void Add(std::string_view utf8);
     void Add(const QString& text);

@@ -3,11 +3,14 @@
 #include "base/numbers.h"
 #include "base/runtime_error.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace {
 constexpr int FirstCols = 2;
 constexpr size_t WasteWorthCompacting = 1 << 16;
+// More than any screen shows; a cell that holds a whole file would be converted with each painting.
+constexpr size_t ShownBytes = 1 << 13;
 
 Qt::Alignment QtAlignment(CellAlign alignment)
 {
@@ -33,12 +36,28 @@ QString FromUtf8(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
+
+/// The start of a text, cut between characters.
+std::string_view Start(std::string_view utf8, size_t bytes)
+{
+    constexpr auto IsInsideCharacter = [](char byte) { return (byte & 0xC0) == 0x80; };
+    while (bytes < utf8.size() && bytes > 0 && IsInsideCharacter(utf8[bytes]))
+        --bytes;
+    return utf8.substr(0, bytes);
+}
+
+/// Places are counted in 32 bits, which keeps the cells of large lists small.
+quint32 PlaceNumber(size_t number)
+{
+    if (number > std::numeric_limits<quint32>::max())
+        throw RuntimeError(7, QStringLiteral("Out of memory"));
+    return quint32(number);
+}
 } // namespace
 
 FlexGridRows::Place FlexGridRows::Append(std::string_view utf8)
 {
-    if (m_arena.size() + utf8.size() > std::numeric_limits<quint32>::max())
-        throw RuntimeError(7, QStringLiteral("Out of memory"));
+    PlaceNumber(m_arena.size() + utf8.size());
     const Place place{quint32(m_arena.size()), quint32(utf8.size())};
     m_arena.append(utf8);
     return place;
@@ -46,62 +65,79 @@ FlexGridRows::Place FlexGridRows::Append(std::string_view utf8)
 
 void FlexGridRows::Add(std::string_view utf8)
 {
-    if (m_cells.size() == (m_rowData.size() + 1) * size_t(m_cols))
+    if (m_cells.size() - m_building == size_t(m_cols))
         throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
     m_cells.push_back(Append(utf8));
 }
 
 void FlexGridRows::EndRow(qint64 rowData)
 {
-    m_rowData.push_back(rowData);
-    m_cells.resize(m_rowData.size() * size_t(m_cols));
+    const quint32 end = PlaceNumber(m_cells.size());
+    m_rows.push_back({rowData, m_building, end - m_building});
+    m_building = end;
 }
 
 std::string_view FlexGridRows::Cell(int row, int col) const
 {
-    const Place place = m_cells[size_t(row) * size_t(m_cols) + size_t(col)];
+    const Row& cells = m_rows[size_t(row)];
+    if (quint32(col) >= cells.count)
+        return {};
+    const Place place = m_cells[cells.first + size_t(col)];
     return std::string_view(m_arena).substr(place.start, place.length);
 }
 
 void FlexGridRows::SetCell(int row, int col, std::string_view utf8)
 {
-    Place& place = m_cells[size_t(row) * size_t(m_cols) + size_t(col)];
+    Row& cells = m_rows[size_t(row)];
+    if (quint32(col) >= cells.count)
+        Widen(cells, quint32(col) + 1);
+    Place& place = m_cells[cells.first + size_t(col)];
     m_waste += place.length;
     place = Append(utf8);
     if (m_waste > WasteWorthCompacting && m_waste > m_arena.size() / 2)
         Compact();
 }
 
+void FlexGridRows::Widen(Row& row, quint32 count)
+{
+    if (row.first + size_t(row.count) != m_cells.size()) {
+        m_waste += row.count * sizeof(Place);
+        const quint32 first = PlaceNumber(m_cells.size());
+        m_cells.resize(first + size_t(row.count));
+        std::copy_n(m_cells.begin() + row.first, row.count, m_cells.begin() + first);
+        row.first = first;
+    }
+    m_cells.resize(row.first + size_t(count));
+    row.count = count;
+    m_building = PlaceNumber(m_cells.size());
+}
+
 void FlexGridRows::Resize(int rows)
 {
     const bool shrinks = rows < Count();
-    m_rowData.resize(size_t(rows));
-    m_cells.resize(size_t(rows) * size_t(m_cols));
+    m_rows.resize(size_t(rows));
     if (shrinks)
         Compact();
 }
 
 void FlexGridRows::SetCols(int cols)
 {
-    FlexGridRows changed(cols);
-    for (int row = 0; row < Count(); ++row) {
-        for (int col = 0; col < qMin(cols, m_cols); ++col)
-            changed.Add(Cell(row, col));
-        changed.EndRow(Data(row));
-    }
-    *this = std::move(changed);
+    m_cols = cols;
+    for (Row& row : m_rows)
+        row.count = qMin(row.count, quint32(cols));
 }
 
 void FlexGridRows::Compact()
 {
-    std::string arena;
-    for (Place& place : m_cells) {
-        const auto start = quint32(arena.size());
-        arena.append(m_arena, place.start, place.length);
-        place.start = start;
+    FlexGridRows kept(m_cols);
+    for (const Row& row : m_rows) {
+        for (quint32 col = 0; col < row.count; ++col) {
+            const Place place = m_cells[row.first + size_t(col)];
+            kept.Add(std::string_view(m_arena).substr(place.start, place.length));
+        }
+        kept.EndRow(row.data);
     }
-    m_arena = std::move(arena);
-    m_waste = 0;
+    *this = std::move(kept);
 }
 
 FlexGridModel::FlexGridModel(QObject* parent)
@@ -127,7 +163,7 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return Text(index.row(), index.column());
+        return FromUtf8(Start(m_rows.Cell(index.row(), index.column()), ShownBytes));
     case Qt::TextAlignmentRole:
         return QVariant(CellAlignment(index.row(), index.column()));
     case Qt::UserRole:

@@ -5,9 +5,11 @@
 #include <QAbstractTableModel>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
-/// Rows of cells kept close: all texts lie in one arena, and a cell is a place in it.
+/// Rows of cells kept close: all texts lie in one arena, and a cell is a place in it. Cells behind the last one that a
+/// row was given are empty and take no room, so that one wide row costs the others nothing.
 class FlexGridRows {
 public:
     explicit FlexGridRows(int cols)
@@ -16,7 +18,9 @@ public:
     }
 
     int Cols() const { return m_cols; }
-    int Count() const { return int(m_rowData.size()); }
+    int Count() const { return int(m_rows.size()); }
+    /// How many cells the row was given; those behind them are empty.
+    int CellsOf(int row) const { return int(m_rows[size_t(row)].count); }
 
     /// The next cell of the row being built; further cells than there are columns are an error of the caller.
     void Add(std::string_view utf8);
@@ -25,8 +29,8 @@ public:
 
     std::string_view Cell(int row, int col) const;
     void SetCell(int row, int col, std::string_view utf8);
-    qint64 Data(int row) const { return m_rowData[size_t(row)]; }
-    void SetData(int row, qint64 data) { m_rowData[size_t(row)] = data; }
+    qint64 Data(int row) const { return m_rows[size_t(row)].data; }
+    void SetData(int row, qint64 data) { m_rows[size_t(row)].data = data; }
 
     void Resize(int rows);
     void SetCols(int cols);
@@ -36,16 +40,24 @@ private:
         quint32 start = 0;
         quint32 length = 0;
     };
+    struct Row {
+        qint64 data = 0;
+        quint32 first = 0; ///< of its cells
+        quint32 count = 0;
+    };
 
     Place Append(std::string_view utf8);
-    /// Drops the texts that no cell points at any more.
+    /// Gives the row cells up to this number of them.
+    void Widen(Row& row, quint32 count);
+    /// Drops the texts that no cell points at any more, and the cells of no row.
     void Compact();
 
     int m_cols;
     std::string m_arena;
     size_t m_waste = 0;
     std::vector<Place> m_cells;
-    std::vector<qint64> m_rowData;
+    std::vector<Row> m_rows;
+    quint32 m_building = 0; ///< the first cell of the row being built
 };
 
 /// The grid's rows as Qt sees them: without the title row, so that model row 0 is grid row 1. The row data is
@@ -61,6 +73,9 @@ public:
 
     /// Model rows; `row` and `col` must be in range.
     QString Text(int row, int col) const;
+    std::string_view Utf8(int row, int col) const { return m_rows.Cell(row, col); }
+    /// The cells of the row behind this many are empty.
+    int CellsOf(int row) const { return m_rows.CellsOf(row); }
     void SetText(int row, int col, const QString& text);
     qint64 RowData(int row) const { return m_rows.Data(row); }
     void SetRowData(int row, qint64 data);
