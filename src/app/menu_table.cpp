@@ -10,6 +10,7 @@
 #include "controls/dialogs.h"
 #include "exchange/csv_export_commands.h"
 #include "exchange/database_backup.h"
+#include "exchange/import_wizard.h"
 #include "exchange/mailing_list_wizard.h"
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
@@ -90,7 +91,11 @@ const QList<MenuRow>& MainMenu::Table()
     using Window = MainWindow;
     static const QList<MenuRow> table{
         Menu("mnuFile", QT_TR_NOOP("&File")),
-        Entry("mnuFileImportInventory", QT_TR_NOOP("Import In&ventory..."), nullptr),
+        Entry("mnuFileImportInventory", QT_TR_NOOP("Import In&ventory..."),
+            [](Window& window) {
+                if (RunImportWizard(&window))
+                    window.ViewInventory();
+            }),
         Separator(),
         Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), Export<ExportInvoices>),
         Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), Export<ExportInventory>),

@@ -1,5 +1,6 @@
 #include "base/text_encoding.h"
 
+#include <QStringDecoder>
 #include <QStringEncoder>
 
 #include <langinfo.h>
@@ -49,6 +50,23 @@ TextEncoding TextEncoding::Named(const QString& name)
     if (plain.isEmpty() || !IsKnown(plain))
         return OfSystem();
     return {plain, isMarked ? Mark::ByteOrder : Mark::None};
+}
+
+TextEncoding TextEncoding::OfOldFiles()
+{
+    const TextEncoding system = OfSystem();
+    return system.m_name == Utf8 ? TextEncoding("windows-1252", Mark::None) : system;
+}
+
+QByteArray TextEncoding::Decode(const QByteArray& bytes) const
+{
+    // In pieces, since a whole text of two bytes a letter would take three times the room.
+    constexpr qsizetype Piece = 1 << 20;
+    QStringDecoder decoder(m_name.constData());
+    QByteArray utf8;
+    for (qsizetype start = 0; start < bytes.size(); start += Piece)
+        utf8 += QString(decoder(QByteArrayView(bytes).sliced(start, qMin(Piece, bytes.size() - start)))).toUtf8();
+    return utf8;
 }
 
 QByteArray TextEncoding::Encode(std::string_view utf8) const

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-/// How the letters of a text become the bytes of a file for other programs.
+/// How the letters of a text become the bytes of a file that other programs share.
 class TextEncoding {
 public:
     /// The user's locale's own; UTF-8 where that is plain ASCII, as in the C locale, so that no name is lost.
@@ -13,6 +13,12 @@ public:
     /// By a name such as "windows-1252", "UTF-8" or "UTF-8 with BOM"; the system's for a name that nobody knows.
     static TextEncoding Named(const QString& name);
 
+    /// Of the bytes that are no UTF-8: the locale's own; where that is UTF-8, the one in which spreadsheets write,
+    /// windows-1252.
+    static TextEncoding OfOldFiles();
+
+    /// To UTF-8. Bytes that stand for no letter become the replacement sign.
+    QByteArray Decode(const QByteArray& bytes) const;
     /// What the encoding has no sign for becomes "?".
     QByteArray Encode(std::string_view utf8) const;
 
