@@ -11,6 +11,7 @@ void MeasureLists(RunningProgram& program);
 void MeasureScans(RunningProgram& program);
 void MeasureReports(RunningProgram& program);
 void MeasureFanOut(RunningProgram& program);
+void MeasureImport(RunningProgram& program);
 void MeasureStatistics(RunningProgram& program);
 void MeasureCharts(RunningProgram& program);
 /// In processes of their own, since a start happens once in a process.

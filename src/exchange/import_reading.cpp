@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr size_t PieceBytes = 2 << 20;
+constexpr size_t PieceBytes = 1 << 19;
 
 QString Text(std::string_view utf8)
 {
