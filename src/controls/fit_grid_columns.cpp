@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 #include <vector>
 
@@ -25,10 +26,12 @@ public:
     explicit Ruler(const QFontMetrics& metrics)
         : m_metrics(metrics)
     {
+        // Rounded up, so that no text is wider than the sum.
+        const QFontMetricsF fine(metrics);
         for (size_t byte = 0; byte < m_advances.size(); ++byte) {
             // A character of several bytes counts as a wide one at its first byte and as nothing at the others.
             if (byte < FirstOfSeveral)
-                m_advances[byte] = metrics.horizontalAdvance(QChar(ushort(byte)));
+                m_advances[byte] = int(std::ceil(fine.horizontalAdvance(QChar(ushort(byte)))));
             else if (byte >= FirstLead)
                 m_advances[byte] = std::max(metrics.maxWidth(), metrics.height());
             m_widest = std::max(m_widest, m_advances[byte]);

@@ -2,8 +2,6 @@
 
 #include "base/runtime_error.h"
 
-#include <QString>
-
 namespace {
 
 bool IsInsideCharacter(char byte)
@@ -57,7 +55,7 @@ void CsvReader::ReadTitles()
     size_t start = m_pos;
     for (; !AtLineEnd(); ++m_pos) {
         if (m_pos >= m_text.size())
-            throw RuntimeError(62, QStringLiteral("Input past end of file"));
+            throw RuntimeError(62, tr("The first line has no end. Lines must end with CR LF."));
         if (Here() == ',') {
             Store(WithoutBlanks(From(start)));
             start = m_pos + 1;

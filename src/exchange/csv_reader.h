@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include <array>
 #include <deque>
 #include <optional>
@@ -15,6 +17,7 @@
 /// blank the opening separator of the next cell is passed over, and of a line that ends in a quoted cell the line end
 /// is: the next line goes on in the same row. A doubled separator has no meaning.
 class CsvReader {
+    Q_DECLARE_TR_FUNCTIONS(CsvReader)
 public:
     /// What a column's number has room for.
     static constexpr size_t MostColumns = 32768;

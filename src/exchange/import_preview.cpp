@@ -111,6 +111,7 @@ void frmWizImport_Preview::ReadAgain()
 {
     m_reading.reset();
     cmdNext->setEnabled(false);
+    lblRows->clear();
     m_timer->start();
 }
 

@@ -263,7 +263,8 @@ void WriteTo(const QString& path, const QByteArray& text)
 
 INSTANTIATE_TEST_SUITE_P(Files, BadImportFileTest,
     ::testing::Values(BadFile{[](const QString& path) { WriteTo(path, ""); }, ""},
-        BadFile{[](const QString& path) { WriteTo(path, "a,b\nc,d\n"); }, "Input past end of file"},
+        BadFile{[](const QString& path) { WriteTo(path, "a,b\nc,d\n"); },
+            "The first line has no end. Lines must end with CR LF."},
         BadFile{[](const QString& path) { WriteTo(path, QByteArray(40'000, ',') + "\r\n"); }, "Overflow"},
         BadFile{[](const QString&) {}, "No such file or directory"},
         BadFile{[](const QString& path) { QDir().mkpath(path); }, "Path/File access error"},
