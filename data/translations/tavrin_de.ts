@@ -128,6 +128,13 @@
     </message>
 </context>
 <context>
+    <name>CsvReader</name>
+    <message>
+        <source>The first line has no end. Lines must end with CR LF.</source>
+        <translation>Die erste Zeile hat kein Ende. Zeilen müssen mit CR LF enden.</translation>
+    </message>
+</context>
+<context>
     <name>CustomerCommands</name>
     <message>
         <source>This customer has existing invoices and cannot be deleted. To delete this customer first delete all their invoices.</source>
@@ -274,6 +281,64 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Invalid Col value</source>
         <translation>Ungültiger Wert für Col</translation>
+    </message>
+</context>
+<context>
+    <name>ImportFields</name>
+    <message>
+        <source>Item Name</source>
+        <translation>Artikelbezeichnung</translation>
+    </message>
+    <message>
+        <source>Item Ref. Number</source>
+        <translation>Artikelnummer</translation>
+    </message>
+    <message>
+        <source>Item Description</source>
+        <translation>Artikelbeschreibung</translation>
+    </message>
+    <message>
+        <source>Item Barcode</source>
+        <translation>Barcode des Artikels</translation>
+    </message>
+    <message>
+        <source>Item Location</source>
+        <translation>Lagerplatz</translation>
+    </message>
+    <message>
+        <source>Item Sub-Category</source>
+        <translation>Unterkategorie</translation>
+    </message>
+    <message>
+        <source>Item Vendor</source>
+        <translation>Lieferant</translation>
+    </message>
+    <message>
+        <source>Item Tax Rate</source>
+        <translation>Steuersatz</translation>
+    </message>
+    <message>
+        <source>Number in Stock</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Reorder Level</source>
+        <translation>Meldebestand</translation>
+    </message>
+    <message>
+        <source>Minimum Stock Level</source>
+        <translation>Mindestbestand</translation>
+    </message>
+    <message>
+        <source>Warranty Returns</source>
+        <translation>Garantierückgaben</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReading</name>
+    <message>
+        <source>Field%1</source>
+        <translation>Feld%1</translation>
     </message>
 </context>
 <context>
@@ -3046,6 +3111,110 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Using this wizard you can configure your inventory details.</source>
         <translation>Mit diesem Assistenten richten Sie Ihre Bestandsverwaltung ein.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Complete</name>
+    <message>
+        <source>Data has been imported. Click Finish to close the wizard.</source>
+        <translation>Die Daten wurden importiert. Klicken Sie auf Fertigstellen, um den Assistenten zu schließen.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_File</name>
+    <message>
+        <source>Choose the file to import</source>
+        <translation>Datei für den Import auswählen</translation>
+    </message>
+    <message>
+        <source>Enter the CSV file to import or click browse to locate it.</source>
+        <translation>Geben Sie die CSV-Datei ein, die importiert werden soll, oder klicken Sie auf Durchsuchen.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>Du&amp;rchsuchen</translation>
+    </message>
+    <message>
+        <source>CSV file to import:</source>
+        <translation>CSV-Datei:</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv)</source>
+        <translation>CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Unable to read file, please check you have permissions and try again.</source>
+        <translation>Die Datei kann nicht gelesen werden. Bitte prüfen Sie Ihre Zugriffsrechte und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>No file has been entered. Please enter a file to continue.</source>
+        <translation>Es wurde keine Datei angegeben. Bitte geben Sie eine Datei an, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Cannot open file. Please select a file to continue.</source>
+        <translation>Die Datei kann nicht geöffnet werden. Bitte wählen Sie eine Datei aus, um fortzufahren.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Preview</name>
+    <message>
+        <source>(none)</source>
+        <translation>(keines)</translation>
+    </message>
+    <message>
+        <source>Choose the fields to import</source>
+        <translation>Felder für den Import auswählen</translation>
+    </message>
+    <message>
+        <source>Choose the fields you want to import.</source>
+        <translation>Wählen Sie die Felder aus, die Sie importieren möchten.</translation>
+    </message>
+    <message>
+        <source>First line has field names</source>
+        <translation>Erste Zeile enthält Feldnamen</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Vorschau:</translation>
+    </message>
+    <message>
+        <source>Importing records</source>
+        <translation>Datensätze werden importiert</translation>
+    </message>
+    <message>
+        <source>String separator:</source>
+        <translation>Textbegrenzer:</translation>
+    </message>
+    <message>
+        <source>Import Fields:</source>
+        <translation>Felder:</translation>
+    </message>
+    <message>
+        <source>(ignore)</source>
+        <translation>(nicht importieren)</translation>
+    </message>
+    <message>
+        <source>%1 records.</source>
+        <translation>%1 Datensätze.</translation>
+    </message>
+    <message>
+        <source>Unable to to import CSV file.</source>
+        <translation>Die CSV-Datei kann nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>Error occured when importing record %1</source>
+        <translation>Fehler beim Import von Datensatz %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Welcome</name>
+    <message>
+        <source>Inventory Import Wizard</source>
+        <translation>Assistent für den Artikelimport</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can import inventory information.</source>
+        <translation>Mit diesem Assistenten können Sie Artikeldaten importieren.</translation>
     </message>
 </context>
 <context>

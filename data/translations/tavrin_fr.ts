@@ -128,6 +128,13 @@
     </message>
 </context>
 <context>
+    <name>CsvReader</name>
+    <message>
+        <source>The first line has no end. Lines must end with CR LF.</source>
+        <translation>La première ligne n’a pas de fin. Les lignes doivent se terminer par CR LF.</translation>
+    </message>
+</context>
+<context>
     <name>CustomerCommands</name>
     <message>
         <source>This customer has existing invoices and cannot be deleted. To delete this customer first delete all their invoices.</source>
@@ -274,6 +281,64 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Invalid Col value</source>
         <translation>Valeur de Col non valide</translation>
+    </message>
+</context>
+<context>
+    <name>ImportFields</name>
+    <message>
+        <source>Item Name</source>
+        <translation>Nom de l’article</translation>
+    </message>
+    <message>
+        <source>Item Ref. Number</source>
+        <translation>Référence de l’article</translation>
+    </message>
+    <message>
+        <source>Item Description</source>
+        <translation>Description de l’article</translation>
+    </message>
+    <message>
+        <source>Item Barcode</source>
+        <translation>Code-barres de l’article</translation>
+    </message>
+    <message>
+        <source>Item Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Item Sub-Category</source>
+        <translation>Sous-catégorie</translation>
+    </message>
+    <message>
+        <source>Item Vendor</source>
+        <translation>Fournisseur</translation>
+    </message>
+    <message>
+        <source>Item Tax Rate</source>
+        <translation>Taux de taxe</translation>
+    </message>
+    <message>
+        <source>Number in Stock</source>
+        <translation>Quantité en stock</translation>
+    </message>
+    <message>
+        <source>Reorder Level</source>
+        <translation>Seuil de réapprovisionnement</translation>
+    </message>
+    <message>
+        <source>Minimum Stock Level</source>
+        <translation>Stock minimum</translation>
+    </message>
+    <message>
+        <source>Warranty Returns</source>
+        <translation>Retours sous garantie</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReading</name>
+    <message>
+        <source>Field%1</source>
+        <translation>Champ%1</translation>
     </message>
 </context>
 <context>
@@ -3046,6 +3111,110 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Using this wizard you can configure your inventory details.</source>
         <translation>Cet assistant vous permet de configurer votre gestion de stock.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Complete</name>
+    <message>
+        <source>Data has been imported. Click Finish to close the wizard.</source>
+        <translation>Les données ont été importées. Cliquez sur Terminer pour fermer l’assistant.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_File</name>
+    <message>
+        <source>Choose the file to import</source>
+        <translation>Choix du fichier à importer</translation>
+    </message>
+    <message>
+        <source>Enter the CSV file to import or click browse to locate it.</source>
+        <translation>Entrez le fichier CSV à importer ou cliquez sur Parcourir pour le trouver.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>Pa&amp;rcourir</translation>
+    </message>
+    <message>
+        <source>CSV file to import:</source>
+        <translation>Fichier CSV à importer :</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv)</source>
+        <translation>CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Unable to read file, please check you have permissions and try again.</source>
+        <translation>Impossible de lire le fichier. Vérifiez vos droits d’accès et réessayez.</translation>
+    </message>
+    <message>
+        <source>No file has been entered. Please enter a file to continue.</source>
+        <translation>Aucun fichier n’a été indiqué. Indiquez un fichier pour continuer.</translation>
+    </message>
+    <message>
+        <source>Cannot open file. Please select a file to continue.</source>
+        <translation>Impossible d’ouvrir le fichier. Choisissez un fichier pour continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Preview</name>
+    <message>
+        <source>(none)</source>
+        <translation>(aucun)</translation>
+    </message>
+    <message>
+        <source>Choose the fields to import</source>
+        <translation>Choix des champs à importer</translation>
+    </message>
+    <message>
+        <source>Choose the fields you want to import.</source>
+        <translation>Choisissez les champs que vous voulez importer.</translation>
+    </message>
+    <message>
+        <source>First line has field names</source>
+        <translation>La première ligne contient les noms des champs</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Aperçu :</translation>
+    </message>
+    <message>
+        <source>Importing records</source>
+        <translation>Importation des enregistrements</translation>
+    </message>
+    <message>
+        <source>String separator:</source>
+        <translation>Séparateur de texte :</translation>
+    </message>
+    <message>
+        <source>Import Fields:</source>
+        <translation>Champs à importer :</translation>
+    </message>
+    <message>
+        <source>(ignore)</source>
+        <translation>(ignorer)</translation>
+    </message>
+    <message>
+        <source>%1 records.</source>
+        <translation>%1 enregistrements.</translation>
+    </message>
+    <message>
+        <source>Unable to to import CSV file.</source>
+        <translation>Impossible d’importer le fichier CSV.</translation>
+    </message>
+    <message>
+        <source>Error occured when importing record %1</source>
+        <translation>Erreur lors de l’importation de l’enregistrement %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Welcome</name>
+    <message>
+        <source>Inventory Import Wizard</source>
+        <translation>Assistant d’importation de l’inventaire</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can import inventory information.</source>
+        <translation>Avec cet assistant, vous pouvez importer des données d’inventaire.</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "exchange/import_records.h"
+#include "inventory/name_label.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -80,8 +81,7 @@ void frmWizImport_Preview::ShowFields()
     QGridLayout* lines = fields({});
     for (qsizetype i = 0; i < m_fields.size(); ++i) {
         const FieldRow& field = m_fields.at(i);
-        field.label->setTextFormat(Qt::PlainText);
-        field.label->setText(m_wizard.ImportFields.at(i).Caption + u':');
+        ShowName(field.label, m_wizard.ImportFields.at(i).Caption);
         AddFieldLine(lines, {field.label, field.source});
     }
     picFore->setLayout(lines);

@@ -2,9 +2,10 @@
 #include "exchange/import_pages.h"
 #include "exchange/import_preview.h"
 #include "exchange/import_wizard.h"
+#include "support/files.h"
 #include "support/form_check.h"
 #include "support/golden.h"
-#include "support/screen.h"
+#include "support/wizard_walk.h"
 
 #include <QTest>
 
@@ -24,33 +25,12 @@ protected:
         Write(Goods);
     }
 
-    void Write(const QByteArray& text) const
-    {
-        QFile file(File());
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        file.write(text);
-    }
+    void Write(const QByteArray& text) const { WriteFile(File(), text); }
 
-    /// Once the wizard comes to this page, lets `visit` fill it, and clicks Next unless the visit has left the page.
-    template <typename Page>
-    static void At(std::function<void(Page&)> visit = {})
-    {
-        WhenFormShows<Page>([visit](Page& page) {
-            if (visit)
-                visit(page);
-            if (page.isVisible())
-                Click(page.cmdNext);
-        });
-    }
-    static void ToPreview()
-    {
-        At<frmWizImport_Welcome>();
-        At<frmWizImport_File>();
-    }
-    /// As At, when the file is read.
+    /// As AtPage, once the file is read.
     static void AtPreview(std::function<void(frmWizImport_Preview&)> visit)
     {
-        At<frmWizImport_Preview>([visit](frmWizImport_Preview& page) {
+        AtPage<frmWizImport_Preview>([visit](frmWizImport_Preview& page) {
             AwaitReading(page);
             visit(page);
         });
@@ -84,8 +64,8 @@ TEST_F(ImportWizardTest, AsksWordForWordAndImportsWhatWasChosen)
         CheckForm(page, {}, "B");
         texts += ScreenText(&page);
     };
-    At<frmWizImport_Welcome>(check);
-    At<frmWizImport_File>([&](frmWizImport_File& page) {
+    AtPage<frmWizImport_Welcome>(check);
+    AtPage<frmWizImport_File>([&](frmWizImport_File& page) {
         check(page);
         const QString noFile = "No file has been entered. Please enter a file to continue.";
         const QString noSuchFile = "Cannot open file. Please select a file to continue.";
@@ -112,7 +92,7 @@ TEST_F(ImportWizardTest, AsksWordForWordAndImportsWhatWasChosen)
         PickSource(page, SalePrice, "Price");
         PickSource(page, Vendor, "Vendor");
     });
-    At<frmWizImport_Complete>(check);
+    AtPage<frmWizImport_Complete>(check);
     EXPECT_TRUE(RunImportWizard(nullptr));
     ExpectGolden(texts, "import_wizard.txt");
     EXPECT_EQ(Rows("SELECT item.Name, BusinessName, Price FROM item JOIN vendor ON VendorID = vendor.id "
@@ -143,7 +123,7 @@ class ImportPreviewTest : public ImportWizardTest, public ::testing::WithParamIn
 TEST_P(ImportPreviewTest, ShowsTheFile)
 {
     Write(GetParam().text);
-    ToPreview();
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
     AtPreview([](frmWizImport_Preview& page) {
         page.chkFirstLine->setChecked(GetParam().titles);
         Pick(page.cboSep, GetParam().separator);
@@ -168,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Files, ImportPreviewTest,
 
 TEST_F(ImportWizardTest, TheMappingOutlivesNextAlone)
 {
-    ToPreview();
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
     AtPreview([](frmWizImport_Preview& page) {
         PickSource(page, Name, "Vendor");
         Pick(page.cboSep, "#");
@@ -179,13 +159,13 @@ TEST_F(ImportWizardTest, TheMappingOutlivesNextAlone)
         PickSource(page, Name, "Vendor");
         Click(page.cmdBack);
     });
-    At<frmWizImport_File>();
+    NextOn<frmWizImport_File>();
     AtPreview([](frmWizImport_Preview& page) {
         EXPECT_EQ(Source(page, Name)->Text(), "(ignore)");
         PickSource(page, Name, "Name");
         PickSource(page, Vendor, "Vendor");
     });
-    At<frmWizImport_Complete>([this](frmWizImport_Complete& page) {
+    AtPage<frmWizImport_Complete>([this](frmWizImport_Complete& page) {
         EXPECT_EQ(Count("item"), 2);
         Write("Name\r\nNut\r\n");
         Click(page.cmdBack);
@@ -194,11 +174,11 @@ TEST_F(ImportWizardTest, TheMappingOutlivesNextAlone)
         EXPECT_EQ(Source(page, Name)->Text(), "Name");
         EXPECT_EQ(Source(page, Vendor)->Text(), "(ignore)"); // its column is gone
     });
-    At<frmWizImport_Complete>([](frmWizImport_Complete& page) { Click(page.cmdCancel); });
+    AtPage<frmWizImport_Complete>([](frmWizImport_Complete& page) { Click(page.cmdCancel); });
     EXPECT_FALSE(RunImportWizard(nullptr));
     EXPECT_EQ(Count("item"), 3);
 
-    ToPreview();
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
     AtPreview([](frmWizImport_Preview& page) {
         EXPECT_EQ(Source(page, Name)->Text(), "(ignore)");
         Click(page.cmdCancel);
@@ -209,7 +189,7 @@ TEST_F(ImportWizardTest, TheMappingOutlivesNextAlone)
 TEST_F(ImportWizardTest, AFailingRecordIsNamedAndTheWizardGoesOn)
 {
     Write("Vendor\r\nAnn\r\n" + QByteArray(256, 'v') + "\r\n");
-    ToPreview();
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
     AtPreview([this](frmWizImport_Preview& page) {
         PickSource(page, Vendor, "Vendor");
         answers.ExpectMessage(
@@ -217,7 +197,7 @@ TEST_F(ImportWizardTest, AFailingRecordIsNamedAndTheWizardGoesOn)
             "you attempted to add. Try inserting or pasting less data.",
             Icon::Critical);
     });
-    At<frmWizImport_Complete>();
+    NextOn<frmWizImport_Complete>();
     EXPECT_TRUE(RunImportWizard(nullptr));
     EXPECT_EQ(Count("item"), 1);
 }
@@ -240,8 +220,8 @@ class BadImportFileTest : public ImportWizardTest, public ::testing::WithParamIn
 
 TEST_P(BadImportFileTest, IsToldAndNotImported)
 {
-    ToPreview();
-    At<frmWizImport_Preview>([this](frmWizImport_Preview& page) {
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
+    AtPage<frmWizImport_Preview>([this](frmWizImport_Preview& page) {
         AwaitReading(page);
         QFile::remove(File());
         GetParam().make(File());
@@ -254,18 +234,11 @@ TEST_P(BadImportFileTest, IsToldAndNotImported)
     EXPECT_FALSE(RunImportWizard(nullptr));
 }
 
-void WriteTo(const QString& path, const QByteArray& text)
-{
-    QFile file(path);
-    if (file.open(QFile::WriteOnly))
-        file.write(text);
-}
-
 INSTANTIATE_TEST_SUITE_P(Files, BadImportFileTest,
-    ::testing::Values(BadFile{[](const QString& path) { WriteTo(path, ""); }, ""},
-        BadFile{[](const QString& path) { WriteTo(path, "a,b\nc,d\n"); },
+    ::testing::Values(BadFile{[](const QString& path) { WriteFile(path, ""); }, ""},
+        BadFile{[](const QString& path) { WriteFile(path, "a,b\nc,d\n"); },
             "The first line has no end. Lines must end with CR LF."},
-        BadFile{[](const QString& path) { WriteTo(path, QByteArray(40'000, ',') + "\r\n"); }, "Overflow"},
+        BadFile{[](const QString& path) { WriteFile(path, QByteArray(40'000, ',') + "\r\n"); }, "Overflow"},
         BadFile{[](const QString&) {}, "No such file or directory"},
         BadFile{[](const QString& path) { QDir().mkpath(path); }, "Path/File access error"},
         BadFile{[](const QString& path) { mkfifo(qPrintable(path), 0600); }, "Path/File access error"}));
@@ -274,14 +247,14 @@ TEST_F(ImportWizardTest, AReadingThatIsLeftOrStartedAnewStops)
 {
     const QByteArray large = Goods + QByteArray("Nut,1.50,Ann\r\n").repeated(1 << 17);
     Write(large);
-    ToPreview();
-    At<frmWizImport_Preview>([](frmWizImport_Preview& page) {
+    NextOn<frmWizImport_Welcome, frmWizImport_File>();
+    AtPage<frmWizImport_Preview>([](frmWizImport_Preview& page) {
         EXPECT_TRUE(QTest::qWaitFor([&page] { return !page.lblRows->text().isEmpty(); }));
         EXPECT_FALSE(page.cmdNext->isEnabled());
         Pick(page.cboSep, "#");
         page.close();
     });
-    At<frmWizImport_Preview>([](frmWizImport_Preview& page) {
+    AtPage<frmWizImport_Preview>([](frmWizImport_Preview& page) {
         AwaitReading(page);
         EXPECT_EQ(page.lblRows->text(), "131075 records.");
         page.chkFirstLine->click();

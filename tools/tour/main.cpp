@@ -83,7 +83,7 @@ void WriteRows(const QString& folder, const QString& file)
 void Walk(const QString& folder, const QString& pictureFolder, const QString& language)
 {
     // The told English captions use these letters twice.
-    Album album(pictureFolder, language.isEmpty() ? QStringLiteral("AERC") : QString());
+    Album album(pictureFolder, language.isEmpty() ? QStringLiteral("AERCB") : QString());
     Program program;
     album.Chapter("The first start");
     StartForTheFirstTime(program, album);

@@ -6,11 +6,17 @@
 #include "base/files.h"
 #include "support/screen.h"
 
+#include <gtest/gtest.h>
+
 #include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
 #include <QImage>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
 
 namespace {
 
@@ -73,6 +79,37 @@ void ListAddresses(MainWindow& window, Album& album, const QString& file)
     ChooseFromMenu(window, "mnuCustomers", "mnuCustMailingList", album, "mailing-list-in-the-customers-menu");
 }
 
+QString WriteItems(const QString& folder)
+{
+    QFile file(folder + QStringLiteral("/new items.csv"));
+    if (file.open(QFile::WriteOnly))
+        file.write("Article,Supplier,Price,On hand\r\nBrass Lantern,Harbour Lamps,49.50,6\r\n"
+                   "Storm Lantern,Harbour Lamps,39.90,12\r\nLamp Oil 1 l,,6.25,40\r\n");
+    return file.fileName();
+}
+
+void ImportItems(MainWindow& window, Album& album, const QString& file)
+{
+    Turn(album, "frmWizImport_Welcome", "import-welcome");
+    Turn(album, "frmWizImport_File", "import-file",
+        [file](QDialog& page) { Type(Find<QWidget>(&page, "txtName"), file); });
+    Turn(album, "frmWizImport_Preview", "import-preview-and-fields", [](QDialog& page) {
+        auto* next = Find<QPushButton>(&page, "cmdNext");
+        EXPECT_TRUE(QTest::qWaitFor([next] { return next->isEnabled(); })) << "the file is not read";
+        auto* rows = Find<QScrollArea>(&page, "picBack");
+        for (const auto& [field, title] :
+            {std::pair("cboImportField_13", "Price"), std::pair("cboImportField_9", "On hand"),
+                std::pair("cboImportField_7", "Supplier"), std::pair("cboImportField_1", "Article")}) {
+            auto* source = Find<QComboBox>(&page, field);
+            rows->ensureWidgetVisible(source);
+            Pick(source, QLatin1String(title));
+        }
+    });
+    Turn(album, "frmWizImport_Complete", "import-finish");
+    ChooseFromMenu(window, "mnuFile", "mnuFileImportInventory", album, "import-in-the-file-menu");
+    album.Take("imported-items");
+}
+
 } // namespace
 
 void RunTheWizards(Program& program, Album& album, const QString& folder)
@@ -84,4 +121,5 @@ void RunTheWizards(Program& program, Album& album, const QString& folder)
     Configure(window, album, PaintLogo(folder));
     SetProgramFolder(programFolder);
     ListAddresses(window, album, folder + QStringLiteral("/mailing list.txt"));
+    ImportItems(window, album, WriteItems(folder));
 }

@@ -4,5 +4,6 @@
 
 class Program;
 
-/// Tells the program of the business with the configuration wizard, and writes the mailing list to a file of `folder`.
+/// Tells the program of the business with the configuration wizard, writes the mailing list to a file of `folder` and
+/// imports items from another.
 void RunTheWizards(Program& program, Album& album, const QString& folder);
