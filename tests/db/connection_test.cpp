@@ -93,6 +93,16 @@ TEST(Markers, AreFilledByNameWhateverTheValuesHold)
 
 class Writing : public DatabaseTest { };
 
+/// Adds rows of more bytes than a page.
+void AddRows(Connection& connection, int count)
+{
+    for (AddRow row(connection, "invoice"); count > 0; --count) {
+        row.AddNew();
+        row.Set("Notes", QString(5000, u'x'));
+        row.Update();
+    }
+}
+
 TEST_F(Writing, QuotesArriveUnchangedOnBothPaths)
 {
     const QString text = "O'Brien \"Bob\" {x} ''";
@@ -160,12 +170,7 @@ TEST_F(Writing, AKilledProcessLeavesTheOldRows)
         connection.Private().RunPlain("PRAGMA cache_size = 1");
         InBatch(connection, [&] {
             connection.Execute("UPDATE item SET noinstock = 1");
-            for (int i = 0; i < 200; ++i) {
-                AddRow row(connection, "invoice");
-                row.AddNew();
-                row.Set("Notes", QString(5000, u'x'));
-                row.Update();
-            }
+            AddRows(connection, 200);
             kill(getpid(), SIGKILL);
         });
     }
@@ -254,12 +259,7 @@ TEST_F(Opening, AJournalOfAnotherFileIsSetAside)
     QByteArray crashedFile, crashedJournal;
     InBatch(*gConnection, [&] {
         gConnection->Private().RunPlain("PRAGMA cache_size = 1");
-        for (int i = 0; i < 50; ++i) {
-            AddRow row(*gConnection, "item");
-            row.AddNew();
-            row.Set("Description", QString(5000, u'x'));
-            row.Update();
-        }
+        AddRows(*gConnection, 50);
         crashedFile = ReadFile(DatabasePath());
         crashedJournal = ReadFile(DatabasePath() + "-journal");
     });
@@ -269,7 +269,7 @@ TEST_F(Opening, AJournalOfAnotherFileIsSetAside)
     Connection connection;
     connection.Open(own);
     EXPECT_EQ(connection.Execute("SELECT name FROM warehouse").Text(0), "moved again");
-    EXPECT_EQ(connection.Execute("SELECT COUNT(*) FROM item").Long(0), 0) << "its own journal rolls back";
+    EXPECT_EQ(connection.Execute("SELECT COUNT(*) FROM invoice").Long(0), 0) << "its own journal rolls back";
     EXPECT_FALSE(QFile::exists(own + "-journal-of-another-file"));
 
     const QString restored = FileWithJournal("/restored.mdb", backup, crashedJournal);

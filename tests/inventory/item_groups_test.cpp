@@ -2,8 +2,6 @@
 #include "inventory/item_groups.h"
 #include "inventory_test.h"
 
-#include <QTest>
-
 namespace {
 
 class ItemGroupsTest : public PanelTest<ItemGroups> {
@@ -105,20 +103,6 @@ TEST_F(ItemGroupsTest, EnterInTheListOfItemsAddsTheItemAndElsewhereSavesAlsoForG
     Press(form->txtName, Qt::Key_Return);
     EXPECT_EQ(Count("itemgroup"), 0) << "zero is no group";
     EXPECT_EQ(Members(), Member(0, saw));
-}
-
-TEST_F(ItemGroupsTest, AnItemIsFoundAmongAHundredThousandByTypingItsName)
-{
-    Run("INSERT INTO item (name) WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 100000) "
-        "SELECT 'Item ' || printf('%06d', x) FROM n");
-    Run("INSERT INTO item (name) VALUES ('Zebra stripe'), ('Zebra hoof')");
-    OpenForm(NewRow);
-    EXPECT_EQ(form->cboItems->ListCount(), 100002);
-    form->cboItems->setFocus();
-    QTest::keyClicks(form->cboItems, "zebra s");
-    EXPECT_EQ(form->cboItems->Text(), "Zebra stripe");
-    Click(form->cmdAdd);
-    EXPECT_EQ(GridRows(form->gItems), Table({{"Zebra stripe"}}));
 }
 
 } // namespace

@@ -18,11 +18,9 @@ protected:
         trade = PriceListRow("Trade");
         hammer = Item("Hammer").Number("H-1").Description("steel").Stock(5).Price("12.50").SubCategory(hand).Add();
         drill = Item("Drill").Number("D-1").Description("for O'Brien").Stock(2).Price("99").SubCategory(power).Add();
-        glue = Item("Glue").Number("G-1").Description("steel and wood").Stock(0).Price("3").SubCategory(1).Add();
-        Run(QStringLiteral("UPDATE itempricelist SET price = 80 WHERE itemid = %1 AND pricelistid = %2")
-                .arg(drill)
-                .arg(trade));
-        Run(QStringLiteral("DELETE FROM itempricelist WHERE itemid = %1 AND pricelistid = %2").arg(glue).arg(trade));
+        Run("UPDATE itempricelist SET price = 80 WHERE price = 0 AND itemid = (SELECT max(id) FROM item)");
+        Item("Glue").Number("G-1").Description("steel and wood").Stock(0).Price("3").SubCategory(1).Add();
+        Run("DELETE FROM itempricelist WHERE itemid = (SELECT max(id) FROM item) AND pricelistid <> 1");
     }
 
     std::unique_ptr<frmAddOrderItem> Form(qint64 priceList = 1) const
@@ -44,7 +42,7 @@ protected:
     }
 
     int tools = 0, hand = 0, power = 0, trade = 0;
-    int hammer = 0, drill = 0, glue = 0;
+    int hammer = 0, drill = 0;
 };
 
 TEST_F(AddOrderItem, OpensWithAllItemsAtThePricesOfTheInvoicesList)
