@@ -189,7 +189,8 @@ public:
     double Send(QObject& receiver, QChar character) const
     {
         const bool isEnter = character == u'\r';
-        QKeyEvent press(QEvent::KeyPress, isEnter ? Qt::Key_Return : character.unicode(), Qt::NoModifier, character);
+        const int code = isEnter ? int(Qt::Key_Return) : int(character.unicode());
+        QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, character);
         QKeyEvent release(QEvent::KeyRelease, press.key(), Qt::NoModifier, character);
         press.setTimestamp(m_time);
         release.setTimestamp(m_time);
@@ -232,8 +233,9 @@ void MeasureScanner(RunningProgram& program)
         toDisk.Add(keyboard.Press(u'\r'));
     }
     count.Run(invoice);
-    Report("30 scans at 10 ms a key, late or lost", late + double(Lines + CodesInARow - count.Number()), 0, 0, "scans");
-    Report("such a scan, Enter to the line on disk, slowest", toDisk.Percentile99(), 0, 14 * KeyMs, "ms");
+    PrintFigure(
+        "30 scans at 10 ms a key, late or lost", late + double(Lines + CodesInARow - count.Number()), 0, 0, "scans");
+    PrintFigure("such a scan, Enter to the line on disk, slowest", toDisk.Percentile99(), 0, 14 * KeyMs, "ms");
 
     constexpr int Bursts = 200;
     Times inList, inText, typing;
@@ -256,9 +258,9 @@ void MeasureScanner(RunningProgram& program)
         LetPaint();
     }
     constexpr double MostMs = 0.02;
-    Report("a key of a scan, recognised in a list", inList.Median() * 1000, 0, MostMs * 1000, "us");
-    Report("a key of a scan, recognised in a text box, beyond typing it", (inText.Median() - typing.Median()) * 1000, 0,
-        MostMs * 1000, "us");
+    PrintFigure("a key of a scan, recognised in a list", inList.Median() * 1000, 0, MostMs * 1000, "us");
+    PrintFigure("a key of a scan, recognised in a text box, beyond typing it",
+        (inText.Median() - typing.Median()) * 1000, 0, MostMs * 1000, "us");
 }
 
 } // namespace
