@@ -108,7 +108,8 @@ void LetAccessKeysFocus()
 
 void PressWithKey(QPushButton* button, QWidget* screen, const QKeySequence& key)
 {
-    button->setToolTip(key.toString(QKeySequence::NativeText));
+    const QString caption = button->text().remove(u'&');
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText)));
     auto* shortcut = new QShortcut(key, screen);
     shortcut->setAutoRepeat(false);
     QObject::connect(shortcut, &QShortcut::activated, button, [button] {

@@ -188,7 +188,8 @@ QLayout* InvoicePage::EndButtons()
 void InvoicePage::ConnectKeys()
 {
     const QKeySequence toBarCode(Qt::Key_F6);
-    txtBarcode->setToolTip(toBarCode.toString(QKeySequence::NativeText));
+    txtBarcode->setToolTip(
+        QStringLiteral("%1 (%2)").arg(txtBarcode->accessibleName(), toBarCode.toString(QKeySequence::NativeText)));
     On(new QShortcut(toBarCode, this), &QShortcut::activated, txtBarcode, &TextBox::FocusAll);
     PressWithKey(cmdAddOrderItem, this, Qt::Key_F7);
     PressWithKey(cmdNewInvoiceCustSearch, this, Qt::Key_F8);

@@ -13,11 +13,4 @@ TEST(RetailCode, IsTheDigitsOfAnEanOrUpcWithTheRightCheckDigit)
         EXPECT_FALSE(IsRetailCode(text)) << text;
 }
 
-TEST(RetailCode, AUpcIsAnEanThatBeginsWithZero)
-{
-    for (auto [code, twin] : {std::pair("036000291452", "0036000291452"), {"0036000291452", "036000291452"},
-             {"4006381333931", ""}, {"03600029145", ""}, {"03600029145A", ""}, {"", ""}})
-        EXPECT_EQ(TwinOfRetailCode(code), twin) << code;
-}
-
 } // namespace
