@@ -2,106 +2,16 @@
 
 #include "base/runtime_error.h"
 #include "controls/flex_grid_model.h"
+#include "controls/flex_grid_paint.h"
 #include "controls/layout.h"
 
 #include <QGuiApplication>
-#include <QHeaderView>
-#include <QHelpEvent>
-#include <QKeyEvent>
-#include <QPainter>
-#include <QScrollBar>
-#include <QStyledItemDelegate>
-#include <QToolTip>
 
 namespace {
 constexpr int DefaultTwips = 960;
 constexpr int RowPadding = 6;
 // The grip of a title does not let itself be dragged to the very last pixel.
 constexpr int ShutPixels = 4;
-// More than any screen shows; a cell that holds a whole file is not laid out to its end.
-constexpr int ShownCharacters = 2000;
-
-/// Between a plain row and a selected one, so that a text is legible on it in any theme.
-QColor Tint(const QPalette& palette)
-{
-    constexpr float Strength = 0.35F;
-    const QColor plain = palette.color(QPalette::Base);
-    const QColor strong = palette.color(QPalette::Highlight);
-    const auto mix = [](float from, float to) { return from + (to - from) * Strength; };
-    return QColor::fromRgbF(
-        mix(plain.redF(), strong.redF()), mix(plain.greenF(), strong.greenF()), mix(plain.blueF(), strong.blueF()));
-}
-
-/// Paints a cell on one line, without a frame around the current one: it is rows that the user picks.
-class CellDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant& value, const QLocale&) const override
-    {
-        QString text = value.toString().left(ShownCharacters);
-        text.replace(QLatin1String("\r\n"), QLatin1String(" "));
-        return text.replace(u'\n', u' ');
-    }
-
-    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-        const QModelIndex& index) override
-    {
-        const QString text = index.data(Qt::DisplayRole).toString();
-        const bool elided = sizeHint(option, index).width() > option.rect.width();
-        if (event->type() != QEvent::ToolTip || !index.isValid() || !elided)
-            return QStyledItemDelegate::helpEvent(event, view, option, index);
-        QToolTip::showText(event->globalPos(), text.left(ShownCharacters).toHtmlEscaped(), view, option.rect);
-        return true;
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->state &= ~QStyle::State_HasFocus;
-        if (index.row() + 1 == static_cast<const FlexGrid*>(option->widget)->TintedRow()) {
-            option->state &= ~QStyle::State_Selected;
-            option->backgroundBrush = Tint(option->palette);
-        }
-    }
-};
-
-/// Shows the start of a title that is wider than its column. Qt cuts a centred title off at both ends.
-class TitleHeader : public QHeaderView {
-public:
-    explicit TitleHeader(QWidget* parent)
-        : QHeaderView(Qt::Horizontal, parent)
-    {
-    }
-
-    /// Asked with every refill, and measuring the titles each time would be a third of a short one. Titles have one
-    /// line, so that only font and style decide.
-    QSize sizeHint() const override
-    {
-        if (!m_sizeHint.isValid() && count() > 0)
-            m_sizeHint = QHeaderView::sizeHint();
-        return m_sizeHint.isValid() ? m_sizeHint : QHeaderView::sizeHint();
-    }
-
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-            m_sizeHint = QSize();
-        QHeaderView::changeEvent(event);
-    }
-
-    void initStyleOptionForIndex(QStyleOptionHeader* option, int col) const override
-    {
-        QHeaderView::initStyleOptionForIndex(option, col);
-        const int room = sectionSize(col) - 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, option, this);
-        option->text = fontMetrics().elidedText(option->text, Qt::ElideRight, room);
-    }
-
-private:
-    mutable QSize m_sizeHint;
-};
 } // namespace
 
 FlexGrid::FlexGrid(QWidget* parent)
@@ -120,6 +30,7 @@ FlexGrid::FlexGrid(QWidget* parent)
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
+    setAlternatingRowColors(true);
     SetUpHeader();
     MeasureRows();
 
@@ -131,11 +42,11 @@ FlexGrid::FlexGrid(QWidget* parent)
     QObject::connect(&m_tintEnd, &QTimer::timeout, this, endTint);
     QObject::connect(m_model, &FlexGridModel::modelReset, this, endTint);
     const auto isLeft = [] { return !(QGuiApplication::mouseButtons() & (Qt::RightButton | Qt::MiddleButton)); };
-    QObject::connect(
-        this, &QTableView::clicked, this, [this](const QModelIndex& cell) { ClickAt(cell.row() + 1, cell.column()); });
+    QObject::connect(this, &QTableView::clicked, this,
+        [this](const QModelIndex& cell) { ClickAt(m_model->RowAt(cell.row()) + 1, cell.column()); });
     QObject::connect(this, &QTableView::doubleClicked, this, [this, isLeft](const QModelIndex& cell) {
         if (isLeft())
-            DblClickAt(cell.row() + 1, cell.column());
+            DblClickAt(m_model->RowAt(cell.row()) + 1, cell.column());
     });
     QObject::connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int col) { ClickAt(0, col); });
     QObject::connect(
@@ -146,6 +57,7 @@ void FlexGrid::SetUpHeader()
 {
     verticalHeader()->hide();
     auto* header = new TitleHeader(this);
+    m_header = header;
     setHorizontalHeader(header);
     // Qt's own answers to a press on a title select the column.
     QObject::disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
@@ -170,13 +82,16 @@ void FlexGrid::MeasureRows()
 
 int FlexGrid::Rows() const
 {
-    return m_model->rowCount() + 1;
+    return m_model->Count() + 1;
 }
 
 void FlexGrid::SetRows(int rows)
 {
     if (rows < 1)
         throw RuntimeError(30009, tr("Invalid Row value"));
+    // Rows that code adds one by one are there to be seen.
+    if (rows > Rows())
+        SetFilter({});
     m_setByCode = true;
     m_model->SetRowCount(rows - 1);
     m_setByCode = false;
@@ -262,9 +177,9 @@ void FlexGrid::SetTextMatrix(int row, int col, const QString& text)
     CheckRow(row);
     CheckCol(col);
     if (row == 0)
-        m_model->SetTitle(col, text);
-    else
-        m_model->SetText(row - 1, col, text);
+        return m_model->SetTitle(col, text);
+    SetFilter({});
+    m_model->SetText(row - 1, col, text);
 }
 
 qint64 FlexGrid::RowData(int row) const
@@ -335,7 +250,8 @@ void FlexGrid::SetRedraw(bool on)
 
 int FlexGrid::TopRow() const
 {
-    return qMax(1, rowAt(0) + 1);
+    const int place = rowAt(0);
+    return place < 0 ? 1 : m_model->RowAt(place) + 1;
 }
 
 void FlexGrid::SetTopRow(int row)
@@ -343,7 +259,7 @@ void FlexGrid::SetTopRow(int row)
     CheckRow(row);
     executeDelayedItemsLayout();
     if (row > 0)
-        scrollTo(m_model->index(row - 1, 0), PositionAtTop);
+        scrollTo(m_model->index(m_model->NearestPlace(row - 1), 0), PositionAtTop);
 }
 
 bool FlexGrid::RowIsVisible(int row) const
@@ -351,114 +267,39 @@ bool FlexGrid::RowIsVisible(int row) const
     CheckRow(row);
     if (row == 0)
         return true;
-    const int top = rowViewportPosition(row - 1);
-    return top >= 0 && top + rowHeight(row - 1) <= viewport()->height();
+    const int place = m_model->NearestPlace(row - 1);
+    if (place < 0 || m_model->RowAt(place) != row - 1)
+        return false;
+    const int top = rowViewportPosition(place);
+    return top >= 0 && top + rowHeight(place) <= viewport()->height();
 }
 
 void FlexGrid::ShowTinted(int row)
 {
     constexpr int TintMs = 1000;
     CheckRow(row);
+    Reveal(row);
     m_tinted = row;
     m_tintEnd.start(TintMs);
-    scrollTo(m_model->index(row - 1, m_col));
+    scrollTo(m_model->index(m_model->NearestPlace(row - 1), m_col));
     viewport()->update();
 }
 
-bool FlexGrid::event(QEvent* event)
+void FlexGrid::SetMark(int col, const QString& meaning)
 {
-    const bool handled = QTableView::event(event);
-    if (event->type() == QEvent::Paint && hasFocus()) {
-        QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
-        for (int line = 0; line < frameWidth(); ++line)
-            painter.drawRect(rect().adjusted(line, line, -line - 1, -line - 1));
-    }
-    return handled;
+    CheckCol(col);
+    m_model->SetMark(col, meaning);
 }
 
-void FlexGrid::keyPressEvent(QKeyEvent* event)
+void FlexGrid::ShowSorted(int col)
 {
-    const auto goTo = [&](int row) {
-        if (Rows() > 1)
-            SelectRow(row);
-        event->accept();
-    };
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        // Accepted first: a form's default button is not to run as well.
-        event->accept();
-        if (!event->isAutoRepeat())
-            DblClickAt(m_row, m_col);
-        return;
-    case Qt::Key_Home:
-        return goTo(1);
-    case Qt::Key_End:
-        return goTo(Rows() - 1);
-    default:
-        QTableView::keyPressEvent(event);
-    }
+    m_header->ShowSorted(col);
 }
 
-void FlexGrid::focusInEvent(QFocusEvent* event)
+void FlexGrid::SetEmptyText(const QString& text)
 {
-    // Qt makes the first row current, unseen, when a view gets the focus; here it takes a click or a key.
-    m_setByCode = true;
-    QTableView::focusInEvent(event);
-    m_setByCode = false;
-    ShowCurrent();
-    update();
-}
-
-void FlexGrid::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    update();
-}
-
-void FlexGrid::resizeEvent(QResizeEvent* event)
-{
-    QTableView::resizeEvent(event);
-    emit Resized();
-}
-
-void FlexGrid::changeEvent(QEvent* event)
-{
-    QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        MeasureRows();
-}
-
-void FlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
-{
-    QTableView::currentChanged(current, previous);
-    if (m_setByCode)
-        return;
-    m_row = current.row() + 1;
-    m_col = qMax(0, current.column());
-    m_colSel = Cols() - 1;
-}
-
-QItemSelectionModel::SelectionFlags FlexGrid::selectionCommand(const QModelIndex& index, const QEvent*) const
-{
-    if (!index.isValid())
-        return QItemSelectionModel::NoUpdate;
-    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
-}
-
-void FlexGrid::ClickAt(int row, int col)
-{
-    m_mouseRow = row;
-    m_mouseCol = col;
-    emit Click();
-}
-
-void FlexGrid::DblClickAt(int row, int col)
-{
-    m_mouseRow = row;
-    m_mouseCol = col;
-    emit DblClick();
+    m_emptyText = text;
+    viewport()->update();
 }
 
 void FlexGrid::CheckRow(int row) const
@@ -478,11 +319,14 @@ void FlexGrid::ShowCurrent()
     // Rows that have just come in can be scrolled to when they are laid out only.
     if (updatesEnabled() && isVisible())
         executeDelayedItemsLayout();
+    const int place = m_row == 0 ? -1 : m_model->NearestPlace(m_row - 1);
+    // What the filter hides is not current, or the next act would be on what nobody sees.
+    m_row = place < 0 ? 0 : m_model->RowAt(place) + 1;
     m_setByCode = true;
-    if (m_row == 0) {
+    if (place < 0) {
         selectionModel()->clear();
     } else {
-        const QModelIndex cell = m_model->index(m_row - 1, m_col);
+        const QModelIndex cell = m_model->index(place, m_col);
         selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     m_setByCode = false;
@@ -518,6 +362,11 @@ void GridFill::Add(const QString& text)
 {
     const QByteArray utf8 = text.toUtf8();
     m_rows->Add(std::string_view(utf8.constData(), size_t(utf8.size())));
+}
+
+void GridFill::MarkRow()
+{
+    m_rows->Mark();
 }
 
 int GridFill::EndRow(qint64 rowData)

@@ -2,6 +2,7 @@
 
 #include "controls/cell_align.h"
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QTableView>
 #include <QTimer>
@@ -12,6 +13,7 @@
 
 class FlexGridModel;
 class FlexGridRows;
+class TitleHeader;
 
 /// A list of rows under a fixed title row. Row 0 is the title row and shows as the header; data rows start at 1. Each
 /// row keeps a 64-bit number out of sight, its row data: the id of its record, 0 for none. Widths are twips.
@@ -79,6 +81,30 @@ public:
     const QString& Tag() const { return m_tag; }
     void SetTag(const QString& tag) { m_tag = tag; }
 
+    /// Shows only the rows that hold all of these words, in any order, over all columns and whatever their case; ""
+    /// shows all. Rows, their numbers, data and texts stay those of the whole list. Where the filter hides the current
+    /// row, the next row that shows is current, or else the last, or else the title row. A fill keeps the filter; rows
+    /// that code adds or changes one by one lift it.
+    void SetFilter(const QString& words);
+    const QString& Filter() const;
+    int ShownRows() const;
+    /// Lets this row show also where the filter hides it, until the rows or the filter change.
+    void Reveal(int row);
+
+    /// The column where what is typed into the list goes to the next row that begins so; -1 for none.
+    void SetSearchColumn(int col) { m_searchColumn = col; }
+    /// Takes the focus, with the first row selected where none is.
+    void EnterRows();
+    /// Copies the current row as text, its columns parted by tabs.
+    void CopyRow() const;
+
+    /// The column where marked rows bear a sign and a colour, and what these mean.
+    void SetMark(int col, const QString& meaning);
+    /// The column that bears the arrow; -1 for none.
+    void ShowSorted(int col);
+    /// What the list says while it has no rows.
+    void SetEmptyText(const QString& text);
+
     FlexGridModel* Model() const { return m_model; }
 
 signals:
@@ -92,6 +118,8 @@ signals:
 protected:
     /// Draws the frame in the colour of the selection while the grid has the focus.
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -99,7 +127,8 @@ protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
-    void keyboardSearch(const QString&) override { }
+    /// Letters that follow each other at once belong together.
+    void keyboardSearch(const QString& typed) override;
 
 private:
     void SetUpHeader();
@@ -112,7 +141,9 @@ private:
     void ShowCurrent();
 
     FlexGridModel* m_model;
+    TitleHeader* m_header = nullptr;
     QString m_tag;
+    QString m_emptyText;
     std::vector<int> m_twips;
     int m_row = 0;
     int m_col = 0;
@@ -122,6 +153,10 @@ private:
     bool m_setByCode = false;
     int m_tinted = 0;
     QTimer m_tintEnd;
+    int m_searchColumn = -1;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
+    bool m_foundNone = false;
 };
 
 /// Fills a grid with one model reset: rows are gathered out of sight and appear together when it goes out of scope. The
@@ -142,6 +177,8 @@ public:
     void Add(std::string_view utf8);
     void Add(const QString& text);
     void Add(const char* utf8) { Add(std::string_view(utf8)); }
+    /// Lets the row being built bear the mark of the grid.
+    void MarkRow();
     /// Ends the row, with missing cells empty. Returns the number of the row, from 1 on.
     int EndRow(qint64 rowData);
 

@@ -1,16 +1,15 @@
 #include "controls/flex_grid_model.h"
 
 #include "base/numbers.h"
-#include "base/runtime_error.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 constexpr int FirstCols = 2;
-constexpr size_t WasteWorthCompacting = 1 << 16;
 // More than any screen shows; a cell that holds a whole file would be converted with each painting.
 constexpr size_t ShownBytes = 1 << 13;
+// Nor is it laid out to its end.
+constexpr int ShownCharacters = 2000;
 
 Qt::Alignment QtAlignment(CellAlign alignment)
 {
@@ -46,99 +45,7 @@ std::string_view Start(std::string_view utf8, size_t bytes)
     return utf8.substr(0, bytes);
 }
 
-/// Places are counted in 32 bits, which keeps the cells of large lists small.
-quint32 PlaceNumber(size_t number)
-{
-    if (number > std::numeric_limits<quint32>::max())
-        throw RuntimeError(7, QStringLiteral("Out of memory"));
-    return quint32(number);
-}
 } // namespace
-
-FlexGridRows::Place FlexGridRows::Append(std::string_view utf8)
-{
-    PlaceNumber(m_arena.size() + utf8.size());
-    const Place place{quint32(m_arena.size()), quint32(utf8.size())};
-    m_arena.append(utf8);
-    return place;
-}
-
-void FlexGridRows::Add(std::string_view utf8)
-{
-    if (m_cells.size() - m_building == size_t(m_cols))
-        throw RuntimeError(30010, QStringLiteral("Invalid Col value"));
-    m_cells.push_back(Append(utf8));
-}
-
-void FlexGridRows::EndRow(qint64 rowData)
-{
-    const quint32 end = PlaceNumber(m_cells.size());
-    m_rows.push_back({rowData, m_building, end - m_building});
-    m_building = end;
-}
-
-std::string_view FlexGridRows::Cell(int row, int col) const
-{
-    const Row& cells = m_rows[size_t(row)];
-    if (quint32(col) >= cells.count)
-        return {};
-    const Place place = m_cells[cells.first + size_t(col)];
-    return std::string_view(m_arena).substr(place.start, place.length);
-}
-
-void FlexGridRows::SetCell(int row, int col, std::string_view utf8)
-{
-    Row& cells = m_rows[size_t(row)];
-    if (quint32(col) >= cells.count)
-        Widen(cells, quint32(col) + 1);
-    Place& place = m_cells[cells.first + size_t(col)];
-    m_waste += place.length;
-    place = Append(utf8);
-    if (m_waste > WasteWorthCompacting && m_waste > m_arena.size() / 2)
-        Compact();
-}
-
-void FlexGridRows::Widen(Row& row, quint32 count)
-{
-    if (row.first + size_t(row.count) != m_cells.size()) {
-        m_waste += row.count * sizeof(Place);
-        const quint32 first = PlaceNumber(m_cells.size());
-        m_cells.resize(first + size_t(row.count));
-        std::copy_n(m_cells.begin() + row.first, row.count, m_cells.begin() + first);
-        row.first = first;
-    }
-    m_cells.resize(row.first + size_t(count));
-    row.count = count;
-    m_building = PlaceNumber(m_cells.size());
-}
-
-void FlexGridRows::Resize(int rows)
-{
-    const bool shrinks = rows < Count();
-    m_rows.resize(size_t(rows));
-    if (shrinks)
-        Compact();
-}
-
-void FlexGridRows::SetCols(int cols)
-{
-    m_cols = cols;
-    for (Row& row : m_rows)
-        row.count = qMin(row.count, quint32(cols));
-}
-
-void FlexGridRows::Compact()
-{
-    FlexGridRows kept(m_cols);
-    for (const Row& row : m_rows) {
-        for (quint32 col = 0; col < row.count; ++col) {
-            const Place place = m_cells[row.first + size_t(col)];
-            kept.Add(std::string_view(m_arena).substr(place.start, place.length));
-        }
-        kept.EndRow(row.data);
-    }
-    *this = std::move(kept);
-}
 
 FlexGridModel::FlexGridModel(QObject* parent)
     : QAbstractTableModel(parent)
@@ -149,7 +56,9 @@ FlexGridModel::FlexGridModel(QObject* parent)
 
 int FlexGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_rows.Count();
+    if (parent.isValid())
+        return 0;
+    return IsFiltered() ? int(m_shown.size()) : Count();
 }
 
 int FlexGridModel::columnCount(const QModelIndex& parent) const
@@ -161,13 +70,23 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
+    const int row = RowAt(index.row());
+    const int col = index.column();
     switch (role) {
     case Qt::DisplayRole:
-        return FromUtf8(Start(m_rows.Cell(index.row(), index.column()), ShownBytes));
+        return ShownText(row, col);
     case Qt::TextAlignmentRole:
-        return QVariant(CellAlignment(index.row(), index.column()));
+        return QVariant(CellAlignment(row, col));
     case Qt::UserRole:
-        return index.column() == 0 ? QVariant(RowData(index.row())) : QVariant();
+        return col == 0 ? QVariant(RowData(row)) : QVariant();
+    case TintRole:
+        return row == m_tinted;
+    case MarkRole:
+        return IsMarked(row, col);
+    case Qt::ToolTipRole:
+        return IsMarked(row, col) ? m_markMeaning : QVariant();
+    case Qt::AccessibleTextRole:
+        return IsMarked(row, col) ? QStringLiteral("%1, %2").arg(Text(row, col), m_markMeaning) : QVariant();
     default:
         return {};
     }
@@ -188,6 +107,11 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
 QString FlexGridModel::Text(int row, int col) const
 {
     return FromUtf8(m_rows.Cell(row, col));
+}
+
+QString FlexGridModel::ShownText(int row, int col) const
+{
+    return FromUtf8(Start(m_rows.Cell(row, col), ShownBytes));
 }
 
 void FlexGridModel::SetText(int row, int col, const QString& text)
@@ -221,13 +145,26 @@ void FlexGridModel::SetAlignment(int col, CellAlign alignment)
         emit dataChanged(index(0, col), index(rowCount() - 1, col));
 }
 
+void FlexGridModel::SetMark(int col, const QString& meaning)
+{
+    m_markedColumn = col;
+    m_markMeaning = meaning;
+}
+
 void FlexGridModel::SetRowCount(int rows)
 {
-    const int before = rowCount();
+    const int before = Count();
     if (rows < before) {
-        beginRemoveRows({}, rows, before - 1);
+        const int shownBefore = rowCount();
+        const int shown = ShownAmong(rows);
+        if (shown < shownBefore)
+            beginRemoveRows({}, shown, shownBefore - 1);
         m_rows.Resize(rows);
-        endRemoveRows();
+        m_search.Forget();
+        if (IsFiltered())
+            m_shown.resize(size_t(shown));
+        if (shown < shownBefore)
+            endRemoveRows();
     } else if (rows > before) {
         beginInsertRows({}, before, rows - 1);
         m_rows.Resize(rows);
@@ -241,6 +178,7 @@ void FlexGridModel::SetColumnCount(int cols)
     const auto change = [&] {
         m_columns.resize(size_t(cols));
         m_rows.SetCols(cols);
+        m_search.Forget();
     };
     if (cols < before) {
         beginRemoveColumns({}, cols, before - 1);
@@ -259,7 +197,72 @@ void FlexGridModel::Replace(FlexGridRows rows)
         rows.SetCols(columnCount());
     beginResetModel();
     m_rows = std::move(rows);
+    m_search.Forget();
+    FindShown();
     endResetModel();
+}
+
+void FlexGridModel::SetFilter(const QString& words)
+{
+    if (words == m_filter)
+        return;
+    beginResetModel();
+    m_filter = words;
+    m_words = words.simplified().split(u' ', Qt::SkipEmptyParts);
+    FindShown();
+    endResetModel();
+}
+
+void FlexGridModel::FindShown()
+{
+    if (IsFiltered()) {
+        m_shown = m_search.RowsWith(m_words, m_rows);
+    } else {
+        m_shown = {};
+        m_search.Forget();
+    }
+}
+
+void FlexGridModel::Reveal(int row)
+{
+    if (!IsFiltered())
+        return;
+    const int place = ShownAmong(row);
+    if (place < rowCount() && RowAt(place) == row)
+        return;
+    beginInsertRows({}, place, place);
+    m_shown.insert(m_shown.begin() + place, row);
+    endInsertRows();
+}
+
+int FlexGridModel::ShownAmong(int rows) const
+{
+    if (!IsFiltered())
+        return rows;
+    return int(std::lower_bound(m_shown.begin(), m_shown.end(), rows) - m_shown.begin());
+}
+
+int FlexGridModel::NearestPlace(int row) const
+{
+    return std::min(ShownAmong(row), rowCount() - 1);
+}
+
+int FlexGridModel::FindStart(int col, const QString& start, int fromPlace) const
+{
+    const int places = rowCount();
+    for (int i = 0; i < places; ++i) {
+        const int row = RowAt((fromPlace + i) % places);
+        if (OnOneLine(ShownText(row, col)).startsWith(start, Qt::CaseInsensitive))
+            return row;
+    }
+    return -1;
+}
+
+QString FlexGridModel::OnOneLine(QString text)
+{
+    text.truncate(ShownCharacters);
+    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    return text.replace(u'\n', u' ');
 }
 
 Qt::Alignment FlexGridModel::CellAlignment(int row, int col) const

@@ -1,69 +1,23 @@
 #pragma once
 
 #include "controls/cell_align.h"
+#include "controls/flex_grid_rows.h"
+#include "controls/row_search.h"
 
 #include <QAbstractTableModel>
 
-#include <string>
-#include <string_view>
 #include <vector>
 
-/// Rows of cells kept close: all texts lie in one arena, and a cell is a place in it. Cells behind the last one that a
-/// row was given are empty and take no room, so that one wide row costs the others nothing.
-class FlexGridRows {
-public:
-    explicit FlexGridRows(int cols)
-        : m_cols(cols)
-    {
-    }
-
-    int Cols() const { return m_cols; }
-    int Count() const { return int(m_rows.size()); }
-    /// How many cells the row was given; those behind them are empty.
-    int CellsOf(int row) const { return int(m_rows[size_t(row)].count); }
-
-    /// The next cell of the row being built; further cells than there are columns are an error of the caller.
-    void Add(std::string_view utf8);
-    /// Ends the row being built.
-    void EndRow(qint64 rowData);
-
-    std::string_view Cell(int row, int col) const;
-    void SetCell(int row, int col, std::string_view utf8);
-    qint64 Data(int row) const { return m_rows[size_t(row)].data; }
-    void SetData(int row, qint64 data) { m_rows[size_t(row)].data = data; }
-
-    void Resize(int rows);
-    void SetCols(int cols);
-
-private:
-    struct Place {
-        quint32 start = 0;
-        quint32 length = 0;
-    };
-    struct Row {
-        qint64 data = 0;
-        quint32 first = 0; ///< of its cells
-        quint32 count = 0;
-    };
-
-    Place Append(std::string_view utf8);
-    /// Gives the row cells up to this number of them.
-    void Widen(Row& row, quint32 count);
-    /// Drops the texts that no cell points at any more, and the cells of no row.
-    void Compact();
-
-    int m_cols;
-    std::string m_arena;
-    size_t m_waste = 0;
-    std::vector<Place> m_cells;
-    std::vector<Row> m_rows;
-    quint32 m_building = 0; ///< the first cell of the row being built
-};
-
-/// The grid's rows as Qt sees them: without the title row, so that model row 0 is grid row 1. The row data is
-/// `Qt::UserRole` of column 0.
+/// The grid's rows as Qt sees them: without the title row, so that list row 0 is grid row 1. The row data is
+/// `Qt::UserRole` of column 0. A filter hides rows from the views alone: `place` is a row's number among those that
+/// show, which is Qt's row, `row` its number in the whole list.
 class FlexGridModel : public QAbstractTableModel {
 public:
+    /// True in the marked column of a marked row.
+    static constexpr int MarkRole = Qt::UserRole + 1;
+    /// True in the tinted row.
+    static constexpr int TintRole = Qt::UserRole + 2;
+
     explicit FlexGridModel(QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -71,11 +25,17 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// Model rows; `row` and `col` must be in range.
+    /// The row that is tinted; -1 for none.
+    void SetTinted(int row) { m_tinted = row; }
+    int Tinted() const { return m_tinted; }
+
+    /// Of the whole list; `row` and `col` must be in range.
+    int Count() const { return m_rows.Count(); }
     QString Text(int row, int col) const;
     std::string_view Utf8(int row, int col) const { return m_rows.Cell(row, col); }
     /// The cells of the row behind this many are empty.
     int CellsOf(int row) const { return m_rows.CellsOf(row); }
+    /// While no filter hides rows.
     void SetText(int row, int col, const QString& text);
     qint64 RowData(int row) const { return m_rows.Data(row); }
     void SetRowData(int row, qint64 data);
@@ -84,11 +44,30 @@ public:
     void SetTitle(int col, const QString& title);
     void SetTitleAlignment(int col, CellAlign alignment);
     void SetAlignment(int col, CellAlign alignment);
+    /// The column where marked rows bear the mark, and what it means.
+    void SetMark(int col, const QString& meaning);
 
+    /// More rows only while no filter hides any.
     void SetRowCount(int rows);
     void SetColumnCount(int cols);
     /// All rows at once, with one reset.
     void Replace(FlexGridRows rows);
+
+    /// With one reset; "" lets all rows show.
+    void SetFilter(const QString& words);
+    const QString& Filter() const { return m_filter; }
+    bool IsFiltered() const { return !m_words.isEmpty(); }
+    /// Lets a row show that the filter hides, until the rows or the filter change.
+    void Reveal(int row);
+    int RowAt(int place) const { return IsFiltered() ? m_shown[size_t(place)] : place; }
+    /// The place of the row, or where it is hidden of the next that shows, or else the last; -1 when none shows.
+    int NearestPlace(int row) const;
+    /// The row, from a place on and around, whose shown text in a column begins with `start`, whatever its case; -1 for
+    /// none.
+    int FindStart(int col, const QString& start, int fromPlace) const;
+
+    /// A text as a cell shows it: on one line, and no longer than a screen could hold.
+    static QString OnOneLine(QString text);
 
 private:
     struct Column {
@@ -98,7 +77,21 @@ private:
     };
 
     Qt::Alignment CellAlignment(int row, int col) const;
+    /// The text, or as much of it as can be seen.
+    QString ShownText(int row, int col) const;
+    bool IsMarked(int row, int col) const { return col == m_markedColumn && m_rows.IsMarked(row); }
+    /// How many of the first `rows` rows show.
+    int ShownAmong(int rows) const;
+    void FindShown();
 
     FlexGridRows m_rows;
     std::vector<Column> m_columns;
+    int m_tinted = -1;
+    int m_markedColumn = -1;
+    QString m_markMeaning;
+
+    QString m_filter;
+    QStringList m_words;
+    RowSearch m_search;
+    std::vector<int> m_shown; ///< the rows that show while there is a filter
 };

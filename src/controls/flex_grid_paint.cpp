@@ -1,0 +1,188 @@
+#include "controls/flex_grid_paint.h"
+
+#include "controls/flex_grid.h"
+#include "controls/flex_grid_model.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QToolTip>
+
+namespace {
+constexpr int TooltipCharacters = 2000;
+constexpr int EmptyTextMargin = 12;
+/// Of a tinted row: between a plain one and a selected one, so that a text is legible on it in any theme.
+constexpr double TintStrength = 0.35;
+
+bool IsDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+}
+
+QColor Blended(const QColor& from, const QColor& to, double share)
+{
+    const auto mix = [share](int a, int b) { return int(a + (b - a) * share); };
+    return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
+/// Reads on plain and striped rows of a light and of a dark theme.
+QColor MarkedTextColor(const QPalette& palette)
+{
+    return IsDark(palette) ? QColor(255, 183, 77) : QColor(163, 60, 0);
+}
+
+/// A warning triangle: sharp at every size, and seen on every background, the selection's included.
+class WarningSign : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    {
+        const double side = qMin(rect.width(), rect.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.center().x() + 0.5 - side / 2, rect.center().y() + 0.5 - side / 2);
+        painter->scale(side, side);
+        QPainterPath triangle;
+        triangle.moveTo(0.5, 0.06);
+        triangle.lineTo(0.97, 0.92);
+        triangle.lineTo(0.03, 0.92);
+        triangle.closeSubpath();
+        painter->setPen(QPen(QColor(110, 60, 0), 0.06, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->setBrush(QColor(255, 176, 32));
+        painter->drawPath(triangle);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QColor(60, 30, 0));
+        painter->drawRoundedRect(QRectF(0.44, 0.36, 0.12, 0.30), 0.05, 0.05);
+        painter->drawEllipse(QRectF(0.435, 0.71, 0.13, 0.13));
+        painter->restore();
+    }
+    QIconEngine* clone() const override { return new WarningSign; }
+};
+} // namespace
+
+QColor StripeColor(const QPalette& palette)
+{
+    return Blended(palette.color(QPalette::Base), palette.color(QPalette::Text), IsDark(palette) ? 0.07 : 0.045);
+}
+
+void PaintEmptyText(QAbstractItemView* view, const QString& text)
+{
+    if (text.isEmpty() || view->model()->rowCount() > 0)
+        return;
+    QPainter painter(view->viewport());
+    const QPalette& palette = view->palette();
+    painter.setPen(Blended(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.65));
+    const int margin = EmptyTextMargin;
+    painter.drawText(view->viewport()->rect().adjusted(margin, margin, -margin, -margin),
+        int(Qt::AlignHCenter) | int(Qt::AlignTop) | int(Qt::TextWordWrap), text);
+}
+
+QString CellDelegate::displayText(const QVariant& value, const QLocale&) const
+{
+    return FlexGridModel::OnOneLine(value.toString());
+}
+
+bool CellDelegate::helpEvent(
+    QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const bool isCut = index.isValid() && sizeHint(option, index).width() > option.rect.width();
+    if (event->type() != QEvent::ToolTip || !isCut)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QString tip = index.data(Qt::DisplayRole).toString().left(TooltipCharacters).toHtmlEscaped();
+    if (const QString mark = index.data(Qt::ToolTipRole).toString(); !mark.isEmpty())
+        tip += QStringLiteral("<br>") + mark.toHtmlEscaped();
+    QToolTip::showText(event->globalPos(), tip, view, option.rect);
+    return true;
+}
+
+void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state &= ~QStyle::State_HasFocus;
+    const auto* grid = static_cast<const FlexGrid*>(option->widget);
+    if (grid->Model()->RowAt(index.row()) + 1 == grid->TintedRow()) {
+        option->state &= ~QStyle::State_Selected;
+        option->backgroundBrush =
+            Blended(option->palette.color(QPalette::Base), option->palette.color(QPalette::Highlight), TintStrength);
+    }
+    if (!index.data(FlexGridModel::MarkRole).toBool())
+        return;
+    static const QIcon sign(new WarningSign);
+    option->icon = sign;
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    const int side = option->fontMetrics.ascent();
+    option->decorationSize = QSize(side, side);
+    option->palette.setColor(QPalette::Text, MarkedTextColor(option->palette));
+}
+
+TitleHeader::TitleHeader(QWidget* parent)
+    : QHeaderView(Qt::Horizontal, parent)
+{
+}
+
+void TitleHeader::ShowSorted(int col)
+{
+    if (col == m_sorted)
+        return;
+    m_sorted = col;
+    viewport()->update();
+}
+
+QSize TitleHeader::sizeHint() const
+{
+    if (!m_sizeHint.isValid() && count() > 0)
+        m_sizeHint = QHeaderView::sizeHint();
+    return m_sizeHint.isValid() ? m_sizeHint : QHeaderView::sizeHint();
+}
+
+bool TitleHeader::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int col = logicalIndexAt(help->pos());
+        const bool isCut = col >= 0 && Elided(col) != Title(col);
+        QToolTip::showText(help->globalPos(), isCut ? Title(col).toHtmlEscaped() : QString(), viewport());
+        return true;
+    }
+    return QHeaderView::viewportEvent(event);
+}
+
+void TitleHeader::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        m_sizeHint = QSize();
+    QHeaderView::changeEvent(event);
+}
+
+void TitleHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int col) const
+{
+    QHeaderView::initStyleOptionForIndex(option, col);
+    option->text = Elided(col);
+    // By itself Qt would turn the arrow with every click; lists sort upwards only.
+    option->sortIndicator = col == m_sorted ? QStyleOptionHeader::SortDown : QStyleOptionHeader::None;
+}
+
+QSize TitleHeader::sectionSizeFromContents(int col) const
+{
+    return QHeaderView::sectionSizeFromContents(col) + QSize(ArrowWidth(col), 0);
+}
+
+QString TitleHeader::Title(int col) const
+{
+    return model()->headerData(col, Qt::Horizontal).toString();
+}
+
+int TitleHeader::ArrowWidth(int col) const
+{
+    if (col != m_sorted)
+        return 0;
+    return style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this)
+        + style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+}
+
+QString TitleHeader::Elided(int col) const
+{
+    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+    return fontMetrics().elidedText(Title(col), Qt::ElideRight, sectionSize(col) - margins - ArrowWidth(col));
+}
