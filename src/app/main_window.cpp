@@ -74,6 +74,8 @@ void MainWindow::ConnectPanels()
     On(&StatusLine::Get(), &StatusLine::Told, bar, &StatusBar::ShowNotice);
     On(picArrivals, &InvoiceHistory::OpenInvoice, this, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
     On(picArrivals, &InvoiceHistory::NewInvoice, this, [this] { OpenInvoicePage(); });
+    picArrivals->FindBy([this] { FindInvoice(); });
+    picCustomers->FindBy([this] { Run(QStringLiteral("mnuCustomerFind")); });
 }
 
 void MainWindow::LetPanelsDragTheWindow()

@@ -2,11 +2,11 @@
 
 #include "base/numbers.h"
 #include "controls/hourglass.h"
-#include "controls/message_box.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "inventory/item_details.h"
 #include "records/lists.h"
+#include "records/row_deletion.h"
 
 #include <optional>
 
@@ -22,6 +22,16 @@ void AddPrice(const Recordset& item, int price, GridFill& fill)
     if (item.IsNull(price) && !item.IsNull(PriceListId))
         throw InvalidUseOfNull();
     fill.Add(FormatCurrency(item.IsNull(PriceListId) ? Currency() : item.Money(price)));
+}
+
+/// Their stock is at or below their reorder level.
+std::unordered_set<qint64> ItemsToReorder()
+{
+    std::unordered_set<qint64> items;
+    for (Recordset rs = gConnection->Execute("SELECT id FROM item WHERE noinstock <= reorderlevel"); !rs.Eof();
+         rs.MoveNext())
+        items.insert(rs.Long(0));
+    return items;
 }
 
 } // namespace
@@ -43,8 +53,14 @@ InventoryList::InventoryList(QWidget* parent)
         {PriceField, tr("Sale Price"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "price", Spare::No,
             AddPrice},
         {"tname", tr("Tax Rate"), 1100, CellAlign::RightCenter, CellAlign::RightCenter, "taxrate.name"},
-        {"noinstock", tr("In Stock"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "noinstock"},
+        {"noinstock", tr("In Stock"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "noinstock", Spare::No,
+            [this](const Recordset& item, int noInStock, GridFill& fill) {
+                if (m_toReorder.count(item.Long(Id)) > 0)
+                    fill.MarkRow();
+                fill.Add(item.Text(noInStock));
+            }},
     });
+    gInventory->SetMarkOf("noinstock", tr("At or below the reorder level"));
 
     TitleLabel()->setObjectName(QStringLiteral("Label1_16"));
     setLayout(column({
@@ -57,7 +73,8 @@ InventoryList::InventoryList(QWidget* parent)
             {lblInventoryTotal, stretch(), cmdAddInventory, cmdEditInventory, cmdDeleteInventory}),
     }));
 
-    ShowList(gInventory, cmdEditInventory, [this](int row, qint64 selectId) { RefreshInventoryList(row, selectId); });
+    ShowList(gInventory, {cmdEditInventory, cmdAddInventory, cmdDeleteInventory},
+        [this](int row, qint64 selectId) { RefreshInventoryList(row, selectId); });
     On(cboInvoicePriceList, &ComboBox::Click, this, &InventoryList::LoadInPlace);
     On(cmdAddInventory, &QPushButton::clicked, this, &InventoryList::AddItem);
     On(cmdEditInventory, &QPushButton::clicked, this, &InventoryList::EditItem);
@@ -77,6 +94,7 @@ void InventoryList::RefreshInventoryList(int row, qint64 selectId)
                                            "Item.TaxRateID) LEFT JOIN ItemPriceList ON Item.ID = "
                                            "ItemPriceList.ItemID "),
             "ORDER BY item.name");
+    m_toReorder = ItemsToReorder();
     // The price list is chosen here and not in the statement: an item without any price shows in every list, one with
     // prices in other lists alone in none. With no rows to choose from it does not matter that no list is chosen.
     std::optional<qint64> chosen;
@@ -85,6 +103,7 @@ void InventoryList::RefreshInventoryList(int row, qint64 selectId)
             chosen = cboInvoicePriceList->SelectedData();
         return item.IsNull(PriceListId) || item.Long(PriceListId) == *chosen;
     });
+    m_toReorder.clear();
 
     lblInventoryTotal->setText(tr("%1 items.").arg(gInventory->Rows() - 1));
 }
@@ -110,24 +129,17 @@ void InventoryList::ShowItemRecord(qint32 itemId)
 
 void InventoryList::DeleteItem()
 {
-    const qint64 itemId = gInventory->CurrentRowData();
-    if (itemId == 0)
-        return;
-
-    const Sql lines = Sql("SELECT count(*) FROM invoiceline WHERE itemid = {id} ").Number("id", itemId);
-    if (gConnection->Execute(lines)[0].ToLong() > 0) {
-        MsgBox(
-            tr("This item is used on one or more invoices and cannot be deleted. To delete this item first delete all "
-               "invoices it is included in."),
-            Icon::Critical, tr("Cannot delete item."));
-        return;
-    }
-    if (MsgBox(tr("Delete item?"), Icon::Question, Buttons::YesNo) != Answer::Yes)
-        return;
-
-    // The item's prices, custom fields and group memberships stay behind.
-    gConnection->Execute(Sql("DELETE FROM item WHERE id = {id}").Number("id", itemId));
-    RefreshInventoryList(1, 0);
+    const RowDeletion deletion{
+        .uses = "SELECT count(*) FROM invoiceline WHERE itemid = {id} ",
+        .inUse = tr("This item is used on one or more invoices and cannot be deleted. To delete this item first delete "
+                    "all invoices it is included in."),
+        .inUseTitle = tr("Cannot delete item."),
+        .question = tr("Delete item?"),
+        // The item's prices, custom fields and group memberships stay behind.
+        .remove = "DELETE FROM item WHERE id = {id}",
+    };
+    if (DeleteRecord(deletion, gInventory->CurrentRowData()))
+        RefreshInventoryList(1, 0);
 }
 
 void InventoryList::FillInvoicePriceLists()

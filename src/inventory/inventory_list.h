@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <unordered_set>
+
 /// The inventory view: every item with its price in one chosen price list, its tax rate and its stock. The door to the
 /// item record.
 class InventoryList : public ListPanel {
@@ -41,4 +43,6 @@ private:
     void EditItem();
     void DeleteItem();
     void ShowItemRecord(qint32 itemId);
+
+    std::unordered_set<qint64> m_toReorder; ///< while the list loads
 };

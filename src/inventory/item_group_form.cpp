@@ -2,6 +2,7 @@
 
 #include "controls/focus.h"
 #include "controls/hourglass.h"
+#include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/add_row.h"
@@ -45,6 +46,9 @@ frmItemGroup::frmItemGroup(QWidget* parent)
     gItems->SetColumns(
         {{"name", tr("Name"), 2400, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::Always}});
     gItems->StretchWithSize();
+    gItems->OfferOnRows({cmdRemove});
+    LetKeyClick(cmdRemove, Qt::Key_Delete, gItems);
+    gItems->SetEmptyText(tr("The group is empty. Choose an item and press \"Add Item\"."));
     FillItems();
     if (gEditItemGroupId == NewRow)
         gItems->SetRows(1);

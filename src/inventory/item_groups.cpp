@@ -4,6 +4,7 @@
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "inventory/item_group_form.h"
+#include "records/row_deletion.h"
 
 ItemGroups::ItemGroups(QWidget* parent)
     : ListPanel("picItemGroups", parent)
@@ -24,7 +25,8 @@ ItemGroups::ItemGroups(QWidget* parent)
         ButtonBar("picItemGroupsBot", {stretch(), cmdItemGroupEdit, cmdItemGroupNew, cmdItemGroupDelete}),
     }));
 
-    ShowList(gItemGroups, cmdItemGroupEdit, [this](int row, qint64 selectId) { RefreshItemGroupList(row, selectId); });
+    ShowList(gItemGroups, {cmdItemGroupEdit, cmdItemGroupNew, cmdItemGroupDelete},
+        [this](int row, qint64 selectId) { RefreshItemGroupList(row, selectId); });
     On(cmdItemGroupEdit, &QPushButton::clicked, this, &ItemGroups::EditGroup);
     On(cmdItemGroupNew, &QPushButton::clicked, this, &ItemGroups::NewGroup);
     On(cmdItemGroupDelete, &QPushButton::clicked, this, &ItemGroups::DeleteGroup);
@@ -61,20 +63,14 @@ void ItemGroups::NewGroup()
 
 void ItemGroups::DeleteGroup()
 {
-    const qint64 groupId = gItemGroups->CurrentRowData();
-    if (groupId == 0 || groupId == -1)
-        return;
-
-    const Sql members = Sql("SELECT count(*) FROM itemgroup_item WHERE itemgroupid = {id} ").Number("id", groupId);
-    if (gConnection->Execute(members)[0].ToLong() > 0) {
-        MsgBox(
-            tr("This Item Group has existing items and cannot be deleted. To delete this Item Group first delete all "
-               "items they supply."),
-            Icon::Critical, tr("Cannot delete Item Group."));
-        return;
-    }
-    if (MsgBox(tr("Delete Item Group?"), Icon::Question, Buttons::YesNo) == Answer::No)
-        return;
-    gConnection->Execute(Sql("DELETE FROM itemgroup WHERE id = {id}").Number("id", groupId));
-    LoadInPlace();
+    const RowDeletion deletion{
+        .uses = "SELECT count(*) FROM itemgroup_item WHERE itemgroupid = {id} ",
+        .inUse = tr("This Item Group has existing items and cannot be deleted. To delete this Item Group first delete "
+                    "all items they supply."),
+        .inUseTitle = tr("Cannot delete Item Group."),
+        .question = tr("Delete Item Group?"),
+        .remove = "DELETE FROM itemgroup WHERE id = {id}",
+    };
+    if (DeleteRecord(deletion, gItemGroups->CurrentRowData()))
+        LoadInPlace();
 }

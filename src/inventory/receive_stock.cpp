@@ -51,6 +51,8 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     });
     gInventory->StretchWithSize();
     gInventory->ShowFoundRowOnTop();
+    gInventory->LetDownEnter({txtBarcode});
+    gInventory->SetEmptyText(tr("There are no items to receive stock of."));
     RefreshInventoryList(1, 0);
 
     On(cmdAddBarCodeItem, &QPushButton::clicked, this, &frmReceiveStock::FindByBarcode);

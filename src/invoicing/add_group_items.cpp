@@ -46,6 +46,7 @@ frmAddGroupItems::frmAddGroupItems(qint64 priceListId, QWidget* parent)
     gItemGroups->SetColumns(
         {{"name", tr("Name"), 6300, CellAlign::LeftCenter, CellAlign::LeftCenter, NoOrder, Spare::Always}});
     gItemGroups->StretchWithSize();
+    gItemGroups->SetEmptyText(tr("There are no item groups."));
     gItemGroups->Load(Sql("SELECT id, name FROM itemgroup ORDER BY name"), 1, 0);
 
     On(cmdOk, &QPushButton::clicked, this, &frmAddGroupItems::TakeItems);

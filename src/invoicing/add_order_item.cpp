@@ -41,6 +41,9 @@ frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
             [this](const Recordset& item, int id, GridFill& fill) { fill.Add(PriceText(item.Long(id))); }},
     });
     gItems->StretchWithSize();
+    gItems->LetDownEnter({txtItemName, txtItemDescription, txtItemNumber});
+    gItems->OfferOnRows({cmdOk});
+    gItems->SetEmptyText(tr("No item matches."));
     Connect();
     KeepCodesOut({txtQuantityToAdd, txtItemPrice});
 

@@ -50,6 +50,9 @@ frmResCustSearch::frmResCustSearch(const QString& firstName, const QString& last
     SetCancelButton(cmdCancel);
 
     gcust->SetColumns(CustomerMatchColumns({2700, 3600, 1300, 1700}));
+    gcust->LetDownEnter({txtFirstname, txtLastname});
+    gcust->OfferOnRows({cmdSelect});
+    gcust->SetEmptyText(tr("Press \"Start Search\" to list the customers of these names."));
     txtFirstname->setText(firstName);
     txtLastname->setText(lastName);
 
@@ -72,6 +75,7 @@ void frmResCustSearch::ListMatches()
     cmdSelect->setEnabled(false);
     gcust->Load(SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0);
     cmdSelect->setEnabled(gcust->Rows() > 1);
+    gcust->SetEmptyText(tr("No customer matches."));
 }
 
 void frmResCustSearch::SelectCustomer()

@@ -40,6 +40,9 @@ frmFindInvoice::frmFindInvoice(QWidget* parent)
     });
     gres->StretchWithSize();
 
+    gres->OfferOnRows({cmdEditCustomer});
+    gres->SetEmptyText(tr("Press \"Start Search\" to list the invoices of these days."));
+
     On(cmdOk, &QPushButton::clicked, this, &frmFindInvoice::Search);
     On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindInvoice::TakeInvoice);
     On(gres, &RecordList::Opened, this, &frmFindInvoice::TakeInvoice);
@@ -62,6 +65,7 @@ void frmFindInvoice::Search()
             .Raw("from", DateToYmd(dtFromDate->Value()))
             .Raw("to", DateToYmd(dtToDate->Value()));
     gres->Load(invoices, 1, 0);
+    gres->SetEmptyText(tr("No invoice is of these days."));
     lblTotalCustomers->setText(QString::number(gres->Rows() - 1));
 }
 

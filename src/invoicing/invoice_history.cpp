@@ -53,7 +53,8 @@ InvoiceHistory::InvoiceHistory(QWidget* parent)
     }));
 
     On(cboInvoiceFilter, &ComboBox::Click, this, [this] { RefreshInvoiceList(1, 0); });
-    ShowList(gInvoices, cmdViewDetails, [this](int row, qint64 selectId) { RefreshInvoiceList(row, selectId); });
+    ShowList(gInvoices, {cmdViewDetails, cmdAddReservation, cmdSimpleCalCancel},
+        [this](int row, qint64 selectId) { RefreshInvoiceList(row, selectId); });
     On(cmdViewDetails, &QPushButton::clicked, this, &InvoiceHistory::ViewDetails);
     On(cmdAddReservation, &QPushButton::clicked, this, [this] { emit NewInvoice(); });
     On(cmdSimpleCalCancel, &QPushButton::clicked, this, &InvoiceHistory::DeleteInvoice);

@@ -1,5 +1,6 @@
 #include "base/numbers.h"
 #include "controls/focus.h"
+#include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/screen_input.h"
 #include "invoicing/invoice_page.h"
@@ -128,6 +129,11 @@ QLayout* InvoicePage::LinesSection()
         {"taxratepercentage", tr("Sub-Total"), 1100, CellAlign::RightCenter, CellAlign::RightCenter, NoOrder},
     });
     gNewInvoice->SetScrollBarRoom(350);
+    gNewInvoice->OfferOnRows({cmdEditOrderItem, cmdAddOrderItem, cmdDeleteOrderItem});
+    LetKeyClick(cmdEditOrderItem, Qt::Key_F2, gNewInvoice);
+    LetKeyClick(cmdDeleteOrderItem, Qt::Key_Delete, gNewInvoice);
+    gNewInvoice->SetEmptyText(
+        tr("Nothing is ordered yet. Scan a bar code or press \"%1\".").arg(cmdAddOrderItem->text()));
 
     auto* grid = row(
         {gNewInvoice, column({cmdAddOrderItem, cmdEditOrderItem, cmdDeleteOrderItem, cmdAddGroupItems, stretch()})});

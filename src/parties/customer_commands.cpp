@@ -1,10 +1,9 @@
 #include "parties/customer_commands.h"
 
 #include "base/runtime_error.h"
-#include "controls/message_box.h"
-#include "db/connection.h"
 #include "db/new_row.h"
 #include "parties/customer_record.h"
+#include "records/row_deletion.h"
 
 #include <QCoreApplication>
 
@@ -14,19 +13,6 @@ namespace {
 class CustomerCommands {
     Q_DECLARE_TR_FUNCTIONS(CustomerCommands)
 };
-
-bool IsCustomer(qint64 customerId)
-{
-    return customerId != 0 && customerId != NewRow;
-}
-
-bool HasInvoices(qint64 customerId)
-{
-    const Sql invoices =
-        Sql("SELECT count(*) FROM customer, invoice WHERE invoice.customerid = customer.id AND customer.id={id} ")
-            .Number("id", customerId);
-    return gConnection->Execute(invoices)[0].ToLong() > 0;
-}
 
 } // namespace
 
@@ -38,7 +24,7 @@ void AddCustomer(QWidget* parent)
 
 void EditCustomer(qint64 customerId, QWidget* parent)
 {
-    if (!IsCustomer(customerId))
+    if (customerId == 0 || customerId == NewRow)
         return;
     frmCustomer::gEditCustomerId = qint16(ToInteger16(customerId));
     frmCustomer(parent).ShowModal();
@@ -46,17 +32,13 @@ void EditCustomer(qint64 customerId, QWidget* parent)
 
 bool DeleteCustomer(qint64 customerId)
 {
-    if (!IsCustomer(customerId))
-        return false;
-    if (HasInvoices(customerId)) {
-        MsgBox(CustomerCommands::tr(
-                   "This customer has existing invoices and cannot be deleted. To delete this customer first "
-                   "delete all their invoices."),
-            Icon::Critical, CustomerCommands::tr("Cannot delete customer."));
-        return false;
-    }
-    if (MsgBox(CustomerCommands::tr("Delete customer?"), Icon::Question, Buttons::YesNo) == Answer::No)
-        return false;
-    gConnection->Execute(Sql("DELETE FROM customer WHERE id = {id}").Number("id", customerId));
-    return true;
+    const RowDeletion deletion{
+        .uses = "SELECT count(*) FROM customer, invoice WHERE invoice.customerid = customer.id AND customer.id={id} ",
+        .inUse = CustomerCommands::tr("This customer has existing invoices and cannot be deleted. To delete this "
+                                      "customer first delete all their invoices."),
+        .inUseTitle = CustomerCommands::tr("Cannot delete customer."),
+        .question = CustomerCommands::tr("Delete customer?"),
+        .remove = "DELETE FROM customer WHERE id = {id}",
+    };
+    return DeleteRecord(deletion, customerId);
 }

@@ -50,7 +50,8 @@ CustomersPanel::CustomersPanel(QWidget* parent)
         ButtonBar("picCustBot", {stretch(), cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer}),
     }));
 
-    ShowList(gcust, cmdEditCustomer, [this](int row, qint64 selectId) { RefreshCustomerList(row, selectId); });
+    ShowList(gcust, {cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer},
+        [this](int row, qint64 selectId) { RefreshCustomerList(row, selectId); });
     On(cmdEditCustomer, &QPushButton::clicked, this, &CustomersPanel::EditSelected);
     On(cmdCreateCustomer, &QPushButton::clicked, this, &CustomersPanel::AddCustomer);
     On(cmdDeleteCustomer, &QPushButton::clicked, this, &CustomersPanel::DeleteSelected);

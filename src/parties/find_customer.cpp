@@ -1,6 +1,7 @@
 #include "parties/find_customer.h"
 
 #include "controls/hourglass.h"
+#include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "parties/customer_commands.h"
@@ -69,6 +70,13 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
     On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindCustomer::EditSelected);
     On(gcust, &RecordList::Opened, this, &frmFindCustomer::EditSelected);
     On(cmdDeleteCustomer, &QPushButton::clicked, this, &frmFindCustomer::DeleteSelected);
+    LetKeyClickInWindow(cmdCreateCustomer, QKeySequence::New, this);
+    LetKeyClickInWindow(cmdEditCustomer, Qt::Key_F2, this);
+    LetKeyClick(cmdDeleteCustomer, Qt::Key_Delete, gcust);
+    gcust->OfferOnRows({cmdEditCustomer, cmdCreateCustomer, cmdDeleteCustomer});
+    gcust->LetDownEnter({txtFirstname, txtLastname, txtBusinessName, txtAddress1, txtAddress2, txtCity, txtState,
+        txtCountry, txtPostcode, txtPhone, txtEmail});
+    gcust->SetEmptyText(tr("No customer matches."));
 }
 
 QLayout* frmFindCustomer::Criteria()

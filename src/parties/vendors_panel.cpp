@@ -3,16 +3,7 @@
 #include "controls/message_box.h"
 #include "db/new_row.h"
 #include "parties/vendor_record.h"
-
-namespace {
-
-bool HasItems(qint64 vendorId)
-{
-    const Sql items = Sql("SELECT count(*) FROM item WHERE item.vendorid = {id} ").Number("id", vendorId);
-    return gConnection->Execute(items)[0].ToLong() > 0;
-}
-
-} // namespace
+#include "records/row_deletion.h"
 
 VendorsPanel::VendorsPanel(QWidget* parent)
     : ListPanel("picVendors", parent)
@@ -37,7 +28,8 @@ VendorsPanel::VendorsPanel(QWidget* parent)
         ButtonBar("picVendorButBar", {stretch(), cmdVendorEdit, cmdVendorNew, cmdVendorDelete}),
     }));
 
-    ShowList(gVendors, cmdVendorEdit, [this](int row, qint64 selectId) { RefreshVendorList(row, selectId); });
+    ShowList(gVendors, {cmdVendorEdit, cmdVendorNew, cmdVendorDelete},
+        [this](int row, qint64 selectId) { RefreshVendorList(row, selectId); });
     On(cmdVendorEdit, &QPushButton::clicked, this, &VendorsPanel::EditSelected);
     On(cmdVendorNew, &QPushButton::clicked, this, &VendorsPanel::AddVendor);
     On(cmdVendorDelete, &QPushButton::clicked, this, &VendorsPanel::DeleteSelected);
@@ -77,17 +69,15 @@ void VendorsPanel::ShowVendorRecord(qint32 vendorId)
 
 void VendorsPanel::DeleteSelected()
 {
-    const qint64 vendorId = gVendors->CurrentRowData();
-    if (vendorId == 0 || vendorId == NewRow)
-        return;
-    if (HasItems(vendorId)) {
-        MsgBox(tr("This vendor has existing items and cannot be deleted. To delete this vendor first delete all items "
-                  "they supply."),
-            Icon::Critical, tr("Cannot delete vendor."));
-        return;
-    }
-    if (MsgBox(tr("Delete vendor?"), Icon::Question, Buttons::YesNo) == Answer::No)
-        return;
-    gConnection->Execute(Sql("DELETE FROM vendor WHERE id = {id}").Number("id", vendorId));
-    LoadInPlace();
+    const RowDeletion deletion{
+        .uses = "SELECT count(*) FROM item WHERE item.vendorid = {id} ",
+        .inUse =
+            tr("This vendor has existing items and cannot be deleted. To delete this vendor first delete all items "
+               "they supply."),
+        .inUseTitle = tr("Cannot delete vendor."),
+        .question = tr("Delete vendor?"),
+        .remove = "DELETE FROM vendor WHERE id = {id}",
+    };
+    if (DeleteRecord(deletion, gVendors->CurrentRowData()))
+        LoadInPlace();
 }

@@ -49,6 +49,9 @@ KeyGroupForm::KeyGroupForm(const char* name, const char* comboName, const Texts&
     On(cmdEdit, &QPushButton::clicked, this, &KeyGroupForm::EditEntry);
     On(lstItems, &KeyList::Opened, this, &KeyGroupForm::EditEntry);
     On(cmdRemove, &QPushButton::clicked, this, &KeyGroupForm::RemoveEntry);
+    lstItems->SetEmptyText(tr("There is nothing to show. Press \"%1\" to begin.").arg(cmdAdd->text().remove(u'&')));
+    LetKeysEdit(cboGroups, {cmdCatAdd, cmdCatEdit, cmdCatRemove});
+    LetKeysEdit(lstItems, {cmdAdd, cmdEdit, cmdRemove});
 }
 
 std::optional<qint64> KeyGroupForm::ChosenGroup() const

@@ -1,5 +1,8 @@
 #include "records/key_list.h"
 
+#include "controls/flex_grid_paint.h"
+#include "controls/keys.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -28,6 +31,17 @@ std::optional<qint64> KeyList::SelectedId() const
     return selected.constFirst()->data(Qt::UserRole).toLongLong();
 }
 
+void KeyList::SetEmptyText(const QString& text)
+{
+    m_emptyText = text;
+}
+
+void KeyList::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    PaintEmptyText(this, m_emptyText);
+}
+
 void KeyList::mousePressEvent(QMouseEvent* event)
 {
     if (indexAt(event->pos()).isValid())
@@ -48,4 +62,11 @@ void KeyList::keyPressEvent(QKeyEvent* event)
     event->accept();
     if (!event->isAutoRepeat())
         emit Opened();
+}
+
+void LetKeysEdit(QWidget* list, const KeyButtons& buttons)
+{
+    LetKeyClick(buttons.add, Qt::Key_Insert, list);
+    LetKeyClick(buttons.edit, Qt::Key_F2, list);
+    LetKeyClick(buttons.remove, Qt::Key_Delete, list);
 }

@@ -32,6 +32,8 @@ KeyListForm::KeyListForm(const char* name, const Texts& texts, const KeyTable& t
     On(cmdEdit, &QPushButton::clicked, this, &KeyListForm::Edit);
     On(lstItems, &KeyList::Opened, this, &KeyListForm::Edit);
     On(cmdRemove, &QPushButton::clicked, this, &KeyListForm::Remove);
+    lstItems->SetEmptyText(tr("There is nothing to show. Press \"Add\" to begin."));
+    LetKeysEdit(lstItems, {cmdAdd, cmdEdit, cmdRemove});
 }
 
 void KeyListForm::AddBelowList(QLayout* lines, std::initializer_list<QWidget*> controls)

@@ -1,5 +1,7 @@
 #include "records/list_panel.h"
 
+#include "controls/keys.h"
+
 #include <QShowEvent>
 
 QWidget* ListPanel::ButtonBar(const char* name, std::initializer_list<LayoutItem> buttons)
@@ -11,12 +13,29 @@ QWidget* ListPanel::ButtonBar(const char* name, std::initializer_list<LayoutItem
     return bar;
 }
 
-void ListPanel::ShowList(RecordList* list, QPushButton* open, Loader load)
+void ListPanel::ShowList(RecordList* list, const RowButtons& buttons, Loader load)
 {
     m_list = list;
     m_load = std::move(load);
     On(list, &RecordList::Sorted, this, &ListPanel::LoadInPlace);
-    On(list, &RecordList::Opened, open, [open] { open->click(); });
+    On(list, &RecordList::Opened, buttons.open, [open = buttons.open] { open->click(); });
+    list->OfferOnRows({buttons.open, buttons.add, buttons.remove});
+    list->SetEmptyText(tr("There is nothing to show. Press \"%1\" to begin.").arg(buttons.add->text()));
+    SetUpKeys(buttons);
+}
+
+void ListPanel::SetUpKeys(const RowButtons& buttons)
+{
+    LetKeyClickInWindow(buttons.open, Qt::Key_F2, this);
+    LetKeyClickInWindow(buttons.add, QKeySequence::New, this);
+    LetKeyClick(buttons.remove, Qt::Key_Delete, m_list);
+    OnKeyInWindow(this, Qt::Key_F5, [this] { m_load(m_list->Row(), m_list->CurrentRowData()); });
+    OnKeyInWindow(this, QKeySequence::Find, [this] {
+        if (m_find)
+            m_find();
+        else
+            m_list->OpenFilter();
+    });
 }
 
 void ListPanel::LoadInPlace()

@@ -11,20 +11,33 @@ class ListPanel : public Panel {
 public:
     using Panel::Panel;
 
+    /// What Ctrl+F runs; the line that filters the list unless another is told.
+    void FindBy(std::function<void()> find) { m_find = std::move(find); }
+
 protected:
     /// The bar of buttons at the bottom.
     static QWidget* ButtonBar(const char* name, std::initializer_list<LayoutItem> buttons);
 
-    /// Makes `list` the panel's: a click on a title sorts it through `load`, and a double click or Enter on a row
-    /// clicks `open`. `load` fills it, and selects the row of `selectId`, else row number `row`.
+    /// What the buttons do with the list and its rows. They also run by F2, Ctrl+N and, in the list, Delete.
+    struct RowButtons {
+        QPushButton* open;
+        QPushButton* add;
+        QPushButton* remove;
+    };
+    /// Makes `list` the panel's: a click on a title sorts it through `load`, F5 reads it anew with the same record
+    /// selected, and a double click or Enter on a row clicks the button that opens it. `load` fills it, and selects the
+    /// row of `selectId`, else row number `row`.
     using Loader = std::function<void(int row, qint64 selectId)>;
-    void ShowList(RecordList* list, QPushButton* open, Loader load);
+    void ShowList(RecordList* list, const RowButtons& buttons, Loader load);
     /// Loads the list with the row number selected that is selected now.
     void LoadInPlace();
 
     void showEvent(QShowEvent* event) override;
 
 private:
+    void SetUpKeys(const RowButtons& buttons);
+
     RecordList* m_list = nullptr;
     Loader m_load;
+    std::function<void()> m_find;
 };

@@ -52,6 +52,7 @@ void RecordList::SetColumns(const QList<ListColumn>& columns)
     for (int col = 0; col < Cols(); ++col)
         SetColAlignment(col, columns.at(col).alignment);
     SetUpColumns();
+    ShowOrder();
 }
 
 void RecordList::SetUpColumns()
@@ -164,7 +165,9 @@ void RecordList::LoadRows(const Sql& sql, int row, qint64 selectId, const RowWri
 void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells)
 {
     const RedrawOff redraw(this);
+    ShowOrder();
     SetRows(1);
+    bool isFound = false;
     {
         GridFill fill(this);
         for (Recordset rs = gConnection->Execute(sql); !rs.Eof(); rs.MoveNext()) {
@@ -173,10 +176,15 @@ void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter&
             cells(rs, fill);
             const qint64 id = rs.Long(0);
             const int counter = fill.EndRow(id);
-            if (id == selectId)
-                row = counter;
+            if (id != selectId)
+                continue;
+            row = counter;
+            isFound = true;
         }
     }
+    // The record that was just added or edited shows, whatever the filter says.
+    if (isFound)
+        Reveal(row);
     SelectRow(std::min(row, Rows() - 1));
     if (m_foundRowOnTop && !RowIsVisible(Row()))
         SetTopRow(Row());
@@ -189,4 +197,20 @@ void RecordList::SortByTitle()
     if (const char* order = m_columns.at(MouseCol()).order)
         SetTag(QLatin1String(order));
     emit Sorted();
+}
+
+int RecordList::SortedColumn() const
+{
+    for (int col = 0; m_sorts && col < Cols(); ++col)
+        if (const char* order = m_columns.at(col).order; order && Tag() == QLatin1String(order))
+            return col;
+    return -1;
+}
+
+void RecordList::ShowOrder()
+{
+    const int sorted = SortedColumn();
+    ShowSorted(sorted);
+    const int name = ColumnOf("name");
+    SetSearchColumn(sorted >= 0 ? sorted : name < Cols() ? name : 0);
 }

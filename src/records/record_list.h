@@ -1,7 +1,10 @@
 #pragma once
 
+#include "controls/filter_line.h"
 #include "controls/flex_grid.h"
 #include "db/connection.h"
+
+#include <QPushButton>
 
 #include <functional>
 
@@ -49,6 +52,17 @@ public:
     void SetTitleOf(const char* field, const QString& title);
     QString CellText(int row, const char* field) const { return TextMatrix(row, ColumnOf(field)); }
 
+    /// The field's column where rows that `GridFill::MarkRow` marked bear a sign, and what it means.
+    void SetMarkOf(const char* field, const QString& meaning) { SetMark(ColumnOf(field), meaning); }
+
+    /// The buttons that a right click on a row offers beside Copy and Filter; the keys in their tooltips stand there
+    /// too.
+    void OfferOnRows(const QList<QPushButton*>& buttons) { m_buttons = buttons; }
+    /// Down in one of the boxes by which the list is searched goes into the rows.
+    void LetDownEnter(std::initializer_list<QWidget*> boxes);
+    /// Opens the line under the list that filters it.
+    void OpenFilter();
+
     /// Column widths between runs, under the list's own name. Only stored widths above 0 are restored.
     void SaveWidths() const;
     void RestoreWidths();
@@ -76,8 +90,16 @@ signals:
     /// A double click or Enter on a row that is not the title row.
     void Opened();
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
 private:
     int ColumnOf(const char* field) const;
+    /// The column by which the list is sorted; -1 for none.
+    int SortedColumn() const;
+    void ShowOrder();
+    void ShowMenu(const QPoint& where);
     int SumOfWidths() const;
     void Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells);
     void GiveSpareWidth(Spare when, int room);
@@ -87,4 +109,6 @@ private:
     int m_scrollBarRoom = 400;
     bool m_sorts = false;
     bool m_foundRowOnTop = false;
+    QList<QPushButton*> m_buttons;
+    FilterLine* m_filterLine = nullptr;
 };

@@ -2,8 +2,14 @@
 #include "db/new_row.h"
 #include "inventory/item_details.h"
 #include "inventory/item_group_form.h"
+#include "invoicing/open_invoice.h"
 #include "parties/customer_record.h"
 #include "parties/vendor_record.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QTest>
 
 namespace {
 
@@ -28,6 +34,7 @@ struct ListPanelCase {
     const char* refusalTitle;
     const char* question;
     int rowAfterRemoval;
+    const char* finder; ///< what Ctrl+F opens; none for the line that filters
     const char* nothingSelected; ///< said of row data -1 ...
     bool emptyOpens; ///< ... while an empty list opens its form for row 0
 };
@@ -46,7 +53,7 @@ const ListPanelCase Invoices{"Invoice History", "mnuListInvoices", "gInvoices", 
     {{"00003", "Alloys", "Zoe Brown", "12/31/2025"}, {"00001", "metals", "Bob Ray", "3/4/2026"},
         {"00002", "Zinc & Co", "Ann Smith", ""}},
     {"231", "123", "321", "312"}, "cmdViewDetails", "cmdAddReservation", "cmdSimpleCalCancel", nullptr, {}, nullptr,
-    nullptr, nullptr, "Are you sure you want to delete this invoice?", 2, nullptr, false};
+    nullptr, nullptr, "Are you sure you want to delete this invoice?", 2, "frmFindInvoice", nullptr, false};
 
 const ListPanelCase Customers{"Customers", "mnuCustomersView", "gcust", "picCustBot", "customer",
     {"INSERT INTO customer (id, FirstName, LastName, BusinessName, Address1, Address2, PostCode, Phone) VALUES "
@@ -58,7 +65,7 @@ const ListPanelCase Customers{"Customers", "mnuCustomersView", "gcust", "picCust
     [] { return frmCustomer::gEditCustomerId; }, {1, 2, 2}, "INSERT INTO invoice (CustomerID) VALUES (11)",
     "This customer has existing invoices and cannot be deleted. To delete this customer first delete all their "
     "invoices.",
-    "Cannot delete customer.", "Delete customer?", 2, "", false};
+    "Cannot delete customer.", "Delete customer?", 2, "frmFindCustomer", "", false};
 
 const ListPanelCase Vendors{"Vendors", "mnuVendorsView", "gVendors", "picVendorButBar", "vendor",
     {"INSERT INTO vendor (id, BusinessName, ContactName, Phone) VALUES (11, 'Axes ''R'' Us', 'Zoe', '1'), "
@@ -67,7 +74,7 @@ const ListPanelCase Vendors{"Vendors", "mnuVendorsView", "gVendors", "picVendorB
     "cmdVendorNew", "cmdVendorDelete", [] { return frmVendor::gEditVendorId; }, {1, 1, 1},
     "INSERT INTO item (Name, VendorID) VALUES ('Hatchet', 11)",
     "This vendor has existing items and cannot be deleted. To delete this vendor first delete all items they supply.",
-    "Cannot delete vendor.", "Delete vendor?", 2,
+    "Cannot delete vendor.", "Delete vendor?", 2, nullptr,
     "No vendor has been selected. Select a vendor from the list and try again.", true};
 
 const ListPanelCase Inventory{"Inventory", "mnuViewInventory", "gInventory", "picInventoryButBar", "item",
@@ -82,7 +89,7 @@ const ListPanelCase Inventory{"Inventory", "mnuViewInventory", "gInventory", "pi
     [] { return frmItemDetails::gEditItemId; }, {1, 2, 2}, "INSERT INTO invoiceline (ItemID) VALUES (11)",
     "This item is used on one or more invoices and cannot be deleted. To delete this item first delete all invoices "
     "it is included in.",
-    "Cannot delete item.", "Delete item?", 1, nullptr, false};
+    "Cannot delete item.", "Delete item?", 1, nullptr, nullptr, false};
 
 const ListPanelCase Groups{"Item Groups", "mnuInventoryViewItemGroup", "gItemGroups", "picItemGroupsBot", "itemgroup",
     {"INSERT INTO itemgroup (id, name) VALUES (11, 'kit'), (12, 'Ladders'), (13, 'Other')"},
@@ -91,7 +98,7 @@ const ListPanelCase Groups{"Item Groups", "mnuInventoryViewItemGroup", "gItemGro
     "INSERT INTO itemgroup_item (itemgroupid, ItemID) VALUES (11, 1)",
     "This Item Group has existing items and cannot be deleted. To delete this Item Group first delete all items they "
     "supply.",
-    "Cannot delete Item Group.", "Delete Item Group?", 2,
+    "Cannot delete Item Group.", "Delete Item Group?", 2, nullptr,
     "No item group has been selected. Select an item group from the list and try again.", true};
 
 class ListPanelTest : public MainWindowTest, public ::testing::WithParamInterface<ListPanelCase> {
@@ -184,6 +191,70 @@ TEST_P(ListPanelTest, ARowOpensByButtonDoubleClickAndEnterAndTheListIsReadAnew)
     ExpectForm(NewRow);
     Click(Button(GetParam().add));
     EXPECT_EQ(list->Row(), 1);
+}
+
+TEST_P(ListPanelTest, EveryKeyDoesItsWork)
+{
+    MakeRows();
+    Open();
+    const auto expectOpen = [&](qint64 id) {
+        if (GetParam().edited)
+            ExpectForm(id);
+    };
+    ClickRow(list, 2);
+    expectOpen(12);
+    Press(list, Qt::Key_F2);
+    if (!GetParam().edited) {
+        EXPECT_EQ(OpenInvoice::gCurrentInvoiceId, 12);
+    }
+    Open();
+    expectOpen(NewRow);
+    Press(Button(GetParam().remove), Qt::Key_N, Qt::ControlModifier);
+    if (!GetParam().edited) {
+        EXPECT_TRUE(Window().picNewInvoice->isVisible());
+    }
+
+    Open();
+    ClickRow(list, 2);
+    const qint64 before = list->CurrentRowData();
+    Run(QString("DELETE FROM %1 WHERE id = 12").arg(GetParam().table));
+    Run(QString("DELETE FROM %1 WHERE id = 11").arg(GetParam().table));
+    Press(Button(GetParam().open), Qt::Key_F5);
+    EXPECT_EQ(Order(), "3");
+    EXPECT_EQ(list->Row(), 1) << "record " << before << " has gone";
+
+    if (GetParam().finder)
+        WhenDialogShows(
+            GetParam().finder, [](QDialog* dialog) { return dialog->objectName() == GetParam().finder; },
+            [](QDialog* dialog) { Press(dialog, Qt::Key_Escape); });
+    Press(list, Qt::Key_F, Qt::ControlModifier);
+    if (!GetParam().finder) {
+        EXPECT_TRUE(Find<TextBox>(list->parent(), "txtFilter")->hasFocus());
+    }
+
+    answers.Expect(GetParam().question, Answer::No);
+    Press(list, Qt::Key_Delete);
+}
+
+TEST_P(ListPanelTest, ARightClickOffersWhatTheButtonsDoAndTheKeysForIt)
+{
+    MakeRows();
+    Open();
+    const QPoint secondRow = list->visualRect(list->model()->index(1, 0)).center();
+    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, secondRow);
+    QContextMenuEvent rightClick(QContextMenuEvent::Mouse, secondRow, list->viewport()->mapToGlobal(secondRow));
+    QApplication::sendEvent(list->viewport(), &rightClick);
+    auto* menu = list->findChild<QMenu*>();
+    ASSERT_TRUE(menu && list->Row() == 2);
+    QStringList entries;
+    for (const QAction* entry : menu->actions())
+        entries.append(entry->text());
+    EXPECT_EQ(entries,
+        QStringList({Button(GetParam().open)->text() + "\tF2", Button(GetParam().add)->text() + "\tCtrl+N",
+            Button(GetParam().remove)->text() + "\tDel", "", "&Copy\tCtrl+C", "&Filter\t/"}));
+    answers.Expect(GetParam().question, Answer::No);
+    menu->actions().at(2)->trigger();
+    menu->close();
 }
 
 TEST_P(ListPanelTest, ARowInUseStaysAndOthersGoOnYes)

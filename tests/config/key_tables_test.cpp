@@ -185,6 +185,16 @@ TEST_P(KeyTablesTest, EditingRenamesTheSelectedRowAlone)
     EXPECT_EQ(RowCount(), before);
     EXPECT_EQ(Listed().filter("ZETA").size(), 1);
 
+    QWidget* const rows = GetParam().groups ? Find<QWidget>(form.get(), GetParam().groups) : List();
+    for (const Qt::Key key : {Qt::Key_F2, Qt::Key_Insert}) {
+        WhenDetailsShow([key](NameForm& details) {
+            EXPECT_EQ(details.txtName->text(), key == Qt::Key_F2 ? "ZETA" : "");
+            Click(details.cmdCancel);
+        });
+        ::Press(rows, key);
+    }
+    answers.Expect(GetParam().Question(), Answer::No);
+    ::Press(rows, Qt::Key_Delete);
     if (QListWidget* list = List()) {
         WhenDetailsShow([](NameForm& details) { Click(details.cmdCancel); });
         ::Press(list, Qt::Key_Return);

@@ -82,4 +82,21 @@ TEST_F(InventoryListTest, AtStartWithoutPriceListsNoneIsChosenAndTheListStaysEmp
     EXPECT_EQ(panel->gInventory->TextMatrix(0, 2), "Sale Price") << "nothing was loaded";
 }
 
+TEST_F(InventoryListTest, ItemsAtOrBelowTheirReorderLevelAreMarked)
+{
+    for (const auto& [name, stock, level] : {std::tuple("a below", "2", "3"), {"b at", "3", "3"}, {"c above", "4", "3"},
+             {"d none", "NULL", "3"}, {"e below", "-1", "0"}})
+        Run(QString("UPDATE item SET NoInStock = %1, ReorderLevel = %2 WHERE id = %3")
+                .arg(stock, level)
+                .arg(Item(name).Add()));
+    Open();
+    QStringList marked;
+    for (int row = 0; row < 5; ++row) {
+        const QModelIndex stock = panel->gInventory->model()->index(row, 4);
+        if (stock.data(Qt::ToolTipRole).toString() == "At or below the reorder level")
+            marked.append(Names().at(row));
+    }
+    EXPECT_EQ(marked, QStringList({"a below", "b at", "e below"}));
+}
+
 } // namespace
