@@ -13,6 +13,7 @@
 namespace {
 constexpr int TooltipCharacters = 2000;
 constexpr int EmptyTextMargin = 12;
+constexpr int ArrowHeight = 4;
 /// Of a tinted row: between a plain one and a selected one, so that a text is legible on it in any theme.
 constexpr double TintStrength = 0.35;
 
@@ -132,7 +133,7 @@ void TitleHeader::ShowSorted(int col)
 QSize TitleHeader::sizeHint() const
 {
     if (!m_sizeHint.isValid() && count() > 0)
-        m_sizeHint = QHeaderView::sizeHint();
+        m_sizeHint = QHeaderView::sizeHint() + QSize(0, ArrowHeight);
     return m_sizeHint.isValid() ? m_sizeHint : QHeaderView::sizeHint();
 }
 
@@ -159,13 +160,24 @@ void TitleHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int col) c
 {
     QHeaderView::initStyleOptionForIndex(option, col);
     option->text = Elided(col);
-    // By itself Qt would turn the arrow with every click; lists sort upwards only.
-    option->sortIndicator = col == m_sorted ? QStyleOptionHeader::SortDown : QStyleOptionHeader::None;
+    // The header is one line high, with the arrow above it.
+    option->textAlignment = (option->textAlignment & Qt::AlignHorizontal_Mask) | Qt::AlignBottom;
 }
 
-QSize TitleHeader::sectionSizeFromContents(int col) const
+void TitleHeader::paintSection(QPainter* painter, const QRect& rect, int col) const
 {
-    return QHeaderView::sectionSizeFromContents(col) + QSize(ArrowWidth(col), 0);
+    QHeaderView::paintSection(painter, rect, col);
+    if (col != m_sorted)
+        return;
+    // Lists sort upwards only: by itself Qt would turn its arrow with every click.
+    const QPointF tip(rect.center().x() + 0.5, rect.top() + ArrowHeight + 1);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(palette().color(QPalette::ButtonText));
+    painter->drawPolygon(
+        QPolygonF({tip, tip - QPointF(ArrowHeight, ArrowHeight), tip + QPointF(ArrowHeight, -ArrowHeight)}));
+    painter->restore();
 }
 
 QString TitleHeader::Title(int col) const
@@ -173,16 +185,8 @@ QString TitleHeader::Title(int col) const
     return model()->headerData(col, Qt::Horizontal).toString();
 }
 
-int TitleHeader::ArrowWidth(int col) const
-{
-    if (col != m_sorted)
-        return 0;
-    return style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this)
-        + style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-}
-
 QString TitleHeader::Elided(int col) const
 {
     const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-    return fontMetrics().elidedText(Title(col), Qt::ElideRight, sectionSize(col) - margins - ArrowWidth(col));
+    return fontMetrics().elidedText(Title(col), Qt::ElideRight, sectionSize(col) - margins);
 }

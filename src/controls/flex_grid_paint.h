@@ -28,7 +28,7 @@ protected:
 };
 
 /// Shows the start of a title that is wider than its column, where Qt cuts a centred title off at both ends, and all of
-/// it as tooltip.
+/// it as tooltip. The arrow over the title by which the list is sorted takes no width from it.
 class TitleHeader : public QHeaderView {
 public:
     explicit TitleHeader(QWidget* parent);
@@ -43,11 +43,10 @@ protected:
     bool viewportEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void initStyleOptionForIndex(QStyleOptionHeader* option, int col) const override;
-    QSize sectionSizeFromContents(int col) const override;
+    void paintSection(QPainter* painter, const QRect& rect, int col) const override;
 
 private:
     QString Title(int col) const;
-    int ArrowWidth(int col) const;
     /// The title as far as there is room for it.
     QString Elided(int col) const;
 
