@@ -223,6 +223,13 @@ int FlexGrid::WidthInTwips() const
     return PixelsToTwips(width());
 }
 
+QSize FlexGrid::sizeHint() const
+{
+    constexpr int FewRows = 6;
+    const int height = m_header->sizeHint().height() + FewRows * verticalHeader()->defaultSectionSize();
+    return {QTableView::sizeHint().width(), height + 2 * frameWidth()};
+}
+
 void FlexGrid::SetTitle(int col, const QString& title, CellAlign alignment)
 {
     CheckCol(col);

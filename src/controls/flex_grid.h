@@ -57,6 +57,8 @@ public:
     void SetColWidth(int col, int twips);
     /// The width of the grid itself, frame included, in twips.
     int WidthInTwips() const;
+    /// Room for a few rows: a small window scrolls its screen before it takes these away.
+    QSize sizeHint() const override;
 
     /// The title row's cell and all data cells of a column have each their own alignment.
     void SetTitle(int col, const QString& title, CellAlign alignment);

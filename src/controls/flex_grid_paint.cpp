@@ -166,7 +166,10 @@ void TitleHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int col) c
 
 void TitleHeader::paintSection(QPainter* painter, const QRect& rect, int col) const
 {
+    // The style leaves a clip behind that lets nothing through.
+    painter->save();
     QHeaderView::paintSection(painter, rect, col);
+    painter->restore();
     if (col != m_sorted)
         return;
     // Lists sort upwards only: by itself Qt would turn its arrow with every click.

@@ -193,7 +193,7 @@ TEST_P(KeyTablesTest, EditingRenamesTheSelectedRowAlone)
         });
         ::Press(rows, key);
     }
-    answers.Expect(GetParam().Question(), Answer::No);
+    answers.Expect(GetParam().Said("Are you sure you want to delete this %1?"), Answer::No);
     ::Press(rows, Qt::Key_Delete);
     if (QListWidget* list = List()) {
         WhenDetailsShow([](NameForm& details) { Click(details.cmdCancel); });

@@ -294,6 +294,17 @@ TEST_F(Grid, TitlesAndColumnsAlignEachByThemselves)
     EXPECT_EQ(alignment(2), int(Qt::AlignRight | Qt::AlignVCenter)) << "numbers stand right where nothing is set";
 }
 
+TEST_F(Grid, TheTitleByWhichItIsSortedBearsAnArrow)
+{
+    Shown(&grid);
+    const auto picture = [this](int sorted) {
+        grid.ShowSorted(sorted);
+        return grid.horizontalHeader()->grab().toImage();
+    };
+    EXPECT_NE(picture(1), picture(-1));
+    EXPECT_NE(picture(1), picture(2));
+}
+
 TEST_F(Grid, ATitleTooWideForItsColumnShowsItsStart)
 {
     const auto picture = [this](const QString& title) {
