@@ -36,7 +36,7 @@ FlexGrid::FlexGrid(QWidget* parent)
 
     m_tintEnd.setSingleShot(true);
     const auto endTint = [this] {
-        m_tinted = 0;
+        m_model->SetTinted(-1);
         viewport()->update();
     };
     QObject::connect(&m_tintEnd, &QTimer::timeout, this, endTint);
@@ -286,10 +286,15 @@ void FlexGrid::ShowTinted(int row)
     constexpr int TintMs = 1000;
     CheckRow(row);
     Reveal(row);
-    m_tinted = row;
+    m_model->SetTinted(row - 1);
     m_tintEnd.start(TintMs);
     scrollTo(m_model->index(m_model->NearestPlace(row - 1), m_col));
     viewport()->update();
+}
+
+int FlexGrid::TintedRow() const
+{
+    return m_model->Tinted() + 1;
 }
 
 void FlexGrid::SetMark(int col, const QString& meaning)

@@ -77,7 +77,7 @@ public:
     bool RowIsVisible(int row) const;
     /// Brings a data row into view and tints it for a second, or until the grid is filled anew. Selects nothing.
     void ShowTinted(int row);
-    int TintedRow() const { return m_tinted; } ///< 0 for none
+    int TintedRow() const; ///< 0 for none
 
     /// The list's sort expression; "" for its default order.
     const QString& Tag() const { return m_tag; }
@@ -106,6 +106,7 @@ public:
     void ShowSorted(int col);
     /// What the list says while it has no rows.
     void SetEmptyText(const QString& text);
+    const QString& EmptyText() const { return m_emptyText; }
 
     FlexGridModel* Model() const { return m_model; }
 
@@ -153,7 +154,6 @@ private:
     int m_mouseRow = 0;
     int m_mouseCol = 0;
     bool m_setByCode = false;
-    int m_tinted = 0;
     QTimer m_tintEnd;
     int m_searchColumn = -1;
     QString m_typed;

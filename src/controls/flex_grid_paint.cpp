@@ -1,6 +1,5 @@
 #include "controls/flex_grid_paint.h"
 
-#include "controls/flex_grid.h"
 #include "controls/flex_grid_model.h"
 
 #include <QAbstractItemView>
@@ -101,8 +100,7 @@ void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
-    const auto* grid = static_cast<const FlexGrid*>(option->widget);
-    if (grid->Model()->RowAt(index.row()) + 1 == grid->TintedRow()) {
+    if (index.data(FlexGridModel::TintRole).toBool()) {
         option->state &= ~QStyle::State_Selected;
         option->backgroundBrush =
             Blended(option->palette.color(QPalette::Base), option->palette.color(QPalette::Highlight), TintStrength);

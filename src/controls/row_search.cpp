@@ -48,7 +48,7 @@ void RowSearch::Fold(const FlexGridRows& rows)
     m_ends.reserve(size_t(rows.Count()));
     for (int row = 0; row < rows.Count(); ++row) {
         const size_t start = m_text.size();
-        for (int col = 0; col < rows.Cols(); ++col)
+        for (int col = 0; col < rows.CellsOf(row); ++col)
             m_text.append(rows.Cell(row, col)) += CellEnd;
         FoldFrom(start);
         m_ends.push_back(m_text.size());

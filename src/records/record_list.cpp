@@ -186,6 +186,8 @@ void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter&
     if (isFound)
         Reveal(row);
     SelectRow(std::min(row, Rows() - 1));
+    // What an empty list shows a screen reader says.
+    setAccessibleDescription(Rows() > 1 ? QString() : EmptyText());
     if (m_foundRowOnTop && !RowIsVisible(Row()))
         SetTopRow(Row());
 }

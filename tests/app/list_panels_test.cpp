@@ -281,6 +281,7 @@ TEST_P(ListPanelTest, AnEmptyListAnswersAsItsHandlersSay)
 {
     Open();
     EXPECT_EQ(list->Row(), 0);
+    EXPECT_TRUE(list->accessibleDescription().contains(Button(GetParam().add)->text()));
     const QString noInvoice = "No invoice has been selected. Select an invoice from the list and try again.";
     if (!GetParam().edited)
         answers.ExpectMessage(noInvoice, Icon::Information);

@@ -10,8 +10,10 @@
 
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 namespace {
 
@@ -303,6 +305,25 @@ TEST_F(Grid, TheTitleByWhichItIsSortedBearsAnArrow)
     };
     EXPECT_NE(picture(1), picture(-1));
     EXPECT_NE(picture(1), picture(2));
+}
+
+TEST_F(Grid, ADoubleClickOnABorderFitsTheColumnAndACutTitleIsToldInFull)
+{
+    Fill(3);
+    grid.SetTextMatrix(2, 0, "the name of a supplier that takes more than its column has");
+    grid.SetTitle(1, "A wholesale customers' price list", CellAlign::CenterTop);
+    Shown(&grid);
+    QWidget* titles = grid.horizontalHeader()->viewport();
+    QTest::mouseDClick(titles, Qt::LeftButton, {}, QPoint(grid.columnWidth(0) - 1, 5));
+    EXPECT_GE(grid.columnWidth(0), grid.fontMetrics().horizontalAdvance(grid.TextMatrix(2, 0)));
+    const auto tipOf = [&](int col) {
+        const QPoint spot(grid.horizontalHeader()->sectionViewportPosition(col) + 5, 5);
+        QHelpEvent hover(QEvent::ToolTip, spot, titles->mapToGlobal(spot));
+        QApplication::sendEvent(titles, &hover);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tipOf(0), "");
+    EXPECT_EQ(tipOf(1), "A wholesale customers' price list");
 }
 
 TEST_F(Grid, ATitleTooWideForItsColumnShowsItsStart)
