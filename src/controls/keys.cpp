@@ -36,13 +36,6 @@ private:
     Qt::Key m_key;
     std::function<void()> m_act;
 };
-
-void TellKey(QPushButton* button, const QKeySequence& key)
-{
-    button->setProperty(KeyProperty, key);
-    const QString caption = button->text().remove(u'&');
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText)));
-}
 } // namespace
 
 void OnKey(QWidget* control, Qt::Key key, std::function<void()> act)
@@ -67,6 +60,13 @@ void LetKeyClickInWindow(QPushButton* button, const QKeySequence& key, QWidget* 
 {
     OnKeyInWindow(screen, key, [button] { button->click(); });
     TellKey(button, key);
+}
+
+void TellKey(QPushButton* button, const QKeySequence& key)
+{
+    button->setProperty(KeyProperty, key);
+    const QString caption = button->text().remove(u'&');
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText)));
 }
 
 QKeySequence KeyOf(const QPushButton* button)

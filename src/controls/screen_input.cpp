@@ -1,5 +1,7 @@
 #include "controls/screen_input.h"
 
+#include "controls/keys.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -108,8 +110,7 @@ void LetAccessKeysFocus()
 
 void PressWithKey(QPushButton* button, QWidget* screen, const QKeySequence& key)
 {
-    const QString caption = button->text().remove(u'&');
-    button->setToolTip(QStringLiteral("%1 (%2)").arg(caption, key.toString(QKeySequence::NativeText)));
+    TellKey(button, key);
     auto* shortcut = new QShortcut(key, screen);
     shortcut->setAutoRepeat(false);
     QObject::connect(shortcut, &QShortcut::activated, button, [button] {
