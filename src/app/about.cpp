@@ -2,6 +2,7 @@
 
 #include "app/endpoints.h"
 #include "app/image_lists.h"
+#include "app/system_info.h"
 #include "base/regional.h"
 #include "controls/dialogs.h"
 #include "controls/layout.h"
@@ -52,7 +53,14 @@ frmAbout::frmAbout(QWidget* parent)
 
     On(Label2, &QLabel::linkActivated, Label2, [] { OpenLink(MakerWebSite()); });
     On(Picture4, &QToolButton::clicked, Picture4, [] { OpenLink(MakerWebSite()); });
-    // No tool of this system tells what the button promises.
-    On(cmdSysInfo, &QPushButton::clicked, cmdSysInfo,
-        [] { MsgBox(tr("System Information Is Unavailable At This Time"), Icon::None); });
+    On(cmdSysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
+}
+
+void frmAbout::StartSysInfo()
+{
+    try {
+        frmSystemInfo(SystemInfo(), this).ShowModal();
+    } catch (const RuntimeError&) {
+        MsgBox(tr("System Information Is Unavailable At This Time"), Icon::None);
+    }
 }

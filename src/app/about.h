@@ -21,4 +21,7 @@ public:
     CONTROL(QToolButton, Picture4); ///< likewise, with a picture
     CONTROL(QPushButton, cmdOK);
     CONTROL(QPushButton, cmdSysInfo);
+
+private:
+    void StartSysInfo();
 };

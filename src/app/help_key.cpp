@@ -1,7 +1,7 @@
 #include "app/help_key.h"
 
+#include "app/help_desk.h"
 #include "base/guard.h"
-#include "controls/dialogs.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -22,9 +22,8 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
         return false;
     // The message of a missing viewer stands until it is answered; one is enough.
     if (!m_opening) {
-        constexpr int Contents = 1;
         const QScopedValueRollback opening(m_opening, true);
-        Guarded([] { OpenHelp(HelpCommand::Context, Contents); });
+        Guarded([&] { OpenHelpAt(HelpNamesAt(static_cast<QWidget*>(watched))); });
     }
     return true;
 }

@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// F1 opens the help, whichever window of the program has the focus.
+/// F1 opens the help at the page of the form or panel that has the focus, whichever window of the program it is in.
 class HelpKey : public QObject {
     Q_OBJECT
 public:

@@ -1,3 +1,4 @@
+#include "app/help_desk.h"
 #include "app/help_key.h"
 #include "app/image_lists.h"
 #include "app/start.h"
@@ -16,6 +17,7 @@ int main(int argc, char* argv[])
     QGuiApplication::setQuitOnLastWindowClosed(false);
     InstallErrorBox();
     const HelpKey helpKey(&application);
+    const HelpDesk helpDesk;
 
     Program program;
     int status = EXIT_FAILURE;

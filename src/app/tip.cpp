@@ -14,7 +14,7 @@ namespace {
 constexpr QSize BulbSize(48, 48);
 constexpr QSize TipTextSize(380, 130);
 /// A label takes seconds to lay out a text of megabytes.
-constexpr qsizetype LongestTip = 2000;
+constexpr qsizetype LongestTip = 20'000;
 
 const QString& ShowTipsKey()
 {
@@ -53,13 +53,15 @@ frmTip::frmTip(QWidget* parent)
     lblTipText->setWordWrap(true);
     lblTipText->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblTipText->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    lblTipText->setMinimumSize(TipTextSize);
     chkLoadTipsAtStartup->setText(tr("&Show Tips at Startup"));
     cmdNextTip->setText(tr("&Next Tip"));
     cmdOK->setText(tr("OK"));
 
+    // The dialog keeps its size whatever the length of a tip.
+    QScrollArea* tip = scrolling(lblTipText);
+    tip->setMinimumSize(TipTextSize);
     setLayout(column({
-        row({bulb, gap(8), column({heading(tr("Did you know...")), gap(4), lblTipText}), stretch()}),
+        row({bulb, gap(8), column({heading(tr("Did you know...")), gap(4), tip}), stretch()}),
         row({chkLoadTipsAtStartup, stretch(), cmdNextTip, cmdOK}),
     }));
     SetDefaultButton(cmdOK, true);

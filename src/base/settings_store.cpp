@@ -1,6 +1,7 @@
 #include "base/settings_store.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSettings>
 
@@ -96,6 +97,11 @@ QString GetOption(const QString& key, const QString& fallback)
 void SaveOption(const QString& key, const QString& value)
 {
     SaveSetting(OptionApplication, OptionSection, key, value);
+}
+
+QString SettingsFolder()
+{
+    return WithStore(ConfigApplication, [](const QSettings& store) { return QFileInfo(store.fileName()).path(); });
 }
 
 void SetSettingsFolder(const QString& folder)

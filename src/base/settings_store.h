@@ -15,5 +15,7 @@ void SaveConfig(const QString& key, const QString& value);
 QString GetOption(const QString& key, const QString& fallback); ///< application "TavrinInventory", section "Options"
 void SaveOption(const QString& key, const QString& value);
 
-/// The folder that holds the stores; tests point it at a temporary one. "" brings the platform's own place back.
+/// The folder that holds the stores.
+QString SettingsFolder();
+/// Tests point it at a temporary one. "" brings the platform's own place back.
 void SetSettingsFolder(const QString& folder);

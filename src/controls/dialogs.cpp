@@ -31,7 +31,7 @@ struct Dialogs {
 
 constexpr qreal ScreenDotsPerInch = 96;
 
-std::function<void(HelpCommand, int)> gHelpViewer;
+HelpViewer* gHelpViewer = nullptr;
 
 QWidget* OwnerWindow()
 {
@@ -65,6 +65,11 @@ QString PickedFile(QFileDialog& dialog)
     QString path = dialog.selectedFiles().constFirst();
     PickerFolder() = QFileInfo(path).absolutePath();
     return path;
+}
+
+void SayHelpIsMissing()
+{
+    MsgBox(Dialogs::tr("The help pages are not available."), Icon::Information);
 }
 
 bool NoPrinterInstalled()
@@ -204,12 +209,17 @@ void OpenHelp(HelpCommand command, int data)
 {
     if (DialogDoor* door = CurrentDialogDoor())
         return door->Help(int(command), data);
-    if (gHelpViewer)
-        return gHelpViewer(command, data);
-    MsgBox(Dialogs::tr("The help pages are not available."), Icon::Information);
+    gHelpViewer ? gHelpViewer->Open(command, data) : SayHelpIsMissing();
 }
 
-void SetHelpViewer(std::function<void(HelpCommand command, int data)> viewer)
+void OpenHelpAt(const QStringList& names)
 {
-    gHelpViewer = std::move(viewer);
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->HelpAt(names);
+    gHelpViewer ? gHelpViewer->OpenAt(names) : SayHelpIsMissing();
+}
+
+void SetHelpViewer(HelpViewer* viewer)
+{
+    gHelpViewer = viewer;
 }

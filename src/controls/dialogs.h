@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
-
-#include <functional>
 
 class QPrinter;
 
@@ -39,7 +38,18 @@ void OpenLink(const QString& target);
 
 /// The commands of the help viewer that the program uses.
 enum class HelpCommand { Context = 1, Tab = 15 };
-/// Opens the help viewer. Until a viewer is installed with SetHelpViewer, says that help is unavailable.
+/// The window that shows the help pages.
+class HelpViewer {
+public:
+    virtual ~HelpViewer() = default;
+    virtual void Open(HelpCommand command, int data) = 0;
+    /// The page of the first of these names that has one.
+    virtual void OpenAt(const QStringList& names) = 0;
+};
+/// Nothing takes the viewer out again.
+void SetHelpViewer(HelpViewer* viewer);
+
+/// These open the help viewer. Until there is one they say that help is unavailable.
 void OpenHelp(HelpCommand command, int data);
-/// An empty function takes the viewer out again.
-void SetHelpViewer(std::function<void(HelpCommand command, int data)> viewer);
+/// `names` are those of a control, of the form or panel that it stands on, and of their owners, the nearest first.
+void OpenHelpAt(const QStringList& names);

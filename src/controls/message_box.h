@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// What stands in the title of a window that has none of its own.
 inline constexpr auto ProgramTitle = "Tavrin Inventory";
@@ -34,6 +35,8 @@ public:
     virtual void OpenLink(const QString& target) = 0;
     /// The help viewer at a topic number, or at its contents (-2: index, -1: search).
     virtual void Help(int command, int data) = 0;
+    /// The help viewer at the page of one of these names.
+    virtual void HelpAt(const QStringList& names) = 0;
 };
 /// Nothing brings the real dialogs back.
 void SetDialogDoor(DialogDoor* door);

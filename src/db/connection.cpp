@@ -78,6 +78,11 @@ QString Connection::Path() const
     return d->path;
 }
 
+QString Connection::EngineVersion()
+{
+    return QStringLiteral("SQLite ") + QLatin1String(sqlite3_libversion());
+}
+
 Recordset Connection::Execute(const Sql& sql)
 {
     return Execute(sql.Filled());

@@ -26,6 +26,8 @@ public:
     void Close();
     bool IsOpen() const;
     QString Path() const;
+    /// "SQLite 3.40.1".
+    static QString EngineVersion();
 
     /// Runs one statement. A SELECT yields a forward-only cursor on its first row; other statements an empty one.
     /// Throws RuntimeError when it fails; a failed statement has changed nothing.

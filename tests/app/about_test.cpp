@@ -2,8 +2,12 @@
 #include "app/app_test.h"
 #include "app/endpoints.h"
 #include "app/help_key.h"
+#include "app/system_info.h"
 #include "app/tip.h"
 #include "support/form_check.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace {
 
@@ -23,13 +27,33 @@ TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSite)
     ScriptedAnswers answers;
     answers.ExpectLink(MakerWebSite());
     answers.ExpectLink(MakerWebSite());
-    answers.ExpectMessage("System Information Is Unavailable At This Time", Icon::None);
     Click(about.Picture4);
     Click(about.Label2);
-    Click(about.cmdSysInfo);
     Click(about.cmdOK);
     QCoreApplication::processEvents();
     EXPECT_FALSE(about.isVisible());
+}
+
+TEST_F(AboutTest, SystemInformationCanBeCopiedAndSaysWhenItCannotBeHad)
+{
+    Item("Screws M4").Add();
+    frmAbout about(nullptr);
+    Shown(&about);
+    WhenFormShows<frmSystemInfo>([](frmSystemInfo& form) {
+        CheckForm(form);
+        Click(form.cmdCopy);
+        Click(form.cmdClose);
+    });
+    Click(about.cmdSysInfo);
+    const QString copied = QGuiApplication::clipboard()->text();
+    for (const QString& told : {QStringLiteral("Tavrin Inventory " TAVRIN_VERSION), QString(qVersion()),
+             QStringLiteral("SQLite 3."), gConnection->Path(), QStringLiteral("1 items, 0 customers, 0 invoices")})
+        EXPECT_TRUE(copied.contains(told)) << told.toStdString() << " in\n" << copied.toStdString();
+
+    gConnection->Close();
+    ScriptedAnswers answers;
+    answers.ExpectMessage("System Information Is Unavailable At This Time", Icon::None);
+    Click(about.cmdSysInfo);
 }
 
 TEST_F(AboutTest, F1OpensTheHelpFromAnyWindow)
@@ -38,7 +62,7 @@ TEST_F(AboutTest, F1OpensTheHelpFromAnyWindow)
     frmAbout about(nullptr);
     Shown(&about);
     ScriptedAnswers answers;
-    answers.ExpectHelp(HelpCommand::Context, 1);
+    answers.ExpectHelpAt({"cmdOK", "frmAbout"});
     Press(about.cmdOK, Qt::Key_F1);
     Press(about.cmdOK, Qt::Key_F1, Qt::ShiftModifier);
 }

@@ -79,13 +79,29 @@ TEST_F(TipTest, AMissingFileIsToldAndNextTipShowsNothingNew)
 
 TEST_F(TipTest, GarbageInTheStoreCountsAsOneAndATipOfMegabytesShowsItsBeginning)
 {
-    Tips("one\n" + QByteArray(3000000, 'x') + " \n");
-    for (const char* garbage : {"abc", "", "99999999999"}) {
+    Tips("one\n" + QByteArray(10'000'000, 'x') + " \n");
+    for (const char* garbage : {"abc", "", "1000000000000"}) {
         SaveOption("Current Tip", garbage);
         SaveOption("Show Tips at Startup", garbage);
         EXPECT_TRUE(frmTip::ShowAtStartup()) << garbage;
         const QString shown = Opened();
-        EXPECT_TRUE(shown.startsWith("xxx") && shown.size() < 10000) << garbage;
+        EXPECT_TRUE(shown.startsWith("xxx") && shown.size() <= 20'000) << garbage;
+    }
+}
+
+TEST_F(TipTest, TheDeliveredTipsAreManyAndAllShowWithoutScrolling)
+{
+    SetProgramFolder(PROGRAM_FOLDER);
+    const std::optional<QStringList> tips = ReadTips(NativePath(ProgramFolder(), TipFileName));
+    ASSERT_TRUE(tips);
+    EXPECT_GE(tips->size(), 40);
+    frmTip tip(nullptr);
+    Shown(&tip);
+    const QSize room = tip.lblTipText->parentWidget()->size();
+    for (const QString& text : *tips) {
+        tip.lblTipText->setText(text);
+        EXPECT_TRUE(!text.isEmpty() && tip.lblTipText->heightForWidth(room.width()) <= room.height())
+            << text.toStdString();
     }
 }
 

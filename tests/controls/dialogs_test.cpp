@@ -91,11 +91,16 @@ TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)
 {
     WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
     OpenHelp(HelpCommand::Tab, -2);
-    QList<int> opened;
-    SetHelpViewer([&](HelpCommand command, int data) { opened = {int(command), data}; });
+    struct : HelpViewer {
+        void Open(HelpCommand command, int data) override { opened << QString::number(int(command) * 10000 + data); }
+        void OpenAt(const QStringList& names) override { opened << names; }
+        QStringList opened;
+    } viewer;
+    SetHelpViewer(&viewer);
     OpenHelp(HelpCommand::Context, 1003);
-    SetHelpViewer({});
-    EXPECT_EQ(opened, QList<int>({1, 1003}));
+    OpenHelpAt({"txtName", "frmVendor"});
+    SetHelpViewer(nullptr);
+    EXPECT_EQ(viewer.opened, QStringList({"11003", "txtName", "frmVendor"}));
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <list>
 
@@ -107,8 +108,9 @@ QWidget* Target(QWidget* control)
 bool Reachable(const QWidget* control, const char* act)
 {
     const QWidget* modal = QApplication::activeModalWidget();
-    const bool blocked = modal && control->window() != modal && !modal->isAncestorOf(control)
-        && control->window()->windowType() != Qt::Popup;
+    const QWidget* window = control->window();
+    const bool blocked = modal && window != modal && !modal->isAncestorOf(control) && window->windowType() != Qt::Popup
+        && !modal->windowHandle()->isAncestorOf(window->windowHandle(), QWindow::IncludeTransients);
     if (control->isVisible() && control->isEnabled() && !blocked)
         return true;
     const char* const why = blocked ? "behind a modal form" : control->isVisible() ? "switched off" : "hidden";

@@ -39,6 +39,11 @@ void ScriptedAnswers::ExpectHelp(HelpCommand command, int data)
     Add({.kind = Kind::Help, .text = HelpText(int(command), data)});
 }
 
+void ScriptedAnswers::ExpectHelpAt(const QStringList& names)
+{
+    Add({.kind = Kind::Help, .text = names.join(QLatin1Char(' '))});
+}
+
 QString ScriptedAnswers::Said(Kind kind, const QString& text)
 {
     constexpr const char* Names[] = {"message", "open file", "save file", "print", "page setup", "link", "help"};
@@ -103,6 +108,11 @@ void ScriptedAnswers::OpenLink(const QString& target)
 void ScriptedAnswers::Help(int command, int data)
 {
     Take(Kind::Help, HelpText(command, data));
+}
+
+void ScriptedAnswers::HelpAt(const QStringList& names)
+{
+    Take(Kind::Help, names.join(QLatin1Char(' ')));
 }
 
 ExpectedEnd::ExpectedEnd()

@@ -38,6 +38,7 @@ public:
     bool hasPrinter = true;
     void ExpectLink(const QString& target) { Add({.kind = Kind::Link, .text = target}); }
     void ExpectHelp(HelpCommand command, int data);
+    void ExpectHelpAt(const QStringList& names);
 
     /// Whether all that was expected has been asked.
     bool Done() const { return m_expected.empty(); }
@@ -52,6 +53,7 @@ public:
     bool HasPrinter() override { return hasPrinter; }
     void OpenLink(const QString& target) override;
     void Help(int command, int data) override;
+    void HelpAt(const QStringList& names) override;
 
 private:
     enum class Kind { Message, OpenFile, SaveFile, Print, PageSetup, Link, Help };

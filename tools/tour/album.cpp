@@ -17,6 +17,11 @@ namespace {
 
 constexpr int CaptionHeight = 26;
 
+QString WindowFolder()
+{
+    return QStringLiteral("windows");
+}
+
 /// How near to the eye a window is: menus cover dialogs, dialogs cover the window that works, that one the others.
 int Nearness(const QWidget* window)
 {
@@ -50,12 +55,16 @@ QList<QWidget*> VisibleWindows()
     return windows;
 }
 
-void PaintWindow(QPainter& painter, QWidget& window)
+bool HasFrame(const QWidget& window)
 {
-    const QRect place(window.mapToGlobal(QPoint()), window.size());
+    return window.windowType() == Qt::Dialog && !(window.windowFlags() & Qt::FramelessWindowHint);
+}
+
+void PaintWindow(QPainter& painter, QWidget& window, QPoint corner)
+{
+    const QRect place(corner, window.size());
     painter.drawPixmap(place.topLeft(), window.grab());
-    const bool hasFrame = window.windowType() == Qt::Dialog && !(window.windowFlags() & Qt::FramelessWindowHint);
-    if (hasFrame) {
+    if (HasFrame(window)) {
         const QRect caption(place.left(), place.top() - CaptionHeight, place.width(), CaptionHeight);
         painter.fillRect(caption, QColor(58, 74, 96));
         painter.setPen(Qt::white);
@@ -114,17 +123,38 @@ void Album::Take(const char* name)
     picture.fill(QColor(120, 130, 140));
     QPainter painter(&picture);
     for (QWidget* window : VisibleWindows()) {
-        PaintWindow(painter, *window);
+        PaintWindow(painter, *window, window->mapToGlobal(QPoint()));
         CheckReading(window, m_sharedKeys);
     }
     painter.end();
     const QString file = QStringLiteral("%1-%2.png").arg(++m_number, 2, 10, QLatin1Char('0')).arg(QLatin1String(name));
     if (!picture.save(QDir(m_folder).filePath(file)))
         throw std::runtime_error("cannot write " + file.toStdString());
+    if (QDir(m_folder).exists(WindowFolder()))
+        KeepWindow(QLatin1String(name), *VisibleWindows().constLast());
     m_index << QStringLiteral(
         R"(<figure><a href="%1"><img src="%1" alt="%2"></a><figcaption>%3. %2</figcaption></figure>)")
                    .arg(file, caption)
                    .arg(m_number);
+}
+
+void Album::KeepWindow(const QString& name, QWidget& window) const
+{
+    constexpr int WidestPicture = 660;
+    const int caption = HasFrame(window) ? CaptionHeight : 0;
+    QImage picture(window.width(), window.height() + caption, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    PaintWindow(painter, window, {0, caption});
+    painter.end();
+    if (picture.width() > WidestPicture)
+        picture = picture.scaledToWidth(WidestPicture, Qt::SmoothTransformation);
+    // With a palette of its own it takes a third of the bytes.
+    picture = picture.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
+    constexpr int Smallest = 0;
+    const QString file =
+        m_folder + QLatin1Char('/') + WindowFolder() + QLatin1Char('/') + name + QStringLiteral(".png");
+    if (!picture.save(file, "PNG", Smallest))
+        throw std::runtime_error("cannot write " + file.toStdString());
 }
 
 void Album::WriteIndex() const

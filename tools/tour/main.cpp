@@ -1,9 +1,11 @@
+#include "help.h"
 #include "key_tables.h"
 #include "people.h"
 #include "road.h"
 #include "stockroom.h"
 #include "wizards.h"
 
+#include "app/help_desk.h"
 #include "app/image_lists.h"
 #include "app/start.h"
 #include "base/clock.h"
@@ -85,6 +87,7 @@ void Walk(const QString& folder, const QString& pictureFolder, const QString& la
     // The told English captions use these letters twice.
     Album album(pictureFolder, language.isEmpty() ? QStringLiteral("AERCB") : QString());
     Program program;
+    HelpDesk helpDesk;
     album.Chapter("The first start");
     StartForTheFirstTime(program, album);
     album.Chapter("A look around");
@@ -103,6 +106,8 @@ void Walk(const QString& folder, const QString& pictureFolder, const QString& la
     WriteAnInvoice(program, album, barCode);
     album.Chapter("The invoice, found again");
     FindTheInvoice(program, album);
+    album.Chapter("Help");
+    LookForHelp(program, helpDesk, album);
     program.Window()->close();
     album.WriteIndex();
     WriteRows(folder, pictureFolder + QStringLiteral("/rows.txt"));

@@ -5,6 +5,8 @@
 #include "app/start.h"
 #include "support/screen.h"
 
+#include <QPushButton>
+
 void LookAtReports(Program& program, Album& album)
 {
     MainWindow& window = *program.Window();
@@ -18,6 +20,13 @@ void LookAtReports(Program& program, Album& album)
     Click(reports.cmdExpand);
     album.Take("graph-expanded");
     Click(reports.cmdExpand);
+
+    At("frmReorderReportFilter", [&album](QDialog& form) {
+        album.Take("reorder-report-filter");
+        Click(Find<QPushButton>(&form, "cmdCancel"));
+    });
+    ChooseFromMenu(
+        window, "mnuReportS", "mnuReportFilterReorder", album, "filtered-reorder-report-in-the-reports-menu");
 
     const Qt::WindowStates states = window.windowState();
     const QSize size = window.size();

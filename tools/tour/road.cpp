@@ -150,6 +150,9 @@ void Complete(InvoicePage& page, Album& album)
     Type(page.txtNotes, QStringLiteral("Deliver to the side door."));
     Click(page.chkPaid);
     album.Take("ready-to-complete");
+    Click(page.cmdPrintPickingList);
+    album.Take("picking-list");
+    ClosePreviews();
     AnswerBox(album, "print-the-invoice-or-not", QMessageBox::Yes);
     Click(page.cmdCompleteInvoice);
     album.Take("invoice-document");
