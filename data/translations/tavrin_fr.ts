@@ -3342,4 +3342,233 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Cet assistant vous permet de configurer votre site Web pour accepter des commandes en ligne.</translation>
     </message>
 </context>
+<context>
+    <name>HelpDesk</name>
+    <message>
+        <source>The help file %1 is missing or damaged.</source>
+        <translation>Le fichier d&apos;aide %1 manque ou est endommagé.</translation>
+    </message>
+</context>
+<context>
+    <name>frmHelp</name>
+    <message>
+        <source>Tavrin Inventory Help</source>
+        <translation>Aide de Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Ways to a page</source>
+        <translation>Chemins vers une page</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Page d&apos;aide</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>Somm&amp;aire</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>&amp;Index</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Recherche</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>Look for</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Type the first letters of a word</source>
+        <translation>Les premières lettres d&apos;un mot</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Mots à rechercher</translation>
+    </message>
+    <message>
+        <source>Type words, then press Enter</source>
+        <translation>Tapez des mots, puis Entrée</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Pages trouvées</translation>
+    </message>
+    <message>
+        <source>&amp;Find in page:</source>
+        <translation>&amp;Chercher dans la page :</translation>
+    </message>
+    <message>
+        <source>Find in page</source>
+        <translation>Chercher dans la page</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Précédent</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédente</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivante</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Find in Page</source>
+        <translation>Chercher dans la page</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimer...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Chercher le suivant</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Chercher le précédent</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>%1 - Tavrin Inventory Help</source>
+        <translation>%1 - Aide de Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Recherche en cours...</translation>
+    </message>
+    <message>
+        <source>Pages found: %1</source>
+        <translation>Pages trouvées : %1</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Aucune page ne contient tous ces mots.</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>frmSystemInfo</name>
+    <message>
+        <source> (%1 bytes)</source>
+        <translation> (%1 octets)</translation>
+    </message>
+    <message>
+        <source>%1 items, %2 customers, %3 invoices</source>
+        <translation>%1 articles, %2 clients, %3 factures</translation>
+    </message>
+    <message>
+        <source>%1 x %2, scaled by %3, %4, style %5</source>
+        <translation>%1 x %2, échelle %3, %4, style %5</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source> (built with %1)</source>
+        <translation> (compilé avec %1)</translation>
+    </message>
+    <message>
+        <source>Database engine</source>
+        <translation>Moteur de base de données</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Language and region</source>
+        <translation>Langue et région</translation>
+    </message>
+    <message>
+        <source>Data file</source>
+        <translation>Fichier de données</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Program&apos;s folder</source>
+        <translation>Dossier du programme</translation>
+    </message>
+    <message>
+        <source>Help file</source>
+        <translation>Fichier d&apos;aide</translation>
+    </message>
+    <message>
+        <source>System Information</source>
+        <translation>Informations système</translation>
+    </message>
+    <message>
+        <source>System information</source>
+        <translation>Informations système</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message>
+        <source>Copies all of it, for a letter to the support</source>
+        <translation>Copie tout, pour une lettre à l&apos;assistance</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Instructions - click Copy and paste this into your question to the support.</source>
+        <translation>Instructions - cliquez sur Copier et collez ceci dans votre question à l&apos;assistance.</translation>
+    </message>
+</context>
 </TS>
