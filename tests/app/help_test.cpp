@@ -151,7 +151,8 @@ TEST_F(HelpTest, TheViewerIsUsedBesideAModalForm)
         frmHelp& viewer = *desk.Viewer();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&viewer));
         EXPECT_EQ(viewer.txtPage->source().fileName(), "tips-and-about.html");
-        Type(viewer.txtSearch, "scan");
+        viewer.ShowTab(frmHelp::SearchTab);
+        Type(viewer.txtSearch, "stock warranty");
         Press(viewer.txtSearch, Qt::Key_Return);
         EXPECT_TRUE(QTest::qWaitFor([&] { return viewer.lstResults->count() > 1; }, 20'000))
             << viewer.lblResults->text().toStdString();

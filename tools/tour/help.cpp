@@ -6,10 +6,7 @@
 #include "app/start.h"
 #include "support/screen.h"
 
-#include <gtest/gtest.h>
-
 #include <QPushButton>
-#include <QTest>
 
 void LookForHelp(Program& program, HelpDesk& helpDesk, Album& album)
 {
@@ -27,17 +24,9 @@ void LookForHelp(Program& program, HelpDesk& helpDesk, Album& album)
 
     helpDesk.OpenAt(HelpNamesAt(window.picArrivals->gInvoices));
     frmHelp& viewer = *helpDesk.Viewer();
-    constexpr int PatienceMs = 30'000;
-    QTest::qWait(200);
     album.Take("help-on-the-invoice-history");
     viewer.ShowTab(frmHelp::IndexTab);
     Type(viewer.txtIndex, QStringLiteral("re"));
     album.Take("help-index");
-    viewer.ShowTab(frmHelp::SearchTab);
-    Type(viewer.txtSearch, QStringLiteral("stock warranty"));
-    Press(viewer.txtSearch, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return viewer.lstResults->count() > 0; }, PatienceMs))
-        << viewer.lblResults->text().toStdString();
-    album.Take("help-search");
     viewer.close();
 }

@@ -5,5 +5,5 @@
 class HelpDesk;
 class Program;
 
-/// Presses F1, looks a word up and searches for another, and asks for the system information.
+/// Asks for the system information and for the help on the invoice history, and looks a word up.
 void LookForHelp(Program& program, HelpDesk& helpDesk, Album& album);
