@@ -6,6 +6,8 @@
 #include "controls/layout.h"
 
 #include <QGuiApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace {
 constexpr int DefaultTwips = 960;
@@ -288,7 +290,15 @@ void FlexGrid::ShowTinted(int row)
     Reveal(row);
     m_model->SetTinted(row - 1);
     m_tintEnd.start(TintMs);
-    scrollTo(m_model->index(m_model->NearestPlace(row - 1), m_col));
+    const QModelIndex cell = m_model->index(m_model->NearestPlace(row - 1), m_col);
+    scrollTo(cell);
+    // In a small window the whole screen scrolls as well.
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(above)) {
+            const QRect place = visualRect(cell);
+            const int bottom = viewport()->mapTo(area->widget(), place.bottomLeft()).y();
+            area->ensureVisible(area->horizontalScrollBar()->value(), bottom, 0, place.height());
+        }
     viewport()->update();
 }
 

@@ -5,7 +5,6 @@
 #include "controls/screen_input.h"
 #include "invoicing/invoice_page.h"
 
-#include <QShortcut>
 #include <QStyle>
 
 namespace {
@@ -196,7 +195,7 @@ void InvoicePage::ConnectKeys()
     const QKeySequence toBarCode(Qt::Key_F6);
     txtBarcode->setToolTip(
         QStringLiteral("%1 (%2)").arg(txtBarcode->accessibleName(), toBarCode.toString(QKeySequence::NativeText)));
-    On(new QShortcut(toBarCode, this), &QShortcut::activated, txtBarcode, &TextBox::FocusAll);
+    OnKeyInWindow(this, toBarCode, [this] { txtBarcode->FocusAll(); });
     PressWithKey(cmdAddOrderItem, this, Qt::Key_F7);
     PressWithKey(cmdNewInvoiceCustSearch, this, Qt::Key_F8);
     PressWithKey(cmdCompleteInvoice, this, Qt::Key_F9);
