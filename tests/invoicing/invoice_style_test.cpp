@@ -49,12 +49,8 @@ TEST_F(InvoiceStyleForm, AFontSizeThatIsNoNumberBecomesTheDefaultWithoutAWord)
         });
         EXPECT_EQ(GetConfig("InvoiceFontSize", ""), "8.25");
     }
-}
-
-TEST_F(InvoiceStyleForm, StoredTextThatIsNoTruthValueCountsAsFalse)
-{
     SaveConfig("HideTaxOnInvoice", "perhaps");
     SaveConfig("HideOurPriceOnInvoice", "-1");
-    EXPECT_FALSE(ReadInvoiceStyle().hideTax);
+    EXPECT_FALSE(ReadInvoiceStyle().hideTax) << "no truth value counts as false";
     EXPECT_TRUE(ReadInvoiceStyle().hideOurPrice);
 }
