@@ -9,7 +9,7 @@
 #include <cstring>
 
 /// usage: bench_tavrin [SUBJECT] FOLDER, with SUBJECT one of
-///     --start --memory --statements --lists --scans --reports --fan-out --import --statistics --charts
+///     --start --memory --statements --lists --scans --reports --fan-out --import --statistics --charts --exports
 /// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
 /// subject, or all but the statistics, which take too little time to compare over any but a very large file. Adds lines
 /// to that file. Exit status 1: something was above its limit.
@@ -29,6 +29,7 @@ constexpr Subject Subjects[] = {
     {"--import", MeasureImport},
     {"--statistics", MeasureStatistics},
     {"--charts", MeasureCharts},
+    {"--exports", MeasureExports},
 };
 
 bool IsAsked(const char* task, const char* subject)
@@ -46,8 +47,7 @@ int main(int argc, char* argv[])
     sinceStart.start();
     if (argc != 2 && argc != 3) {
         std::fputs("usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out "
-                   "| --import | "
-                   "--statistics | --charts] FOLDER\n",
+                   "| --import | --statistics | --charts | --exports] FOLDER\n",
             stderr);
         return 2;
     }

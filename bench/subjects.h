@@ -13,6 +13,7 @@ void MeasureReports(RunningProgram& program);
 void MeasureFanOut(RunningProgram& program);
 void MeasureImport(RunningProgram& program);
 void MeasureStatistics(RunningProgram& program);
+void MeasureExports(RunningProgram& program);
 void MeasureCharts(RunningProgram& program);
 /// In processes of their own, since a start happens once in a process.
 void MeasureStart(const QString& folder);

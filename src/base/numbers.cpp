@@ -173,11 +173,13 @@ QString CStr(Currency value)
 {
     const qint64 count = value.TenThousandths();
     const quint64 size = count < 0 ? 0 - quint64(count) : quint64(count);
-    QByteArray text = QByteArray::number(size / 10000);
-    if (size % 10000 != 0) {
-        text += '.' + QByteArray::number(size % 10000 + 10000).mid(1);
-        while (text.endsWith('0'))
-            text.chop(1);
+    char text[40] = "-";
+    char* end = std::to_chars(text + 1, std::end(text), size / 10000).ptr;
+    if (quint64 decimals = size % 10000; decimals != 0) {
+        *end++ = '.';
+        for (quint64 place = 1000; decimals != 0; decimals %= place, place /= 10)
+            *end++ = char('0' + decimals / place);
     }
-    return WithDecimalSeparator((count < 0 ? '-' + text : text).toStdString());
+    const char* start = count < 0 ? text : text + 1;
+    return WithDecimalSeparator({start, size_t(end - start)});
 }

@@ -17,6 +17,11 @@ struct PriceList {
     std::string name;
 };
 
+void AddField(std::string_view value, std::string& csv)
+{
+    csv.append(1, '"').append(value).append(1, '"');
+}
+
 using FieldText = std::string_view (*)(const Recordset& row, int ordinal);
 
 std::string_view PlainText(const Recordset& row, int ordinal)
@@ -38,7 +43,7 @@ void AddFields(const Recordset& row, FieldText textOf, std::string& csv)
     for (int i = 0; i < row.FieldCount(); ++i) {
         if (i > 0)
             csv += ',';
-        csv += QuoteCsvField(textOf(row, i));
+        AddField(textOf(row, i), csv);
     }
 }
 
@@ -61,15 +66,17 @@ std::vector<PriceList> PriceLists()
     return lists;
 }
 
-void AddPrice(qint64 itemId, qint64 listId, std::string& csv)
+/// Adds the item's price in each list that has one.
+void AddPrices(Sql& priceOf, qint64 itemId, const std::vector<PriceList>& lists, std::string& csv)
 {
-    static const QString statement =
-        QStringLiteral("SELECT price FROM itemPriceList WHERE priceListID = {listId} AND itemID = {itemId}");
-    const Recordset price = gConnection->Execute(Sql(statement).Number("listId", listId).Number("itemId", itemId));
-    if (price.Eof())
-        return;
-    csv += ',';
-    csv += QuoteCsvField(price.Text(0));
+    priceOf.Number("itemId", itemId);
+    for (const PriceList& list : lists) {
+        const Recordset price = gConnection->Execute(priceOf.Number("listId", list.id));
+        if (price.Eof())
+            continue;
+        csv += ',';
+        AddField(price.Text(0), csv);
+    }
 }
 
 } // namespace
@@ -77,8 +84,8 @@ void AddPrice(qint64 itemId, qint64 listId, std::string& csv)
 std::string QuoteCsvField(std::string_view value)
 {
     std::string field;
-    field.reserve(value.size() + 2);
-    return field.append(1, '"').append(value).append(1, '"');
+    AddField(value, field);
+    return field;
 }
 
 std::string InvoicesCsv()
@@ -98,10 +105,10 @@ std::string InventoryCsv()
     for (const PriceList& list : lists)
         csv += ", " + list.name;
     csv += LineEnd;
+    Sql priceOf("SELECT price FROM itemPriceList WHERE priceListID = {listId} AND itemID = {itemId}");
     for (; !item.Eof(); item.MoveNext()) {
         AddFields(item, PlainText, csv);
-        for (const PriceList& list : lists)
-            AddPrice(item.Long(0), list.id, csv);
+        AddPrices(priceOf, item.Long(0), lists, csv);
         csv += LineEnd;
     }
     return csv;

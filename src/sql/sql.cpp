@@ -40,12 +40,16 @@ Sql& Sql::Fill(const char* name, const QString& value)
     for (Marker& marker : m_markers) {
         if (QStringView(m_statement).mid(marker.start + 1, marker.length - 2) != wanted)
             continue;
-        marker.value = m_values.size();
         found = true;
+        if (marker.value < 0) {
+            marker.value = m_values.size();
+            m_values.append(value);
+        } else {
+            m_values[marker.value] = value;
+        }
     }
     if (!found)
         throw std::logic_error("No marker {" + std::string(name) + "} in: " + m_statement.toStdString());
-    m_values.append(value);
     return *this;
 }
 
@@ -84,7 +88,8 @@ Sql& Sql::Append(const QString& clause)
 
 const QString& Sql::Filled() const
 {
-    m_filled.clear();
+    // Its memory stays for the next filling.
+    m_filled.resize(0);
     m_filled.reserve(m_statement.size() * 2);
     qsizetype done = 0;
     for (const Marker& marker : m_markers) {

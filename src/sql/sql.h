@@ -5,7 +5,8 @@
 #include <QVarLengthArray>
 
 /// A statement with `{name}` markers, filled by name. A statement that is executed with a marker unfilled, or filled
-/// for a marker that it does not have, is a programming error and throws std::logic_error.
+/// for a marker that it does not have, is a programming error and throws std::logic_error. It can be filled anew, for a
+/// loop that runs it many times.
 class Sql {
 public:
     explicit Sql(const QString& statement);

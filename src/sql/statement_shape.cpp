@@ -26,14 +26,10 @@ bool IsWord(char16_t c)
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || c > 127 || IsDigit(c);
 }
 
-/// Appends the character at `at` as UTF-8 and returns what follows it; half a surrogate pair becomes U+FFFD.
-const char16_t* AppendUtf8(std::string& out, const char16_t* at, const char16_t* end)
+/// Appends a character beyond ASCII as UTF-8 and returns what follows it; half a surrogate pair becomes U+FFFD.
+const char16_t* AppendLongUtf8(std::string& out, const char16_t* at, const char16_t* end)
 {
     char32_t c = *at++;
-    if (c < 0x80) {
-        out.push_back(char(c));
-        return at;
-    }
     if (c >= 0xD800 && c <= 0xDFFF) {
         const bool paired = c < 0xDC00 && at < end && *at >= 0xDC00 && *at <= 0xDFFF;
         c = paired ? 0x10000 + ((c - 0xD800) << 10) + (*at++ - 0xDC00) : U'\xFFFD';
@@ -50,6 +46,15 @@ const char16_t* AppendUtf8(std::string& out, const char16_t* at, const char16_t*
     }
     out.push_back(char(0x80 | (c & 0x3F)));
     return at;
+}
+
+/// As above for any character; nearly all are plain.
+inline const char16_t* AppendUtf8(std::string& out, const char16_t* at, const char16_t* end)
+{
+    if (*at >= 0x80)
+        return AppendLongUtf8(out, at, end);
+    out.push_back(char(*at));
+    return at + 1;
 }
 
 class Reader {
