@@ -6,12 +6,12 @@
 #include "controls/dialogs.h"
 #include "controls/message_box.h"
 #include "controls/status_line.h"
+#include "controls/window_place.h"
 #include "inventory/multiple_pricing.h"
 #include "invoicing/find_invoice.h"
 #include "invoicing/open_invoice.h"
 
 #include <QCloseEvent>
-#include <QDir>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QWindow>
@@ -43,7 +43,8 @@ MainWindow::MainWindow()
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(tr("Tavrin Inventory"));
-    resize(FirstSize);
+    if (!RememberPlace(this))
+        resize(FirstSize);
 
     for (Panel* panel : m_panels)
         picBack->AddPanel(panel);
@@ -102,12 +103,6 @@ void MainWindow::ShowMainPanel(int panelNumber)
 {
     if (panelNumber >= 0 && panelNumber < picBack->PanelCount())
         picBack->ShowPanel(panelNumber);
-}
-
-void MainWindow::TellSaved(const QString& path)
-{
-    if (!path.isEmpty())
-        ShowStatus(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
 }
 
 MainGrids MainWindow::Grids() const

@@ -43,9 +43,6 @@ public:
     /// As if the user chose the menu entry: nothing when it is greyed, or `name` is "".
     void Run(const QString& name);
 
-    /// Tells in the status line that a file was written; nothing for "".
-    void TellSaved(const QString& path);
-
     void ListInvoices();
     /// The invoice page with the current invoice, or a new one when there is none.
     void OpenInvoicePage();

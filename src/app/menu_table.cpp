@@ -56,12 +56,6 @@ void ShowForm(MainWindow& window)
     FormClass(&window).ShowModal();
 }
 
-template <QString (*Command)()>
-void Export(MainWindow& window)
-{
-    window.TellSaved(Command());
-}
-
 void PageSetup(MainWindow& window)
 {
     PageMargins unused;
@@ -97,10 +91,11 @@ const QList<MenuRow>& MainMenu::Table()
                     window.ViewInventory();
             }),
         Separator(),
-        Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), Export<ExportInvoices>),
-        Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), Export<ExportInventory>),
-        Entry("mnuFileExportCustomers", QT_TR_NOOP("Export &Customers..."), Export<ExportCustomers>),
-        SwitchedOff("mnuFileExportTodayRes", QT_TR_NOOP("Export &Today's Invoices..."), Export<ExportTodaysInvoices>),
+        Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), [](Window&) { ExportInvoices(); }),
+        Entry("mnuFileExpInventory", QT_TR_NOOP("Export Inv&entory..."), [](Window&) { ExportInventory(); }),
+        Entry("mnuFileExportCustomers", QT_TR_NOOP("Export &Customers..."), [](Window&) { ExportCustomers(); }),
+        SwitchedOff("mnuFileExportTodayRes", QT_TR_NOOP("Export &Today's Invoices..."),
+            [](Window&) { ExportTodaysInvoices(); }),
         Separator(),
         Entry("mnuFileBackup", QT_TR_NOOP("&Backup Database..."), [](Window&) { BackupDatabase(); }),
         Separator(),

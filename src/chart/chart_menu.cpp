@@ -7,10 +7,12 @@
 #include "chart/chart_scene.h"
 #include "controls/dialogs.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
@@ -83,7 +85,9 @@ void Chart::SaveAs()
     const PicturePainter paint = [this](QPainter& painter, double pixel) { PaintPicture(painter, pixel); };
     const bool saved =
         ending == QLatin1String("svg") ? SaveAsSvg(paint, size(), Summary(), path) : SaveAsPng(paint, size(), path);
-    if (!saved)
+    if (saved)
+        ShowStatus(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+    else
         MsgBox(tr("The chart could not be saved as %1.").arg(path), Icon::Critical);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/configuration_answers.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "records/wizard_page.h"
 
@@ -79,7 +80,7 @@ public:
     frmWizConfig_Tax(ConfigurationWizard& wizard, QWidget* parent);
 
     CONTROL(TextBox, txtName);
-    CONTROL(TextBox, txtPercentage);
+    CONTROL(NumberBox, txtPercentage);
     CONTROL(QCheckBox, chkHideTaxOnInvoice);
     CONTROL(QCheckBox, chkEnableTax2);
     CONTROL(QWidget, picTax2);

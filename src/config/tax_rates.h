@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "records/key_list_form.h"
 #include "records/name_form.h"
@@ -16,7 +17,7 @@ public:
 
     explicit frmAddTaxRate(QWidget* parent);
 
-    CONTROL(TextBox, txtPercentage);
+    CONTROL(NumberBox, txtPercentage);
 
 protected:
     void ShowRow(const Recordset& row) override;
@@ -37,7 +38,7 @@ public:
 
     CONTROL(QCheckBox, chkEnableTax2);
     CONTROL(TextBox, txtSalesTaxName2);
-    CONTROL(TextBox, txtSalesTax2);
+    CONTROL(NumberBox, txtSalesTax2);
 
     void reject() override;
 

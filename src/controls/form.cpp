@@ -2,6 +2,7 @@
 
 #include "controls/layout.h"
 #include "controls/screen_input.h"
+#include "controls/window_place.h"
 
 #include <QKeyEvent>
 #include <QTimer>
@@ -75,6 +76,16 @@ void Form::done(int result)
     QDialog::done(result);
     // The second click of a double click on OK may be under way; it would save once more.
     setEnabled(false);
+}
+
+void Form::setVisible(bool visible)
+{
+    const bool isFixed = minimumSize() == maximumSize();
+    // A page of a wizard opens where the one before was.
+    const bool isPlaced = m_prepared || testAttribute(Qt::WA_Moved);
+    if (visible && !isFixed && !isPlaced)
+        RememberPlace(this);
+    QDialog::setVisible(visible);
 }
 
 void Form::showEvent(QShowEvent* event)

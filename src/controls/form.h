@@ -25,6 +25,8 @@ public:
     void Cancel();
 
     void done(int result) override;
+    /// A form that can be resized opens where it was left last, also in an earlier run.
+    void setVisible(bool visible) override;
 
 protected:
     void showEvent(QShowEvent* event) override;

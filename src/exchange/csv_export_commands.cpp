@@ -5,10 +5,14 @@
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "db/connection.h"
 #include "exchange/csv_exports.h"
 
 #include <QCoreApplication>
+#include <QDir>
+
+#include <exception>
 
 namespace {
 
@@ -31,64 +35,66 @@ void DeleteOldFile(const QString& file)
     DeleteFile(file);
 }
 
-/// Runs `write` and returns the file's name; "" after a message when it fails.
-template <typename Write>
-QString Written(const QString& file, Write&& write)
+void Write(const QString& file, const std::string& csv)
+{
+    WriteCsv(file, csv);
+    ShowStatus(CsvExports::tr("Saved as %1").arg(QDir::toNativeSeparators(file)));
+}
+
+template <typename Body>
+void TellingFailure(Body&& body)
 {
     try {
-        write();
-        return file;
+        body();
     } catch (const std::exception&) {
         MsgBox(CsvExports::tr("Unable to write to file, please check you have permissions and try again."),
             Icon::Critical);
-        return QString();
     }
 }
 
-QString ExportTable(std::string (*text)())
+void ExportTable(std::string (*text)())
 {
     const QString file = AskFile();
     if (file.isEmpty())
-        return QString();
+        return;
     const Hourglass hourglass;
-    return Written(file, [&] {
+    TellingFailure([&] {
         DeleteOldFile(file);
-        WriteCsv(file, text());
+        Write(file, text());
     });
 }
 
 } // namespace
 
-QString ExportInvoices()
+void ExportInvoices()
 {
-    return ExportTable(InvoicesCsv);
+    ExportTable(InvoicesCsv);
 }
 
-QString ExportCustomers()
+void ExportCustomers()
 {
-    return ExportTable(CustomersCsv);
+    ExportTable(CustomersCsv);
 }
 
-QString ExportInventory()
+void ExportInventory()
 {
     const Hourglass hourglass;
     const QString file = AskFile();
     if (file.isEmpty())
-        return QString();
-    return Written(file, [&] {
+        return;
+    TellingFailure([&] {
         const std::string text = InventoryCsv();
         DeleteOldFile(file);
-        WriteCsv(file, text);
+        Write(file, text);
     });
 }
 
-QString ExportTodaysInvoices()
+void ExportTodaysInvoices()
 {
     const QString file = AskFile();
     if (file.isEmpty())
-        return QString();
+        return;
     const Hourglass hourglass;
     DeleteOldFile(file);
-    WriteCsv(file, TodaysInvoicesCsv());
-    return file;
+    Write(file, TodaysInvoicesCsv());
 }

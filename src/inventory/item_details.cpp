@@ -152,7 +152,7 @@ QList<frmItemDetails::PriceBox> frmItemDetails::MakePriceBoxes()
     for (Recordset rs = gConnection->Execute("SELECT id, name FROM pricelist ORDER BY name"); !rs.Eof();
          rs.MoveNext()) {
         if (index > 0)
-            prices.append({MakeMember<QLabel>("lblPriceList", index), MakeMember<TextBox>("txtPriceList", index)});
+            prices.append({MakeMember<QLabel>("lblPriceList", index), MakeMember<NumberBox>("txtPriceList", index)});
         ShowName(prices[index].label, NullToText(rs["name"]));
         prices[index].box->setProperty("Tag", rs["id"].ToText());
         ++index;

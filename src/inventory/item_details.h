@@ -2,6 +2,7 @@
 
 #include "controls/combo_box.h"
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "inventory/custom_fields.h"
 
@@ -25,7 +26,7 @@ public:
     CONTROL_AT(TextBox, txtFields, 0);
 
     CONTROL_AT(QLabel, lblPriceList, 0);
-    CONTROL_AT(TextBox, txtPriceList, 0);
+    CONTROL_AT(NumberBox, txtPriceList, 0);
 
 private:
     struct PriceBox {
@@ -36,10 +37,10 @@ private:
 
 public:
     CONTROL(QWidget, picBot); ///< holds the fields below the prices
-    CONTROL_AT(TextBox, txtFields, 6);
-    CONTROL_AT(TextBox, txtFields, 7);
-    CONTROL_AT(TextBox, txtFields, 4);
-    CONTROL_AT(TextBox, txtFields, 2);
+    CONTROL_AT(NumberBox, txtFields, 6);
+    CONTROL_AT(NumberBox, txtFields, 7);
+    CONTROL_AT(NumberBox, txtFields, 4);
+    CONTROL_AT(NumberBox, txtFields, 2);
     CONTROL(ComboBox, cboCategory);
     CONTROL(ComboBox, cboSubCategory);
     CONTROL(ComboBox, cboVendor);

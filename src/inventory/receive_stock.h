@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "records/record_list.h"
 
@@ -17,7 +18,7 @@ public:
     CONTROL(TextBox, txtBarcode);
     CONTROL(QPushButton, cmdAddBarCodeItem);
     CONTROL(RecordList, gInventory);
-    CONTROL(TextBox, txtAddQuantity);
+    CONTROL(NumberBox, txtAddQuantity);
     CONTROL(QPushButton, cmdUpdateStockLevel);
     CONTROL(QPushButton, cmdCancel);
 

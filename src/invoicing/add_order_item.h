@@ -3,6 +3,7 @@
 #include "base/currency.h"
 #include "controls/combo_box.h"
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "records/record_list.h"
 
@@ -34,8 +35,8 @@ public:
     CONTROL(ComboBox, cboPriceList);
     CONTROL(QLabel, lblItemMatches);
     CONTROL(RecordList, gItems);
-    CONTROL(TextBox, txtQuantityToAdd);
-    CONTROL(TextBox, txtItemPrice);
+    CONTROL(NumberBox, txtQuantityToAdd);
+    CONTROL(NumberBox, txtItemPrice);
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
 

@@ -4,6 +4,7 @@
 #include "controls/combo_box.h"
 #include "controls/date_picker.h"
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 #include "invoicing/open_invoice.h"
 #include "parties/party_fields.h"
@@ -55,7 +56,7 @@ public:
     CONTROL(TextBox, txtPhone);
     CONTROL(TextBox, txtFax);
     CONTROL(TextBox, txtEmail);
-    CONTROL(TextBox, txtDiscount);
+    CONTROL(NumberBox, txtDiscount);
     CONTROL(ComboBox, cboPriceList);
     CONTROL(QPushButton, cmdNewInvoiceCustSearch);
     CONTROL(QPushButton, cmdNewInvoiceCustReset);
@@ -73,7 +74,7 @@ public:
     CONTROL(QPushButton, cmdAddGroupItems);
     CONTROL(QWidget, picNewInvoiceBotBit);
     CONTROL(ComboBox, cboPaymentMethod);
-    CONTROL(TextBox, txtAmountPayed);
+    CONTROL(NumberBox, txtAmountPayed);
     CONTROL(QCheckBox, chkPaid);
     CONTROL(MultiLineTextBox, txtNotes);
     CONTROL_AT(QLabel, lblLabels, 26);

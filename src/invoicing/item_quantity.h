@@ -2,6 +2,7 @@
 
 #include "base/currency.h"
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "controls/text_box.h"
 
 #include <QPushButton>
@@ -17,8 +18,8 @@ public:
 
     frmItemQuantity(const QString& quantity, const QString& price, QWidget* parent);
 
-    CONTROL(TextBox, txtQuantityToAdd);
-    CONTROL(TextBox, txtItemPrice);
+    CONTROL(NumberBox, txtQuantityToAdd);
+    CONTROL(NumberBox, txtItemPrice);
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
 

@@ -1,13 +1,16 @@
 #include "paper/preview_window.h"
 
 #include "base/guard.h"
+#include "base/texts.h"
 #include "controls/combo_box.h"
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 #include "paper/report_output.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QScreen>
@@ -15,6 +18,7 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
@@ -47,7 +51,7 @@ QString SuggestedFile(QString title)
         if (QStringLiteral("\\/:*?\"<>|").contains(character) || character < u' ')
             character = u'_';
     constexpr int LongestTitle = 80; // a file's name has an end
-    return title.left(LongestTitle).trimmed() + QLatin1String(".pdf");
+    return Shortened(title, LongestTitle).toString().trimmed() + QLatin1String(".pdf");
 }
 } // namespace
 
@@ -62,8 +66,9 @@ PreviewWindow::PreviewWindow(Report report)
     picView->setAccessibleName(tr("Page"));
     setCentralWidget(picView);
     BuildToolBar();
-    statusBar();
-    FillScreen();
+    BuildStatusBar();
+    if (!RememberPlace(this))
+        FillScreen();
 
     On(picView, &PreviewView::PastEnd, this, &PreviewWindow::NextPage);
     On(picView, &PreviewView::PastStart, this, &PreviewWindow::PreviousPage);
@@ -123,6 +128,17 @@ void PreviewWindow::BuildToolBar()
     bar->addSeparator();
     bar->addAction(AddAction("mnuClose", tr("&Close"),
         {QKeySequence(QStringLiteral("Esc")), QKeySequence(QStringLiteral("Ctrl+W"))}, &PreviewWindow::CloseWindow));
+}
+
+void PreviewWindow::BuildStatusBar()
+{
+    lblSaved->setObjectName(QStringLiteral("lblSaved"));
+    lblSaved->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    // A long path is cut rather than making the window wider.
+    lblSaved->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    lblSaved->hide();
+    statusBar()->addWidget(lblSaved, 1);
+    On(lblSaved, &QLabel::linkActivated, this, OpenLink);
 }
 
 void PreviewWindow::AddNavigation(QToolBar* bar)
@@ -366,7 +382,17 @@ void PreviewWindow::SaveAsPdf()
     }
     if (!saved)
         return MsgBox(tr("Unable to write to file %1").arg(path), Icon::Critical);
-    statusBar()->showMessage(tr("Saved as %1").arg(path));
+    TellSaved(path);
+}
+
+void PreviewWindow::TellSaved(const QString& path)
+{
+    statusBar()->clearMessage();
+    const QString link = QStringLiteral("<a href=\"%1\">%2</a>")
+                             .arg(QString::fromUtf8(QUrl::fromLocalFile(path).toEncoded()),
+                                 QDir::toNativeSeparators(path).toHtmlEscaped());
+    lblSaved->setText(tr("Saved as %1").arg(link));
+    lblSaved->show();
 }
 
 void PreviewWindow::CloseWindow()

@@ -32,6 +32,7 @@ private:
         const char* name, const QString& text, const QList<QKeySequence>& keys, void (PreviewWindow::*run)());
     void FillScreen();
     void BuildToolBar();
+    void BuildStatusBar();
     void AddNavigation(QToolBar* bar);
     void AddZoom(QToolBar* bar);
 
@@ -58,6 +59,7 @@ private:
     void OfferPdf();
     void PageSetup();
     void SaveAsPdf();
+    void TellSaved(const QString& path);
     void CloseWindow();
 
     ReportLayout m_layout;
@@ -70,6 +72,7 @@ private:
     PreviewView* picView = new PreviewView;
     QSpinBox* txtPage = new QSpinBox;
     QLabel* lblPages = new QLabel;
+    QLabel* lblSaved = new QLabel; ///< opens the PDF that was saved last
     ComboBox* cboZoom;
     QAction* m_first = nullptr;
     QAction* m_previous = nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/form.h"
+#include "controls/number_box.h"
 #include "parties/email_link.h"
 #include "parties/party_fields.h"
 
@@ -28,7 +29,7 @@ public:
     CONTROL(TextBox, txtFax);
     CONTROL(TextBox, txtEmail);
     CONTROL(EmailLink, lblEmail);
-    CONTROL(TextBox, txtDiscount);
+    CONTROL(NumberBox, txtDiscount);
     CONTROL(QPushButton, cmdOk);
     CONTROL(QPushButton, cmdCancel);
 

@@ -19,15 +19,22 @@ class Preview : public testing::Test {
 protected:
     Preview()
     {
+        SetSettingsFolder(m_settings.path());
         CurrentPrinter().setPageSize(QPageSize(QPageSize::A4));
         ShowPreview(NameList(Numbered(300)));
         m_window = Previews().last();
         Shown(m_window);
     }
+    ~Preview() override
+    {
+        ClosePreviews();
+        SetSettingsFolder(QString());
+    }
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { Press(View(), key, modifiers); }
     QWidget* View() const { return Find<PreviewView>(m_window, "picView"); }
     QString Status() const { return m_window->statusBar()->currentMessage(); }
 
+    QTemporaryDir m_settings;
     QPointer<PreviewWindow> m_window;
 };
 } // namespace
@@ -90,7 +97,12 @@ TEST_F(Preview, SavesAPdfAndSaysWhenItCannot)
     answers.ExpectSaveFile(folder.filePath("names"));
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(QFile::exists(folder.filePath("names.pdf")));
-    EXPECT_TRUE(Status().contains("names.pdf"));
+    answers.ExpectLink(QUrl::fromLocalFile(folder.filePath("names.pdf")).toString());
+    auto* told = Find<QLabel>(m_window, "lblSaved");
+    EXPECT_TRUE(told->isVisible());
+    told->setFocus();
+    Press(told, Qt::Key_Tab);
+    Press(told, Qt::Key_Return);
 
     const QString nowhere = folder.filePath("missing/names.pdf");
     answers.ExpectSaveFile(nowhere);

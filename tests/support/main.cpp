@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QTemporaryDir>
 #include <QTimeZone>
 
 #include <cstdio>
@@ -50,6 +51,9 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("TZ", "UTC");
     qputenv("FONTCONFIG_FILE", TEST_FONTS);
+    // What closes after its test's settings are gone must not reach the user's.
+    const QTemporaryDir settings;
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     // Only failing tests speak; --gtest_brief=0 lets all of them.
     GTEST_FLAG_SET(brief, true);
     testing::InitGoogleTest(&argc, argv);

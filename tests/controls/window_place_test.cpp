@@ -1,0 +1,92 @@
+#include "controls/window_place.h"
+
+#include "base/regional.h"
+#include "base/settings_store.h"
+#include "controls/form.h"
+#include "controls/number_box.h"
+#include "support/screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+namespace {
+
+void PrintTo(const QRect& rect, std::ostream* out)
+{
+    *out << rect.x() << ' ' << rect.y() << ' ' << rect.width() << ' ' << rect.height();
+}
+
+class WindowPlaces : public testing::Test {
+protected:
+    WindowPlaces() { SetSettingsFolder(m_folder.path()); }
+    ~WindowPlaces() override { SetSettingsFolder(QString()); }
+
+    /// Opens a form, lets `use` do with it what a user would, and closes it. Where it opened.
+    static QRect Visit(const std::function<void(Form&)>& use)
+    {
+        Form form("frmSample", "Sample", nullptr);
+        Shown(&form);
+        const QRect place = form.geometry();
+        use(form);
+        form.close();
+        return place;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(WindowPlaces, AFormOpensWhereItWasLeft)
+{
+    const QRect left(120, 90, 333, 222);
+    Visit([](Form&) {});
+    EXPECT_EQ(GetConfig("frmSamplePlace", ""), "") << "nobody moved it";
+    Visit([&](Form& form) { form.setGeometry(left); });
+    EXPECT_EQ(Visit([](Form& form) { form.setFixedSize(50, 60); }), left);
+    for (const char* garbage : {"", "1 2", "a b c d", "5 5 -7 9", "99999999999 0 10 10"}) {
+        SaveConfig("frmSamplePlace", garbage);
+        EXPECT_TRUE(QRect(0, 0, 800, 800).contains(Visit([](Form&) {}))) << garbage;
+    }
+}
+
+TEST_F(WindowPlaces, LieWhollyOnAScreenThatIsThere)
+{
+    const QRect primary(0, 30, 1000, 700);
+    const QRect second(1000, 0, 500, 400);
+    struct {
+        QRect noted, shown;
+    } const cases[] = {
+        {{100, 100, 300, 200}, {100, 100, 300, 200}},
+        {{1050, 100, 300, 200}, {1050, 100, 300, 200}},
+        {{900, 100, 300, 200}, {1000, 100, 300, 200}}, // half on each, more on the second
+        {{1100, 100, 900, 900}, {1000, 0, 500, 400}}, // larger than its screen
+        {{3000, 100, 300, 200}, {700, 100, 300, 200}}, // the screen is gone
+        {{-500, -500, 300, 200}, {0, 30, 300, 200}},
+    };
+    for (const auto& [noted, shown] : cases)
+        EXPECT_EQ(PlaceOnScreens(noted, {primary, second}), shown);
+    EXPECT_EQ(PlaceOnScreens({1050, 100, 300, 200}, {primary}), QRect(700, 100, 300, 200));
+}
+
+TEST(NumberBoxes, TintWhatIsNoNumberAndSayWhy)
+{
+    NumberBox box;
+    Shown(&box);
+    box.setToolTip("Pieces");
+    const QColor plain = box.palette().color(QPalette::Base);
+    struct {
+        const char* text;
+        bool isNumber;
+    } const cases[] = {{"12x", false}, {"12", true}, {"abc", false}, {"", true}, {"$1,234.50", true}, {"1.2.3", false}};
+    for (const auto& [text, isNumber] : cases) {
+        Type(&box, text);
+        EXPECT_EQ(box.palette().color(QPalette::Base) == plain, isNumber) << text;
+        EXPECT_EQ(box.toolTip(), isNumber ? "Pieces" : "This is not a number. Write it like 1234.5.") << text;
+        EXPECT_EQ(box.text(), text);
+    }
+    SetRegional(QLocale(QLocale::German, QLocale::Germany));
+    Type(&box, "7,5,1");
+    EXPECT_TRUE(box.toolTip().endsWith("1234,5."));
+}
