@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
@@ -19,6 +20,7 @@ constexpr QMargins Frame(0, 32, 0, 0);
 struct WindowPlace {
     QRect place; ///< what the window takes when it is not maximised
     bool maximized;
+    bool operator==(const WindowPlace&) const = default;
 };
 
 WindowPlace PlaceOf(const QWidget* window)
@@ -54,14 +56,6 @@ QList<QRect> Screens()
     return screens;
 }
 
-/// Window systems move a window by its frame when they show it; less than this is not the user's doing.
-bool IsChosen(const WindowPlace& before, const WindowPlace& now)
-{
-    constexpr int FrameShift = 50;
-    return before.maximized != now.maximized || before.place.size() != now.place.size()
-        || (before.place.topLeft() - now.place.topLeft()).manhattanLength() > FrameShift;
-}
-
 class PlaceKeeper : public QObject {
 public:
     PlaceKeeper(QWidget* window, const QString& key)
@@ -75,10 +69,13 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Show && !event->spontaneous())
-            m_opened = PlaceOf(m_window);
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            // The window system has its own word on a window that opens; what comes later is the user's doing.
+            constexpr int Settling = 400;
+            QTimer::singleShot(Settling, this, [this] { m_opened = PlaceOf(m_window); });
+        }
         if (event->type() == QEvent::Hide && !event->spontaneous() && m_opened) {
-            if (const WindowPlace left = PlaceOf(m_window); IsChosen(*m_opened, left) && left.place.isValid())
+            if (const WindowPlace left = PlaceOf(m_window); left != *m_opened && left.place.isValid())
                 SaveConfig(m_key, ToText(left));
             m_opened.reset();
         }

@@ -218,3 +218,19 @@ TEST_F(LoadTest, EveryPanelIsFitToShowAndTheWindowForASmallScreen)
                 CheckScreen(panel, panel->Controls(), hiddenOnPurpose);
     }
 }
+
+TEST_F(LoadTest, AFileFromBeforeTheIndexesWorks)
+{
+    for (const QStringList& index : Rows("SELECT name FROM sqlite_schema WHERE type = 'index' AND sql IS NOT NULL"))
+        Run("DROP INDEX " + index[0]);
+    const int rope = Item("Rope").Barcode("4711").Stock(5).Add();
+    Line(Invoice(Customer("Ann", "Lee").Add()).Add(), rope, 2, "2.50");
+    MainWindow& window = Window();
+    window.ViewReports();
+    EXPECT_EQ(window.picArrivals->gInvoices->Rows(), 2);
+    window.Run("mnuReservationAdd");
+    Type(window.picNewInvoice->txtBarcode, "4711");
+    Press(window.picNewInvoice->txtBarcode, Qt::Key_Return);
+    EXPECT_EQ(window.picNewInvoice->gNewInvoice->Rows(), 2);
+    EXPECT_EQ(Stock(rope), 4);
+}

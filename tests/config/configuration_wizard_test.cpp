@@ -1,4 +1,5 @@
 #include "base/numbers.h"
+#include "base/regional.h"
 #include "base/settings_store.h"
 #include "config/configuration_pages.h"
 #include "config/configuration_wizard.h"
@@ -169,11 +170,14 @@ TEST_F(ConfigurationWizardTest, ATypedRateIsStoredAsTheNumberRulesReadItOrEndsTh
         const char* name;
         const char* percentage;
         QString stored;
+        QLocale::Language language = QLocale::English;
     } rates[] = {{true, "VAT's", "abc", "VAT's 0.0"}, {true, "VAT", "", "VAT 0.0"}, {true, "", "5%", " 0.0"},
         {true, "VAT", "1,5", "Old 5.0"}, {false, "VAT's", "abc", "VAT's 0.0"}, {false, "VAT", "1,5", "VAT 15.0"},
-        {false, "", "7", ""}};
+        {false, "", "7", ""}, {true, "MwSt", "7,5", "MwSt 7.5", QLocale::German},
+        {false, "MwSt", "7,5", "MwSt 7.5", QLocale::German}};
     for (const auto& rate : rates) {
         SCOPED_TRACE(testing::Message() << rate.rateExists << rate.name << ' ' << rate.percentage);
+        SetRegional(QLocale(rate.language));
         Run("DELETE FROM taxrate WHERE id <> 1");
         if (rate.rateExists)
             TaxRateRow("Old", 5);

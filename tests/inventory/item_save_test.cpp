@@ -23,7 +23,7 @@ TEST_F(ItemSave, AnEmptyNewItemIsSavedWithDefaultsAndTheProposedNumber)
     const int trade = PriceListRow("Trade");
     Run("UPDATE nextitemno SET itemnumber = 42");
     Open(NewRow);
-    for (TextBox* price : {form->txtPriceList_0, Member<TextBox>("txtPriceList_1")})
+    for (NumberBox* price : {form->txtPriceList_0, Member<NumberBox>("txtPriceList_1")})
         Type(price, "");
     SaveAndClose();
 
