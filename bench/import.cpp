@@ -4,9 +4,8 @@
 #include "measure.h"
 #include "running_program.h"
 
-#include "controls/fit_grid_columns.h"
 #include "exchange/csv_reader.h"
-#include "exchange/import_preview.h"
+#include "exchange/import_reading.h"
 #include "exchange/import_records.h"
 
 #include <QFile>
@@ -62,7 +61,7 @@ void MeasureReader(const QByteArray& text)
         },
         [&] { lines += size_t(text.count('\n')); });
     constexpr double MegabytesAMillisecond = 0.1;
-    Report("CSV reader, 100 MB; floor: count the lines", pair.program.Median(), pair.floor.Median(),
+    PrintFigure("CSV reader, 100 MB; floor: count the lines", pair.program.Median(), pair.floor.Median(),
         double(text.size()) / Megabyte / MegabytesAMillisecond, "ms");
 }
 
@@ -85,9 +84,9 @@ void MeasurePreview(const QByteArray& text)
         }));
     constexpr double FloorMs = 0;
     constexpr double AllowedMs = 3000;
-    Report("CSV preview of 100 MB, columns fitted", times.Median(), FloorMs, AllowedMs, "ms");
+    PrintFigure("CSV preview of 100 MB, columns fitted", times.Median(), FloorMs, AllowedMs, "ms");
     const double fileSize = double(text.size()) / Megabyte;
-    Report("memory of its grid; floor: the file", MegabytesInUse() - before, fileSize, 3 * fileSize, "MB");
+    PrintFigure("memory of its grid; floor: the file", MegabytesInUse() - before, fileSize, 3 * fileSize, "MB");
 }
 
 constexpr int Records = 10'000;
@@ -217,7 +216,7 @@ void MeasureRecords(RunningProgram& program)
         DeleteItemsAfter(newest);
     }
     constexpr double Allowed = 2;
-    Report("import of 10,000 items in three price lists", pair.program.Median(), pair.floor.Median(),
+    PrintFigure("import of 10,000 items in three price lists", pair.program.Median(), pair.floor.Median(),
         Allowed * pair.floor.Median(), "ms");
 }
 

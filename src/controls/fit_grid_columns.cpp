@@ -26,14 +26,12 @@ public:
     explicit Ruler(const QFontMetrics& metrics)
         : m_metrics(metrics)
     {
-        // Rounded up, so that no text is wider than the sum.
-        const QFontMetricsF fine(metrics);
         for (size_t byte = 0; byte < m_advances.size(); ++byte) {
             // A character of several bytes counts as a wide one at its first byte and as nothing at the others.
             if (byte < FirstOfSeveral)
-                m_advances[byte] = int(std::ceil(fine.horizontalAdvance(QChar(ushort(byte)))));
+                m_advances[byte] = Advance(QChar(ushort(byte)));
             else if (byte >= FirstLead)
-                m_advances[byte] = std::max(metrics.maxWidth(), metrics.height());
+                m_advances[byte] = int(std::ceil(std::max(m_metrics.maxWidth(), m_metrics.height())));
             m_widest = std::max(m_widest, m_advances[byte]);
         }
     }
@@ -44,12 +42,15 @@ public:
         utf8 = utf8.substr(0, MeasuredBytes);
         if (qint64(utf8.size()) * m_widest <= width || Estimate(utf8) <= width)
             return width;
-        return std::max(width, m_metrics.horizontalAdvance(QString::fromUtf8(utf8.data(), qsizetype(utf8.size()))));
+        return std::max(width, Advance(QString::fromUtf8(utf8.data(), qsizetype(utf8.size()))));
     }
 
 private:
     static constexpr size_t FirstOfSeveral = 0x80;
     static constexpr size_t FirstLead = 0xC0;
+
+    /// Rounded up: a text in less room is cut short, and none is wider than the sum of its characters.
+    int Advance(const QString& text) const { return int(std::ceil(m_metrics.horizontalAdvance(text))); }
 
     int Estimate(std::string_view utf8) const
     {
@@ -59,7 +60,7 @@ private:
         return sum;
     }
 
-    QFontMetrics m_metrics;
+    QFontMetricsF m_metrics;
     std::array<int, 256> m_advances{};
     int m_widest = 0;
 };

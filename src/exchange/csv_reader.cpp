@@ -52,18 +52,17 @@ void CsvReader::Store(std::string_view cell)
 void CsvReader::ReadTitles()
 {
     m_cells.clear();
-    size_t start = m_pos;
-    for (; !AtLineEnd(); ++m_pos) {
-        if (m_pos >= m_text.size())
-            throw RuntimeError(62, tr("The first line has no end. Lines must end with CR LF."));
-        if (Here() == ',') {
-            Store(WithoutBlanks(From(start)));
-            start = m_pos + 1;
-        }
+    const size_t end = m_text.find("\r\n", m_pos);
+    if (end == std::string_view::npos)
+        throw RuntimeError(62, tr("The first line has no end. Lines must end with CR LF."));
+    std::string_view rest = m_text.substr(m_pos, end - m_pos);
+    for (size_t comma = rest.find(','); comma != std::string_view::npos; comma = rest.find(',')) {
+        Store(WithoutBlanks(rest.substr(0, comma)));
+        rest.remove_prefix(comma + 1);
     }
-    if (m_pos > start)
-        Store(From(start));
-    m_pos += 2;
+    if (!rest.empty())
+        Store(rest);
+    m_pos = end + 2;
 }
 
 bool CsvReader::ReadRow()
