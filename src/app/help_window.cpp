@@ -11,11 +11,12 @@
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QStyle>
+#include <QTabBar>
 #include <QToolBar>
 
 namespace {
 
-constexpr QSize FirstSize(980, 680);
+constexpr QSize FirstSize(1010, 690);
 constexpr int FirstPaneWidth = 270;
 constexpr int AddressRole = Qt::UserRole;
 constexpr int MostResults = 100;
@@ -60,7 +61,8 @@ frmHelp::frmHelp(HelpPages& pages)
     splitter->addWidget(tabHelp);
     splitter->addWidget(page);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({FirstPaneWidth, FirstSize.width() - FirstPaneWidth});
+    const int paneWidth = qMax(FirstPaneWidth, tabHelp->tabBar()->sizeHint().width() + 2 * splitter->handleWidth());
+    splitter->setSizes({paneWidth, FirstSize.width() - paneWidth});
     setCentralWidget(splitter);
     resize(FirstSize);
 
