@@ -32,6 +32,10 @@ void CheckPlace(const QWidget* screen, const QWidget* control)
     EXPECT_TRUE(control->width() >= needed.width() && control->height() >= needed.height())
         << NameOf(control) << " is cut off: " << control->width() << 'x' << control->height() << " for "
         << needed.width() << 'x' << needed.height();
+    // CheckReading takes the name of a panel around a control for its own.
+    EXPECT_TRUE(
+        control->focusPolicy() == Qt::NoFocus || !Caption(control).isEmpty() || !control->accessibleName().isEmpty())
+        << NameOf(control) << " has neither a caption nor an accessible name";
 }
 
 /// The part of a control that what it scrolls in lets show.
