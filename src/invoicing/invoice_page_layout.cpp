@@ -114,6 +114,10 @@ QLayout* InvoicePage::CustomerSection()
             {QString(), chkWarrantyInvoice}},
     });
     section->setVerticalSpacing(3);
+    // In a narrow window, or with a large font, the page scrolls before a name is down to its first letters.
+    constexpr int FewestCharacters = 10;
+    for (const PartyField& field : CustomerBoxes())
+        field.box->setMinimumWidth(FewestCharacters * fontMetrics().averageCharWidth());
     return section;
 }
 
