@@ -107,6 +107,10 @@
         <source>%1, %2 to %3</source>
         <translation>%1, %2 bis %3</translation>
     </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gespeichert als %1</translation>
+    </message>
 </context>
 <context>
     <name>CsvExports</name>
@@ -125,6 +129,10 @@
     <message>
         <source>Unable to write to file, please check you have permissions and try again.</source>
         <translation>Die Datei kann nicht geschrieben werden. Bitte prüfen Sie Ihre Zugriffsrechte und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gespeichert als %1</translation>
     </message>
 </context>
 <context>
@@ -262,6 +270,29 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Words to look for, in any order</source>
+        <translation>Gesuchte Wörter, in beliebiger Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message>
+        <source>Close the filter (Esc)</source>
+        <translation>Filter schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>Close the filter</source>
+        <translation>Filter schließen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>FinishPage</name>
     <message>
         <source>Finished</source>
@@ -281,6 +312,17 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Invalid Col value</source>
         <translation>Ungültiger Wert für Col</translation>
+    </message>
+    <message>
+        <source>No row has all of these words. Press Esc to show all rows.</source>
+        <translation>Keine Zeile enthält alle diese Wörter. Mit Esc zeigen Sie alle Zeilen.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpDesk</name>
+    <message>
+        <source>The help file %1 is missing or damaged.</source>
+        <translation>Die Hilfedatei %1 fehlt oder ist beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -402,6 +444,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Delete item?</source>
         <translation>Artikel löschen?</translation>
+    </message>
+    <message>
+        <source>At or below the reorder level</source>
+        <translation>Auf oder unter dem Meldebestand</translation>
     </message>
 </context>
 <context>
@@ -741,6 +787,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Lines: %1   Pieces: %2   Last code: %3</source>
         <translation>Positionen: %1   Stück: %2   Letzter Code: %3</translation>
     </message>
+    <message>
+        <source>Nothing is ordered yet. Scan a bar code or press &quot;%1&quot;.</source>
+        <translation>Noch keine Positionen. Scannen Sie einen Barcode oder klicken Sie auf „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceReport</name>
@@ -866,6 +916,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
     </message>
+    <message>
+        <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
+        <translation>Noch nichts vorhanden. Klicken Sie auf „%1“, um zu beginnen.</translation>
+    </message>
 </context>
 <context>
     <name>KeyListForm</name>
@@ -884,6 +938,17 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>There is nothing to show. Press &quot;Add&quot; to begin.</source>
+        <translation>Noch nichts vorhanden. Klicken Sie auf „Hinzufügen“, um zu beginnen.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPanel</name>
+    <message>
+        <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
+        <translation>Noch nichts vorhanden. Klicken Sie auf „%1“, um zu beginnen.</translation>
     </message>
 </context>
 <context>
@@ -1184,6 +1249,13 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
 </context>
 <context>
+    <name>NumberBox</name>
+    <message>
+        <source>This is not a number. Write it like %1.</source>
+        <translation>Das ist keine Zahl. Schreiben Sie sie wie %1.</translation>
+    </message>
+</context>
+<context>
     <name>PickingList</name>
     <message>
         <source>Invoice No:</source>
@@ -1353,6 +1425,17 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>&amp;No</source>
         <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
+    <name>RecordList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filter</translation>
     </message>
 </context>
 <context>
@@ -1793,6 +1876,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>No Item Group has been selected. Please select an Item Group to add then try again.</source>
         <translation>Es ist keine Artikelgruppe ausgewählt. Bitte wählen Sie eine Artikelgruppe aus und versuchen Sie es erneut.</translation>
     </message>
+    <message>
+        <source>There are no item groups.</source>
+        <translation>Es gibt keine Artikelgruppen.</translation>
+    </message>
 </context>
 <context>
     <name>frmAddLocation</name>
@@ -1930,6 +2017,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>This item does not have enough items in stock. To add this item first increase the total number in stock.</source>
         <translation>Von diesem Artikel ist nicht genug auf Lager. Erhöhen Sie zuerst den Bestand, um ihn hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>No item matches.</source>
+        <translation>Kein Artikel gefunden.</translation>
     </message>
 </context>
 <context>
@@ -2283,6 +2374,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>No criteria to search by has been entered. Please enter some details and try again.</source>
         <translation>Es sind keine Suchkriterien angegeben. Bitte geben Sie etwas ein und versuchen Sie es erneut.</translation>
     </message>
+    <message>
+        <source>No customer matches.</source>
+        <translation>Kein Kunde gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>frmFindInvoice</name>
@@ -2337,6 +2432,149 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>No reservation has been selected. Select a reservation to to view or edit and try again.</source>
         <translation>Es ist keine Rechnung ausgewählt. Wählen Sie eine Rechnung zum Anzeigen oder Bearbeiten aus und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Start Search&quot; to list the invoices of these days.</source>
+        <translation>Klicken Sie auf „Suche starten“, um die Rechnungen dieser Tage aufzulisten.</translation>
+    </message>
+    <message>
+        <source>No invoice is of these days.</source>
+        <translation>An diesen Tagen gibt es keine Rechnung.</translation>
+    </message>
+</context>
+<context>
+    <name>frmHelp</name>
+    <message>
+        <source>Tavrin Inventory Help</source>
+        <translation>Hilfe zu Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Ways to a page</source>
+        <translation>Wege zu einer Seite</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Hilfeseite</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>Inde&amp;x</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>Look for</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>Type the first letters of a word</source>
+        <translation>Geben Sie die ersten Buchstaben eines Wortes ein</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Gesuchte Wörter</translation>
+    </message>
+    <message>
+        <source>Type words, then press Enter</source>
+        <translation>Wörter eingeben, dann Eingabetaste</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Gefundene Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Find in page:</source>
+        <translation>&amp;Auf der Seite suchen:</translation>
+    </message>
+    <message>
+        <source>Find in page</source>
+        <translation>Auf der Seite suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>Find in Page</source>
+        <translation>Auf der Seite suchen</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 - Tavrin Inventory Help</source>
+        <translation>%1 - Hilfe zu Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Suche läuft...</translation>
+    </message>
+    <message>
+        <source>Pages found: %1</source>
+        <translation>Gefundene Seiten: %1</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Nicht gefunden.</translation>
     </message>
 </context>
 <context>
@@ -2487,6 +2725,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>No item has been selected. Please select an item to remove and try again.</source>
         <translation>Es ist kein Artikel ausgewählt. Bitte wählen Sie den Artikel aus, der entfernt werden soll, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
+        <translation>Die Gruppe ist leer. Wählen Sie einen Artikel und klicken Sie auf „Artikel hinzufügen“.</translation>
     </message>
 </context>
 <context>
@@ -2679,6 +2921,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>%1 x %2 received, now %3</source>
         <translation>%1 x %2 eingegangen, jetzt %3</translation>
     </message>
+    <message>
+        <source>There are no items to receive stock of.</source>
+        <translation>Es gibt keine Artikel für einen Wareneingang.</translation>
+    </message>
 </context>
 <context>
     <name>frmReorderReportFilter</name>
@@ -2753,6 +2999,14 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>No matches found. Please try again or press Close to enter new customer details.</source>
         <translation>Keine Treffer. Bitte versuchen Sie es erneut oder klicken Sie auf Schließen, um einen neuen Kunden einzugeben.</translation>
     </message>
+    <message>
+        <source>Press &quot;Start Search&quot; to list the customers of these names.</source>
+        <translation>Klicken Sie auf „Suche starten“, um die Kunden dieses Namens aufzulisten.</translation>
+    </message>
+    <message>
+        <source>No customer matches.</source>
+        <translation>Kein Kunde gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>frmSetNextInvoiceNo</name>
@@ -2790,6 +3044,93 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmSystemInfo</name>
+    <message>
+        <source> (%1 bytes)</source>
+        <translation> (%1 Byte)</translation>
+    </message>
+    <message>
+        <source>%1 items, %2 customers, %3 invoices</source>
+        <translation>%1 Artikel, %2 Kunden, %3 Rechnungen</translation>
+    </message>
+    <message>
+        <source>%1 x %2, scaled by %3, %4, style %5</source>
+        <translation>%1 x %2, Skalierung %3, %4, Stil %5</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source> (built with %1)</source>
+        <translation> (erstellt mit %1)</translation>
+    </message>
+    <message>
+        <source>Database engine</source>
+        <translation>Datenbanksystem</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Language and region</source>
+        <translation>Sprache und Region</translation>
+    </message>
+    <message>
+        <source>Data file</source>
+        <translation>Datendatei</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Program&apos;s folder</source>
+        <translation>Programmordner</translation>
+    </message>
+    <message>
+        <source>Help file</source>
+        <translation>Hilfedatei</translation>
+    </message>
+    <message>
+        <source>System Information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <source>System information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies all of it, for a letter to the support</source>
+        <translation>Kopiert alles, für ein Schreiben an den Support</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Instructions - click Copy and paste this into your question to the support.</source>
+        <translation>Hinweis - Klicken Sie auf Kopieren und fügen Sie dies in Ihre Frage an den Support ein.</translation>
     </message>
 </context>
 <context>

@@ -107,6 +107,10 @@
         <source>%1, %2 to %3</source>
         <translation>%1, %2 à %3</translation>
     </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Enregistré sous %1</translation>
+    </message>
 </context>
 <context>
     <name>CsvExports</name>
@@ -125,6 +129,10 @@
     <message>
         <source>Unable to write to file, please check you have permissions and try again.</source>
         <translation>Impossible d&apos;écrire dans le fichier. Vérifiez que vous en avez le droit et réessayez.</translation>
+    </message>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Enregistré sous %1</translation>
     </message>
 </context>
 <context>
@@ -262,6 +270,29 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Words to look for, in any order</source>
+        <translation>Mots à chercher, dans n&apos;importe quel ordre</translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filtre :</translation>
+    </message>
+    <message>
+        <source>Close the filter (Esc)</source>
+        <translation>Fermer le filtre (Échap)</translation>
+    </message>
+    <message>
+        <source>Close the filter</source>
+        <translation>Fermer le filtre</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>FinishPage</name>
     <message>
         <source>Finished</source>
@@ -281,6 +312,17 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Invalid Col value</source>
         <translation>Valeur de Col non valide</translation>
+    </message>
+    <message>
+        <source>No row has all of these words. Press Esc to show all rows.</source>
+        <translation>Aucune ligne ne contient tous ces mots. Appuyez sur Échap pour afficher toutes les lignes.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpDesk</name>
+    <message>
+        <source>The help file %1 is missing or damaged.</source>
+        <translation>Le fichier d&apos;aide %1 est absent ou endommagé.</translation>
     </message>
 </context>
 <context>
@@ -402,6 +444,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Delete item?</source>
         <translation>Supprimer l&apos;article ?</translation>
+    </message>
+    <message>
+        <source>At or below the reorder level</source>
+        <translation>Au seuil de commande ou en dessous</translation>
     </message>
 </context>
 <context>
@@ -741,6 +787,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Lines: %1   Pieces: %2   Last code: %3</source>
         <translation>Lignes : %1   Pièces : %2   Dernier code : %3</translation>
     </message>
+    <message>
+        <source>Nothing is ordered yet. Scan a bar code or press &quot;%1&quot;.</source>
+        <translation>Rien n&apos;est encore commandé. Scannez un code-barres ou cliquez sur « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceReport</name>
@@ -866,6 +916,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
     </message>
+    <message>
+        <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur « %1 » pour commencer.</translation>
+    </message>
 </context>
 <context>
     <name>KeyListForm</name>
@@ -884,6 +938,17 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>&amp;Close</source>
         <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>There is nothing to show. Press &quot;Add&quot; to begin.</source>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur « Ajouter » pour commencer.</translation>
+    </message>
+</context>
+<context>
+    <name>ListPanel</name>
+    <message>
+        <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur « %1 » pour commencer.</translation>
     </message>
 </context>
 <context>
@@ -1184,6 +1249,13 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>NumberBox</name>
+    <message>
+        <source>This is not a number. Write it like %1.</source>
+        <translation>Ce n&apos;est pas un nombre. Écrivez-le comme %1.</translation>
+    </message>
+</context>
+<context>
     <name>PickingList</name>
     <message>
         <source>Invoice No:</source>
@@ -1353,6 +1425,17 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>&amp;No</source>
         <translation>&amp;Non</translation>
+    </message>
+</context>
+<context>
+    <name>RecordList</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtre</translation>
     </message>
 </context>
 <context>
@@ -1793,6 +1876,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>No Item Group has been selected. Please select an Item Group to add then try again.</source>
         <translation>Aucun groupe d&apos;articles n&apos;est sélectionné. Veuillez sélectionner le groupe à ajouter, puis réessayez.</translation>
     </message>
+    <message>
+        <source>There are no item groups.</source>
+        <translation>Il n&apos;y a aucun groupe d&apos;articles.</translation>
+    </message>
 </context>
 <context>
     <name>frmAddLocation</name>
@@ -1930,6 +2017,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>This item does not have enough items in stock. To add this item first increase the total number in stock.</source>
         <translation>Le stock de cet article n&apos;est pas suffisant. Pour l&apos;ajouter, augmentez d&apos;abord la quantité en stock.</translation>
+    </message>
+    <message>
+        <source>No item matches.</source>
+        <translation>Aucun article trouvé.</translation>
     </message>
 </context>
 <context>
@@ -2283,6 +2374,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>No criteria to search by has been entered. Please enter some details and try again.</source>
         <translation>Aucun critère de recherche n&apos;a été saisi. Veuillez en saisir un et réessayer.</translation>
     </message>
+    <message>
+        <source>No customer matches.</source>
+        <translation>Aucun client trouvé.</translation>
+    </message>
 </context>
 <context>
     <name>frmFindInvoice</name>
@@ -2337,6 +2432,149 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No reservation has been selected. Select a reservation to to view or edit and try again.</source>
         <translation>Aucune facture n&apos;est sélectionnée. Sélectionnez une facture à afficher ou à modifier et réessayez.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Start Search&quot; to list the invoices of these days.</source>
+        <translation>Cliquez sur « Lancer la recherche » pour afficher les factures de ces jours.</translation>
+    </message>
+    <message>
+        <source>No invoice is of these days.</source>
+        <translation>Aucune facture à ces dates.</translation>
+    </message>
+</context>
+<context>
+    <name>frmHelp</name>
+    <message>
+        <source>Tavrin Inventory Help</source>
+        <translation>Aide de Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Ways to a page</source>
+        <translation>Accès aux pages</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Page d&apos;aide</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Sommaire</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>&amp;Index</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>Look for</source>
+        <translation>Chercher</translation>
+    </message>
+    <message>
+        <source>Type the first letters of a word</source>
+        <translation>Saisissez les premières lettres d&apos;un mot</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Mots à chercher</translation>
+    </message>
+    <message>
+        <source>Type words, then press Enter</source>
+        <translation>Saisissez des mots, puis Entrée</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Pages trouvées</translation>
+    </message>
+    <message>
+        <source>&amp;Find in page:</source>
+        <translation>&amp;Rechercher dans la page :</translation>
+    </message>
+    <message>
+        <source>Find in page</source>
+        <translation>Rechercher dans la page</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>S&amp;uivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Précédent</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d&apos;outils</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Find in Page</source>
+        <translation>Rechercher dans la page</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Imprimer...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Rechercher le suivant</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rechercher le précédent</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Plus grand</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Plus petit</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>%1 - Tavrin Inventory Help</source>
+        <translation>%1 - Aide de Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Recherche...</translation>
+    </message>
+    <message>
+        <source>Pages found: %1</source>
+        <translation>Pages trouvées : %1</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Aucune page ne contient tous ces mots.</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Introuvable.</translation>
     </message>
 </context>
 <context>
@@ -2487,6 +2725,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No item has been selected. Please select an item to remove and try again.</source>
         <translation>Aucun article n&apos;est sélectionné. Veuillez sélectionner l&apos;article à retirer et réessayer.</translation>
+    </message>
+    <message>
+        <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
+        <translation>Le groupe est vide. Choisissez un article et cliquez sur « Ajouter un article ».</translation>
     </message>
 </context>
 <context>
@@ -2679,6 +2921,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>%1 x %2 received, now %3</source>
         <translation>%1 x %2 reçus, maintenant %3</translation>
     </message>
+    <message>
+        <source>There are no items to receive stock of.</source>
+        <translation>Il n&apos;y a aucun article à réceptionner.</translation>
+    </message>
 </context>
 <context>
     <name>frmReorderReportFilter</name>
@@ -2753,6 +2999,14 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>No matches found. Please try again or press Close to enter new customer details.</source>
         <translation>Aucun résultat. Veuillez réessayer ou cliquez sur Fermer pour saisir un nouveau client.</translation>
     </message>
+    <message>
+        <source>Press &quot;Start Search&quot; to list the customers of these names.</source>
+        <translation>Cliquez sur « Lancer la recherche » pour afficher les clients de ce nom.</translation>
+    </message>
+    <message>
+        <source>No customer matches.</source>
+        <translation>Aucun client trouvé.</translation>
+    </message>
 </context>
 <context>
     <name>frmSetNextInvoiceNo</name>
@@ -2790,6 +3044,93 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmSystemInfo</name>
+    <message>
+        <source> (%1 bytes)</source>
+        <translation> (%1 octets)</translation>
+    </message>
+    <message>
+        <source>%1 items, %2 customers, %3 invoices</source>
+        <translation>%1 articles, %2 clients, %3 factures</translation>
+    </message>
+    <message>
+        <source>%1 x %2, scaled by %3, %4, style %5</source>
+        <translation>%1 x %2, échelle %3, %4, style %5</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source> (built with %1)</source>
+        <translation> (compilé avec %1)</translation>
+    </message>
+    <message>
+        <source>Database engine</source>
+        <translation>Moteur de base de données</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Language and region</source>
+        <translation>Langue et région</translation>
+    </message>
+    <message>
+        <source>Data file</source>
+        <translation>Fichier de données</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Program&apos;s folder</source>
+        <translation>Dossier du programme</translation>
+    </message>
+    <message>
+        <source>Help file</source>
+        <translation>Fichier d&apos;aide</translation>
+    </message>
+    <message>
+        <source>System Information</source>
+        <translation>Informations système</translation>
+    </message>
+    <message>
+        <source>System information</source>
+        <translation>Informations système</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copies all of it, for a letter to the support</source>
+        <translation>Copie le tout, pour un message à l&apos;assistance</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Instructions - click Copy and paste this into your question to the support.</source>
+        <translation>Instructions - cliquez sur Copier et collez ceci dans votre question à l&apos;assistance.</translation>
     </message>
 </context>
 <context>
