@@ -1,5 +1,6 @@
 #include "controls/flex_grid_paint.h"
 
+#include "base/texts.h"
 #include "controls/flex_grid_model.h"
 
 #include <QAbstractItemView>
@@ -89,7 +90,8 @@ bool CellDelegate::helpEvent(
     const bool isCut = index.isValid() && sizeHint(option, index).width() > option.rect.width();
     if (event->type() != QEvent::ToolTip || !isCut)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QString tip = index.data(Qt::DisplayRole).toString().left(TooltipCharacters).toHtmlEscaped();
+    const QString text = index.data(Qt::DisplayRole).toString();
+    QString tip = Shortened(text, TooltipCharacters).toString().toHtmlEscaped();
     if (const QString mark = index.data(Qt::ToolTipRole).toString(); !mark.isEmpty())
         tip += QStringLiteral("<br>") + mark.toHtmlEscaped();
     QToolTip::showText(event->globalPos(), tip, view, option.rect);
