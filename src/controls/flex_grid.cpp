@@ -342,6 +342,8 @@ void FlexGrid::ShowCurrent()
     if (updatesEnabled() && isVisible())
         executeDelayedItemsLayout();
     const int place = m_row == 0 ? -1 : m_model->NearestPlace(m_row - 1);
+    // When its filter shows rows again, a list goes on from where it was.
+    m_hiddenRow = place < 0 ? m_row : 0;
     // What the filter hides is not current, or the next act would be on what nobody sees.
     m_row = place < 0 ? 0 : m_model->RowAt(place) + 1;
     m_setByCode = true;

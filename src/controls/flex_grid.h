@@ -153,6 +153,7 @@ private:
     int m_colSel = 0;
     int m_mouseRow = 0;
     int m_mouseCol = 0;
+    int m_hiddenRow = 0; ///< was current until the filter hid all rows
     bool m_setByCode = false;
     QTimer m_tintEnd;
     int m_searchColumn = -1;

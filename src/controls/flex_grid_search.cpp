@@ -10,6 +10,8 @@ void FlexGrid::SetFilter(const QString& words)
     m_setByCode = true;
     m_model->SetFilter(words);
     m_setByCode = false;
+    if (m_row == 0)
+        m_row = m_hiddenRow;
     ShowCurrent();
 }
 

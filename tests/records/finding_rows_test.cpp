@@ -124,6 +124,12 @@ TEST_F(FindingRows, AFilterStandsUntilEscAndKeepsTheRulesOfSelection)
     EXPECT_FALSE(Filter()->isVisible());
     EXPECT_EQ(ShownRows(), "12345");
     EXPECT_EQ(list->Row(), 1);
+
+    list->SelectRow(4);
+    TypeKeys("/zz");
+    EXPECT_EQ(list->Row(), 0);
+    Press(Filter(), Qt::Key_Escape);
+    EXPECT_EQ(list->Row(), 4) << "where it was";
 }
 
 TEST_F(FindingRows, RowsThatCodeAddsOrChangesOneByOneLiftTheFilter)
