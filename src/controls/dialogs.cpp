@@ -132,6 +132,16 @@ QString SaveFileName(const QString& title, const QString& filter, const QString&
     return path;
 }
 
+QString SaveExistingFileName(const QString& title, const QString& filter)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->SaveFileName(title, filter, QString());
+    QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return PickedFile(dialog);
+}
+
 QPrinter& CurrentPrinter()
 {
     static QPrinter* printer = nullptr;

@@ -11,6 +11,8 @@ class QPrinter;
 QString OpenFileName(const QString& title, const QString& filter);
 /// Asks before a file that exists is chosen, and again while the folder does not exist. `suggested` is a file's name.
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested);
+/// A save dialog that takes a file that exists alone, and does not ask before it is chosen.
+QString SaveExistingFileName(const QString& title, const QString& filter);
 
 /// The printer that Page Setup and Print share for the run; made on first use.
 QPrinter& CurrentPrinter();

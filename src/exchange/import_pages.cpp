@@ -42,7 +42,7 @@ frmWizImport_File::frmWizImport_File(ImportWizard& wizard, QWidget* parent)
 void frmWizImport_File::Browse()
 {
     try {
-        const QString file = OpenFileName(tr("Choose the file to import"), tr("CSV (*.csv)"));
+        const QString file = SaveExistingFileName(tr("Choose the file to import"), tr("CSV (*.csv)"));
         if (!file.isEmpty())
             txtName->setText(file);
     } catch (const std::exception&) {

@@ -67,24 +67,41 @@ TEST(Dialogs, TheWindowsPictureIsPrintedAfterTheDialogAlone)
     CurrentPrinter().setOutputFileName(QString());
 }
 
+namespace {
+void ChooseFile(QFileDialog& dialog, const QString& path)
+{
+    auto* box = Find<QLineEdit>(&dialog, "fileNameEdit");
+    box->setText(path);
+    QTest::keyClick(box, Qt::Key_Return);
+}
+} // namespace
+
 TEST(Dialogs, AFolderThatIsMissingIsToldAndTheFileAskedForAgain)
 {
     QTemporaryDir folder;
     const QString missing = folder.filePath("gone/page.html");
-    const auto name = [](const QString& path) {
-        return [path](QFileDialog& dialog) {
-            auto* box = Find<QLineEdit>(&dialog, "fileNameEdit");
-            box->setText(path);
-            QTest::keyClick(box, Qt::Key_Return);
-        };
-    };
-    WhenFormShows<QFileDialog>(name(missing));
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, missing); });
     WhenFormShows<QMessageBox>([&](QMessageBox& box) {
         EXPECT_TRUE(box.text().startsWith(missing)) << box.text().toStdString();
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    WhenFormShows<QFileDialog>(name(folder.filePath("page")));
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("page")); });
     EXPECT_EQ(SaveFileName("Save", "HTML (*.html);;HTM (*.htm)", ""), folder.filePath("page.html"));
+}
+
+TEST(Dialogs, AFileThatMustExistIsChosenWithoutAQuestion)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath("items.csv");
+    ASSERT_TRUE(QFile(path).open(QFile::WriteOnly));
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        ChooseFile(dialog, folder.filePath("gone.csv"));
+        EXPECT_TRUE(dialog.isVisible());
+        ChooseFile(dialog, path);
+    });
+    EXPECT_EQ(SaveExistingFileName("Import", "CSV (*.csv)"), path);
 }
 
 TEST(Dialogs, HelpGoesToTheViewerOnceThereIsOne)

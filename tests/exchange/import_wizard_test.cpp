@@ -76,7 +76,7 @@ TEST_F(ImportWizardTest, AsksWordForWordAndImportsWhatWasChosen)
             Click(page.cmdNext);
         }
         for (const QString& chosen : {File(), QString()}) {
-            answers.ExpectOpenFile(chosen);
+            answers.ExpectSaveFile(chosen);
             Click(page.cmdAdd);
         }
         EXPECT_EQ(page.txtName->text(), File());
