@@ -2,17 +2,36 @@
 
 #include "base/files.h"
 
+#include <QHelpContentModel>
+#include <QHelpIndexModel>
+#include <QThread>
+
 HelpPages::HelpPages(const QString& file)
 {
     const QString collection = m_folder.filePath(QStringLiteral("help.qhc"));
     {
         QHelpEngineCore builder(collection);
         builder.setReadOnly(false);
-        m_areThere = m_folder.isValid() && builder.setupData() && builder.registerDocumentation(file);
+        if (!m_folder.isValid() || !builder.setupData() || !builder.registerDocumentation(file))
+            return;
     }
     m_engine = std::make_unique<QHelpEngine>(collection);
     m_engine->setReadOnly(false);
-    m_areThere = m_engine->setupData() && m_areThere;
+    if (!m_engine->setupData())
+        FinishReading();
+}
+
+HelpPages::~HelpPages()
+{
+    FinishReading();
+}
+
+void HelpPages::FinishReading()
+{
+    // Contents and index are read on threads of their own. The engine does not always survive going while they run.
+    while (m_engine && (m_engine->contentModel()->isCreatingContents() || m_engine->indexModel()->isCreatingIndex()))
+        QThread::msleep(1);
+    m_engine.reset();
 }
 
 QUrl HelpPages::PageOf(const QString& name) const

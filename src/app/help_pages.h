@@ -13,9 +13,12 @@
 class HelpPages {
 public:
     explicit HelpPages(const QString& file);
+    ~HelpPages();
+    HelpPages(const HelpPages&) = delete;
+    HelpPages& operator=(const HelpPages&) = delete;
 
-    /// False when the file is missing or is none of this kind; everything else is empty then.
-    bool AreThere() const { return m_areThere; }
+    /// False when the file is missing or is none of this kind; nothing else may be asked then.
+    bool AreThere() const { return m_engine != nullptr; }
 
     QHelpEngine& Engine() { return *m_engine; }
     /// The page of a name or a number that the pages are marked with; empty when none is.
@@ -24,9 +27,11 @@ public:
     QByteArray Read(const QUrl& address) const;
 
 private:
+    /// Lets go of the engine.
+    void FinishReading();
+
     QTemporaryDir m_folder;
     std::unique_ptr<QHelpEngine> m_engine;
-    bool m_areThere = false;
 };
 
 /// The help file in the program's folder.
