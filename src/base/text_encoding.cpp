@@ -3,8 +3,9 @@
 #include <QStringDecoder>
 #include <QStringEncoder>
 
+#include <clocale>
+
 #include <langinfo.h>
-#include <locale.h>
 
 namespace {
 
@@ -16,7 +17,7 @@ QByteArray CodesetOfLocale()
     locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
     if (locale == nullptr)
         return Utf8;
-    const QByteArray codeset = nl_langinfo_l(CODESET, locale);
+    QByteArray codeset = nl_langinfo_l(CODESET, locale);
     freelocale(locale);
     return codeset;
 }

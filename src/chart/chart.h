@@ -77,7 +77,6 @@ public:
     /// All labels and values, a line for each row.
     QString TableText() const;
 
-public slots:
     /// Puts the picture on the clipboard, on white whatever the colours of the desktop are.
     void Copy();
     /// Asks for a file and saves the picture there as PNG or SVG, by the ending of its name. A failure is told.
@@ -85,7 +84,6 @@ public slots:
     /// Asks for a printer and prints the picture on one page. A failure, and that there is no printer, is told.
     void Print();
 
-public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

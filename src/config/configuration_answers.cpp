@@ -55,7 +55,7 @@ QString CopyOfLogo(const QString& logo)
 {
     if (logo.isEmpty())
         return QString();
-    const QString copy = MakeUniqueFileName(LogoFolder(), ExtensionOf(logo));
+    QString copy = MakeUniqueFileName(LogoFolder(), ExtensionOf(logo));
     // A pipe would keep the copy waiting for ever.
     if (QFileInfo(logo).isFile())
         QFile::copy(logo, copy);

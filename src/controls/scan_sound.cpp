@@ -45,7 +45,7 @@ QString Player()
     };
     for (const Candidate& candidate : candidates)
         if (candidate.answers)
-            if (const QString path = QStandardPaths::findExecutable(QLatin1String(candidate.program)); !path.isEmpty())
+            if (QString path = QStandardPaths::findExecutable(QLatin1String(candidate.program)); !path.isEmpty())
                 return path;
     return {};
 }

@@ -187,7 +187,7 @@ void LookAround(Program& program, Album& album)
 
 QString AddAnItem(Program& program, Album& album)
 {
-    const QString barCode = QStringLiteral("2000009990003");
+    QString barCode = QStringLiteral("2000009990003");
     MainWindow& window = *program.Window();
     ClickToolbar(window, "Inventory");
     album.Take("inventory");

@@ -22,7 +22,7 @@ namespace {
 
 /// At the next page of this name lets `fill` enter what it asks, takes a picture and clicks Next.
 void Turn(
-    Album& album, const char* page, const char* picture, std::function<void(QDialog&)> fill = [](QDialog&) {})
+    Album& album, const char* page, const char* picture, const std::function<void(QDialog&)>& fill = [](QDialog&) {})
 {
     At(page, [&album, picture, fill](QDialog& form) {
         fill(form);
