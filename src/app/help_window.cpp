@@ -214,7 +214,9 @@ void frmHelp::ShowPage(const QUrl& page)
 void frmHelp::FollowPage()
 {
     const QString title = txtPage->documentTitle();
-    setWindowTitle(title.isEmpty() ? tr("Tavrin Inventory Help") : tr("%1 - Tavrin Inventory Help").arg(title));
+    const QString help = tr("Tavrin Inventory Help");
+    // The first page has the name of the whole.
+    setWindowTitle(title.isEmpty() || title == help ? help : tr("%1 - Tavrin Inventory Help").arg(title));
     QHelpContentWidget* contents = m_pages.Engine().contentWidget();
     if (const QModelIndex entry = contents->indexOf(txtPage->source()); entry.isValid())
         contents->setCurrentIndex(entry);

@@ -14,7 +14,7 @@ std::string Cells(const CsvReader& reader)
 {
     std::string cells;
     for (const std::string_view cell : reader.Cells())
-        cells += (cells.empty() ? "" : "|") + ("<" + std::string(cell) + ">");
+        cells.append(cells.empty() ? "<" : "|<").append(cell).append(">");
     return cells;
 }
 
