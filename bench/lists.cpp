@@ -101,8 +101,8 @@ void MeasureFilter(RunningProgram& program)
             }));
         QTest::keyClick(line, Qt::Key_Escape);
     }
-    Report("filter line, a key, median", keys.Median(), 0, Limit, "ms");
-    Report("filter line, a key, 99th percentile", keys.Percentile99(), 0, Limit, "ms");
+    PrintFigure("filter line, a key, median", keys.Median(), 0, Limit, "ms");
+    PrintFigure("filter line, a key, 99th percentile", keys.Percentile99(), 0, Limit, "ms");
 }
 
 } // namespace
