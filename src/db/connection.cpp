@@ -29,6 +29,34 @@ void ConnectionPrivate::RunPlain(const char* sql) const
         throw EngineError(handle);
 }
 
+std::shared_ptr<PreparedStatement> ConnectionPrivate::Prepare(const QString& statement)
+{
+    RequireOpen();
+    ReadStatement(statement, shape);
+    return cache.Statement(handle, shape);
+}
+
+bool ConnectionPrivate::HoldsAlready(const PreparedStatement& update)
+{
+    const Translation& meaning = update.Meaning();
+    PreparedStatement& ask =
+        *cache.Statement(handle, meaning.anyChange, Translation{meaning.anyChange, meaning.coercions, {}, {}});
+    ask.Bind(shape.literals);
+    const bool changes = ask.Step();
+    ask.Release();
+    return !changes;
+}
+
+void ConnectionPrivate::Open(const QString& file, FileUse use)
+{
+    static qint64 openings = 0;
+    Close();
+    handle = OpenDatabaseFile(file, use);
+    path = file;
+    opening = ++openings;
+    RegisterEngineFunctions(handle);
+}
+
 void ConnectionPrivate::Close()
 {
     cache.Clear();
@@ -49,18 +77,12 @@ Connection::~Connection() = default;
 
 void Connection::Open(const QString& path)
 {
-    d->Close();
-    d->handle = OpenDatabaseFile(path, FileUse::ReadAndWrite);
-    d->path = path;
-    RegisterEngineFunctions(d->handle);
+    d->Open(path, FileUse::ReadAndWrite);
 }
 
 void Connection::OpenReadOnly(const QString& path)
 {
-    d->Close();
-    d->handle = OpenDatabaseFile(path, FileUse::ReadOnly);
-    d->path = path;
-    RegisterEngineFunctions(d->handle);
+    d->Open(path, FileUse::ReadOnly);
 }
 
 void Connection::Close()
@@ -95,9 +117,7 @@ Recordset Connection::Execute(const char* statement)
 
 Recordset Connection::Execute(const QString& statement)
 {
-    d->RequireOpen();
-    ReadStatement(statement, d->shape);
-    std::shared_ptr<PreparedStatement> prepared = d->cache.Statement(d->handle, d->shape);
+    std::shared_ptr<PreparedStatement> prepared = d->Prepare(statement);
     if (ConnectionPrivate::StatementListener)
         ConnectionPrivate::StatementListener(statement);
     if (!prepared->Meaning().columnNames.empty())
@@ -106,4 +126,11 @@ Recordset Connection::Execute(const QString& statement)
     prepared->Step();
     prepared->Release();
     return Recordset();
+}
+
+void Connection::ExecuteIfItChanges(const Sql& update)
+{
+    const QString statement = update.Filled();
+    if (!d->HoldsAlready(*d->Prepare(statement)))
+        Execute(statement);
 }

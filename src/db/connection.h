@@ -35,6 +35,9 @@ public:
     /// As above for a statement without markers.
     Recordset Execute(const QString& statement);
     Recordset Execute(const char* statement);
+    /// Runs an UPDATE unless each row that it would write holds its values already, to the letter: then nothing is
+    /// written, and nothing waits for the disk. Throws RuntimeError as Execute does.
+    void ExecuteIfItChanges(const Sql& update);
 
     ConnectionPrivate& Private() { return *d; }
 

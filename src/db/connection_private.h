@@ -1,5 +1,6 @@
 #pragma once
 
+#include "db/database_file.h"
 #include "db/prepared_statement.h"
 #include "db/statement_cache.h"
 
@@ -19,6 +20,11 @@ public:
     void RequireOpen() const;
     /// Runs one of the engine's own statements. Throws RuntimeError when it fails.
     void RunPlain(const char* sql) const;
+    /// Prepares a statement of the dialect and leaves its literals in `shape`.
+    std::shared_ptr<PreparedStatement> Prepare(const QString& statement);
+    /// Whether each row that the UPDATE in `shape` would write holds all of its values already.
+    bool HoldsAlready(const PreparedStatement& update);
+    void Open(const QString& file, FileUse use);
     void Close();
 
     /// Told of each statement, as the screens wrote it, that the engine could read. Nobody listens in the program; the
@@ -31,4 +37,5 @@ public:
     StatementCache cache{live};
     StatementShape shape; ///< kept from statement to statement for its memory
     int openBatches = 0;
+    qint64 opening = 0; ///< each Open of any connection has its own
 };

@@ -126,7 +126,7 @@ void OpenInvoice::Save(const InvoiceCustomer& customer, const InvoiceFields& inv
 void OpenInvoice::UpdateCustomer(const InvoiceCustomer& customer)
 {
     const PartyTexts& texts = customer.texts;
-    gConnection->Execute(
+    gConnection->ExecuteIfItChanges(
         Sql("UPDATE Customer SET FirstName = '{first}', LastName = '{last}', Address1 = '{address1}', "
             "Address2 = '{address2}', City = '{city}', State = '{state}', PostCode = '{postcode}', "
             "Country = '{country}', Phone = '{phone}', Fax = '{fax}', Email = '{email}', Discount = {discount}, "
@@ -162,7 +162,7 @@ qint32 OpenInvoice::AddCustomer(const InvoiceCustomer& customer)
 
 void OpenInvoice::UpdateInvoice(const InvoiceFields& invoice)
 {
-    gConnection->Execute(
+    gConnection->ExecuteIfItChanges(
         Sql("UPDATE invoice SET CustomerID = {gCurrentCustomerId},PaymentMethod = '{method}',Paid = {paid},"
             "WarrantyInvoice = {warranty},InvoiceNo = '{invoiceNo}',SubmittedDate = #{date}#,"
             "ShippedDate = {shipped},Notes = '{notes}', Total2ndTax = '{secondTax}' WHERE id = {gCurrentInvoiceId}")

@@ -59,8 +59,8 @@ public:
     /// The open invoice's lines: id, quantity, number, name, amount, and name and percentage of the tax rate.
     static Sql LinesStatement();
 
-    /// Writes the customer, adding the row if the invoice has none yet, and the invoice. `customer.discount` goes into
-    /// the statement as it is.
+    /// Writes the customer, adding the row if the invoice has none yet, and the invoice; a row that holds all of it
+    /// already is left alone. `customer.discount` goes into the statement as it is.
     static void Save(const InvoiceCustomer& customer, const InvoiceFields& invoice);
 
     /// Gives the goods of the lines back, deletes them and the invoice, and closes it. The customer's row stays, and

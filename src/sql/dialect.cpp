@@ -78,16 +78,20 @@ public:
         if (!m_tokens.TakeWord("set"))
             throw Error();
         ExpressionReader expressions = Expressions();
-        std::string assignments = Assignment(expressions);
-        while (m_tokens.TakeSign(","))
-            assignments += ", " + Assignment(expressions);
+        do {
+            Assign(expressions);
+        } while (m_tokens.TakeSign(","));
         const size_t start = m_lastStart;
         if (m_tokens.Peek().kind != Token::Kind::End && !m_tokens.AtWord("where"))
             throw expressions.MissingOperator(start);
         const size_t condition = m_tokens.Place() + 1;
         const std::string where = Where(expressions);
         ExpectEnd(expressions, condition);
-        m_result.sql = "UPDATE [" + std::string(table.text) + "] SET " + assignments + where;
+        const std::string name = std::string("[").append(table.text).append("]");
+        m_result.sql = std::string("UPDATE ") + name + " SET " + m_assignments + where;
+        m_result.anyChange = std::string("SELECT 1 FROM ") + name + " WHERE (" + m_changes + ")";
+        if (!where.empty())
+            m_result.anyChange += " AND (" + where.substr(std::string_view(" WHERE ").size()) + ")";
         return m_result;
     }
 
@@ -107,7 +111,7 @@ private:
         return *m_scope.Resolve(qualifier, name.text).column;
     }
 
-    std::string Assignment(ExpressionReader& expressions)
+    void Assign(ExpressionReader& expressions)
     {
         const ColumnDefinition& column = Target();
         if (!m_tokens.TakeSign("="))
@@ -117,7 +121,11 @@ private:
             throw Error();
         m_lastStart = m_tokens.Place();
         const Expression value = expressions.Read();
-        return std::string("[") + column.name.toStdString() + "] = " + Assigned(value, KindOf(column.kind));
+        const std::string name = std::string("[") + column.name.toStdString() + "]";
+        const std::string sql = Assigned(value, KindOf(column.kind));
+        m_assignments += std::string(m_assignments.empty() ? "" : ", ") + name + " = " + sql;
+        // To the letter, where texts compare without regard to case.
+        m_changes += std::string(m_changes.empty() ? "" : " OR ") + name + " IS NOT (" + sql + ") COLLATE BINARY";
     }
 
     /// A literal is brought to the column's kind when it is bound, anything else by the engine as it is written.
@@ -136,6 +144,8 @@ private:
         return std::string(ConvertFunction) + "(" + std::to_string(int(target)) + ", " + value.sql + ")";
     }
 
+    std::string m_assignments;
+    std::string m_changes; ///< whether any of them would change a row
     size_t m_lastStart = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "db/batch.h"
 #include "db/connection_private.h"
 #include "db/engine_errors.h"
+#include "db/file_changes.h"
 #include "db/file_check.h"
 #include "db/make_database.h"
 #include "support/files.h"
@@ -137,6 +138,33 @@ TEST_F(Writing, AddRowConvertsValuesAndTakesDefaults)
     row.AddNew();
     row.Update();
     EXPECT_EQ(row.Id(), deleted + 1) << "the number of a deleted row is not given again";
+}
+
+TEST_F(Writing, AnUpdateIsLeftOutWhereTheRowHoldsItToTheLetterAndOnlyThere)
+{
+    const int ann = Customer("Ann", "O'Brien").Discount(2.5).Add();
+    Invoice(ann).Date(QDateTime(QDate(2026, 3, 1), QTime(9, 30))).SecondTax("$1.00").Add();
+    Item("Saw").Price("2.50").Stock(5).Add();
+    FileChanges changes;
+    EXPECT_TRUE(changes.Changed(*gConnection));
+    for (const auto& [update, isRun] : {std::pair("customer SET LastName = 'O''Brien', Discount = 2.5", false),
+             {"customer SET LastName = 'o''brien'", true}, {"customer SET Discount = '2.50'", false},
+             {"customer SET City = '' WHERE id < 0 OR id > 0", true}, {"customer SET City = ''", false},
+             {"invoice SET SubmittedDate = #2026-03-01 9:30#, Paid = false", false},
+             {"invoice SET SubmittedDate = #2026-03-01#", true}, {"invoice SET ShippedDate = null", false},
+             {"ItemPriceList SET Price = '$2.50'", false}, {"item SET noinstock = noinstock + 0", false},
+             {"item SET noinstock = noinstock - 1", true}}) {
+        gConnection->ExecuteIfItChanges(Sql(QStringLiteral("UPDATE ") + update));
+        EXPECT_EQ(changes.Changed(*gConnection), isRun) << update;
+    }
+    EXPECT_THROW(gConnection->ExecuteIfItChanges(Sql("UPDATE customer SET Discount = 'x'")), RuntimeError);
+    EXPECT_EQ(Single("SELECT LastName || City FROM customer") + Single("SELECT NoInStock FROM item"), "o'brien4.0");
+
+    Run("UPDATE customer SET City = 'Rome'");
+    EXPECT_TRUE(changes.Changed(*gConnection)) << "by another program";
+    gConnection->Open(DatabasePath());
+    EXPECT_TRUE(changes.Changed(*gConnection)) << "perhaps another file";
+    EXPECT_FALSE(changes.Changed(*gConnection));
 }
 
 TEST_F(Writing, ABatchKeepsWhatRanBeforeAFailure)
