@@ -2,6 +2,7 @@
 #include "app/language.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QRegularExpression>
 #include <QTranslator>

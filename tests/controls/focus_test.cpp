@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
