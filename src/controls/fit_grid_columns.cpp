@@ -12,6 +12,7 @@
 #include <array>
 #include <cmath>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace {
@@ -20,49 +21,106 @@ constexpr int SpareTwips = 100;
 // A column for a whole text of this length would be wider than any screen.
 constexpr size_t MeasuredBytes = 500;
 
-/// Tells of most texts that they are narrower than another without measuring them.
+/// How wide texts are, without laying most of them out: the sum of what each letter adds behind the one before it,
+/// which takes in the kerning. Of the scripts that come behind the Cyrillic one each letter counts with all of its
+/// width.
 class Ruler {
 public:
-    explicit Ruler(const QFontMetrics& metrics)
+    explicit Ruler(const QFontMetricsF& metrics)
         : m_metrics(metrics)
+        , m_pairs(PairedLetters * PairedLetters, Unknown)
     {
-        for (size_t byte = 0; byte < m_advances.size(); ++byte) {
-            // A character of several bytes counts as a wide one at its first byte and as nothing at the others.
-            if (byte < FirstOfSeveral)
-                m_advances[byte] = Advance(QChar(ushort(byte)));
-            else if (byte >= FirstLead)
-                m_advances[byte] = int(std::ceil(std::max(m_metrics.maxWidth(), m_metrics.height())));
-            m_widest = std::max(m_widest, m_advances[byte]);
+        m_places.fill(NoPlace);
+        for (char32_t letter = 0; letter < FirstShared; ++letter) {
+            m_places[letter] = quint8(letter);
+            m_letters[letter] = letter;
         }
+        m_widest = float(std::max(metrics.maxWidth(), metrics.height()));
     }
 
     /// The width of the text when it is above `width`, else `width`.
-    int Widened(int width, std::string_view utf8) const
+    int Widened(int width, std::string_view utf8)
     {
         utf8 = utf8.substr(0, MeasuredBytes);
-        if (qint64(utf8.size()) * m_widest <= width || Estimate(utf8) <= width)
+        if (float(utf8.size()) * m_widest <= float(width) || Estimate(utf8) <= float(width) + Rounding)
             return width;
-        return std::max(width, Advance(QString::fromUtf8(utf8.data(), qsizetype(utf8.size()))));
+        return std::max(width, int(std::ceil(Advance(QString::fromUtf8(utf8.data(), qsizetype(utf8.size()))))));
     }
 
 private:
-    static constexpr size_t FirstOfSeveral = 0x80;
-    static constexpr size_t FirstLead = 0xC0;
+    static constexpr float Unknown = -1e9F;
+    static constexpr float Rounding = 0.5F; ///< what the sum of a long text may be off
+    static constexpr size_t PairedLetters = 256;
+    static constexpr quint8 NoPlace = 0xFF;
+    static constexpr quint8 FirstShared = 0x80;
+    static constexpr char32_t FirstUnpaired = 0x530;
 
-    /// Rounded up: a text in less room is cut short, and none is wider than the sum of its characters.
-    int Advance(const QString& text) const { return int(std::ceil(m_metrics.horizontalAdvance(text))); }
+    float Advance(const QString& text) const { return float(m_metrics.horizontalAdvance(text)); }
 
-    int Estimate(std::string_view utf8) const
+    float Estimate(std::string_view utf8)
     {
-        int sum = 0;
-        for (const char byte : utf8)
-            sum += m_advances[quint8(byte)];
+        float sum = 0;
+        size_t before = NoPlace;
+        for (size_t at = 0; at < utf8.size();) {
+            const char32_t letter = NextLetter(utf8, at);
+            const size_t place = Place(letter);
+            sum += place == NoPlace ? Alone(letter) : Behind(before, place, letter);
+            before = place;
+        }
         return sum;
     }
 
+    static char32_t NextLetter(std::string_view utf8, size_t& at)
+    {
+        const auto first = quint8(utf8[at++]);
+        if (first < 0x80)
+            return first;
+        char32_t letter = first & (first < 0xE0 ? 0x1F : first < 0xF0 ? 0x0F : 0x07);
+        while (at < utf8.size() && (quint8(utf8[at]) & 0xC0) == 0x80)
+            letter = letter << 6 | (quint8(utf8[at++]) & 0x3F);
+        return letter;
+    }
+
+    /// Where the letter stands in the table of pairs. The letters beyond ASCII share the places that are left, as they
+    /// come.
+    size_t Place(char32_t letter)
+    {
+        if (letter >= FirstUnpaired)
+            return NoPlace;
+        quint8& place = m_places[letter];
+        if (place == NoPlace && m_nextPlace < NoPlace) {
+            place = m_nextPlace++;
+            m_letters[place] = letter;
+        }
+        return place;
+    }
+
+    float Behind(size_t before, size_t place, char32_t letter)
+    {
+        float& known = m_pairs[before * PairedLetters + place];
+        if (known == Unknown)
+            known = before == NoPlace
+                ? Alone(letter)
+                : Advance(QString::fromUcs4(&m_letters[before], 1) + QString::fromUcs4(&letter, 1))
+                    - Alone(m_letters[before]);
+        return known;
+    }
+
+    float Alone(char32_t letter)
+    {
+        float& known = m_alone.try_emplace(letter, Unknown).first->second;
+        if (known == Unknown)
+            known = Advance(QString::fromUcs4(&letter, 1));
+        return known;
+    }
+
     QFontMetricsF m_metrics;
-    std::array<int, 256> m_advances{};
-    int m_widest = 0;
+    float m_widest = 0;
+    std::array<quint8, FirstUnpaired> m_places{};
+    quint8 m_nextPlace = FirstShared;
+    std::array<char32_t, PairedLetters> m_letters{};
+    std::vector<float> m_pairs;
+    std::unordered_map<char32_t, float> m_alone;
 };
 
 } // namespace
@@ -72,13 +130,13 @@ void FitGridColumns(FlexGrid* grid)
     const FlexGridModel* model = grid->Model();
     const int cols = model->columnCount();
     std::vector<int> widths(size_t(cols), 0);
-    const Ruler titleRuler(grid->horizontalHeader()->fontMetrics());
+    Ruler titleRuler(grid->horizontalHeader()->fontMetrics());
     for (int col = 0; col < cols; ++col) {
         const QByteArray title = model->Title(col).toUtf8();
         widths[size_t(col)] = titleRuler.Widened(0, {title.constData(), size_t(title.size())});
     }
     // Row by row, as the texts lie in memory.
-    const Ruler ruler(grid->fontMetrics());
+    Ruler ruler(grid->fontMetrics());
     for (int row = 0; row < model->rowCount(); ++row) {
         const int cells = model->CellsOf(row);
         for (int col = 0; col < cells; ++col)
