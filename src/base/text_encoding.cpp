@@ -10,6 +10,7 @@
 namespace {
 
 constexpr const char* Utf8 = "UTF-8";
+constexpr const char* ByteOrderMark = "\xEF\xBB\xBF";
 
 /// The locale's, not that of the running program: Qt has switched that to UTF-8.
 QByteArray CodesetOfLocale()
@@ -72,6 +73,9 @@ QByteArray TextEncoding::Decode(const QByteArray& bytes) const
 
 QByteArray TextEncoding::Encode(std::string_view utf8) const
 {
+    const QByteArrayView plain(utf8.data(), qsizetype(utf8.size()));
+    if (QStringConverter::encodingForName(m_name.constData()) == QStringConverter::Utf8 && plain.isValidUtf8())
+        return (m_mark == Mark::ByteOrder ? QByteArray(ByteOrderMark) : QByteArray()) + plain.toByteArray();
     const auto flag = m_mark == Mark::ByteOrder ? QStringConverter::Flag::WriteBom : QStringConverter::Flag::Default;
     QStringEncoder encoder(m_name.constData(), flag);
     QByteArray bytes = encoder(QString::fromUtf8(utf8.data(), qsizetype(utf8.size())));
