@@ -21,13 +21,14 @@ constexpr int FirstPaneWidth = 270;
 constexpr int AddressRole = Qt::UserRole;
 constexpr int MostResults = 100;
 
-/// A query for pages with words that begin as these do. What else the search engine would make of signs is lost.
+/// A query for pages with words that begin as these do. What else the search engine would make of signs is lost, and
+/// the quotes keep "NOT" a word.
 QString QueryOf(const QString& words)
 {
     static const QRegularExpression notLetters(
         QStringLiteral("[^\\w]+"), QRegularExpression::UseUnicodePropertiesOption);
     const QStringList parts = words.split(notLetters, Qt::SkipEmptyParts);
-    return parts.isEmpty() ? QString() : parts.join(QStringLiteral("* ")) + QLatin1Char('*');
+    return parts.isEmpty() ? QString() : u'"' + parts.join(QStringLiteral("\"* \"")) + QStringLiteral("\"*");
 }
 
 void SetUp(QWidget* control, const char* name, const QString& accessibleName)
