@@ -1,4 +1,5 @@
 #include "base/runtime_error.h"
+#include "controls/fit_grid_columns.h"
 #include "controls/flex_grid.h"
 #include "controls/flex_grid_model.h"
 #include "controls/form.h"
@@ -142,6 +143,23 @@ TEST_F(Grid, PlacesOutOfRangeAreRunTimeErrors)
     EXPECT_EQ(ErrorOf([&] { grid.RowData(3); }), 381);
     EXPECT_EQ(ErrorOf([&] { grid.SetRows(0); }), 30009);
     EXPECT_EQ(grid.RowData(0), 0);
+}
+
+TEST_F(Grid, AFittedColumnHoldsItsWidestTextAndHardlyMore)
+{
+    const QFontMetricsF metrics(grid.font());
+    for (const QStringList& texts : {QStringList{"AVAVAVAVAVAV To", "AVAVAVAVAVAV Tom"}, {"Тютчев", "Иван Тютчев"},
+             {"東京", "東京都"}, {"e\u0301e\u0301", "e\u0301e\u0301e\u0301"}, {"مرحبا", "مرحبا بكم"}}) {
+        grid.SetCols(1);
+        grid.SetTextMatrix(0, 0, QString());
+        grid.SetRows(3);
+        grid.SetTextMatrix(1, 0, texts[1]);
+        grid.SetTextMatrix(2, 0, texts[0]);
+        FitGridColumns(&grid);
+        const double spare = grid.columnWidth(0) - metrics.horizontalAdvance(texts[1]);
+        EXPECT_GT(spare, 4) << texts[1].toStdString();
+        EXPECT_LT(spare, 12) << texts[1].toStdString();
+    }
 }
 
 TEST_F(Grid, ColumnWidthsAreTwips)
