@@ -37,12 +37,8 @@ FlexGrid::FlexGrid(QWidget* parent)
     MeasureRows();
 
     m_tintEnd.setSingleShot(true);
-    const auto endTint = [this] {
-        m_model->SetTinted(-1);
-        viewport()->update();
-    };
-    QObject::connect(&m_tintEnd, &QTimer::timeout, this, endTint);
-    QObject::connect(m_model, &FlexGridModel::modelReset, this, endTint);
+    QObject::connect(&m_tintEnd, &QTimer::timeout, this, [this] { SetTinted(0); });
+    QObject::connect(m_model, &FlexGridModel::modelReset, this, [this] { m_model->SetTinted(-1); });
     const auto isLeft = [] { return !(QGuiApplication::mouseButtons() & (Qt::RightButton | Qt::MiddleButton)); };
     QObject::connect(this, &QTableView::clicked, this,
         [this](const QModelIndex& cell) { ClickAt(m_model->RowAt(cell.row()) + 1, cell.column()); });
@@ -198,6 +194,14 @@ void FlexGrid::SetRowData(int row, qint64 rowData)
     m_model->SetRowData(row - 1, rowData);
 }
 
+int FlexGrid::RowOf(qint64 rowData) const
+{
+    int row = Rows() - 1;
+    while (row > 0 && m_model->RowData(row - 1) != rowData)
+        --row;
+    return row;
+}
+
 int FlexGrid::ColWidth(int col) const
 {
     CheckCol(col);
@@ -288,7 +292,7 @@ void FlexGrid::ShowTinted(int row)
     constexpr int TintMs = 1000;
     CheckRow(row);
     Reveal(row);
-    m_model->SetTinted(row - 1);
+    SetTinted(row);
     m_tintEnd.start(TintMs);
     const QModelIndex cell = m_model->index(m_model->NearestPlace(row - 1), m_col);
     scrollTo(cell);
@@ -299,7 +303,20 @@ void FlexGrid::ShowTinted(int row)
             const int bottom = viewport()->mapTo(area->widget(), place.bottomLeft()).y();
             area->ensureVisible(area->horizontalScrollBar()->value(), bottom, 0, place.height());
         }
-    viewport()->update();
+}
+
+void FlexGrid::SetTinted(int row)
+{
+    UpdateRow(TintedRow());
+    m_model->SetTinted(row - 1);
+    UpdateRow(row);
+}
+
+void FlexGrid::UpdateRow(int row)
+{
+    // Row 0 has no place, nor has any row before there are some.
+    if (const int place = row > 0 && row < Rows() ? m_model->NearestPlace(row - 1) : -1; place >= 0)
+        viewport()->update(0, rowViewportPosition(place), viewport()->width(), rowHeight(place));
 }
 
 int FlexGrid::TintedRow() const
@@ -356,14 +373,50 @@ void FlexGrid::ShowCurrent()
     m_setByCode = false;
 }
 
+void FlexGrid::ReplaceRow(int row, const FlexGridRows& cells)
+{
+    if (cells.Count() != 1)
+        return;
+    if (row == Rows())
+        return AppendRow(cells);
+    m_model->ReplaceRow(row - 1, cells);
+    UpdateRow(row);
+}
+
+void FlexGrid::AppendRow(const FlexGridRows& cells)
+{
+    const bool isFirst = Rows() == 1;
+    const QRect before = viewport()->geometry();
+    executeDelayedItemsLayout();
+    m_model->AppendRow(cells);
+    // By itself Qt would paint all rows anew for one that comes in behind them.
+    viewport()->setAttribute(Qt::WA_UpdatesDisabled, true);
+    executeDelayedItemsLayout();
+    viewport()->setAttribute(Qt::WA_UpdatesDisabled, false);
+    if (isFirst || viewport()->geometry() != before)
+        viewport()->update();
+    else
+        UpdateRow(Rows() - 1);
+}
+
 GridFill::GridFill(FlexGrid* grid)
     : m_grid(grid)
     , m_rows(std::make_unique<FlexGridRows>(grid->Cols()))
 {
 }
 
+GridFill::GridFill(FlexGrid* grid, int row)
+    : GridFill(grid)
+{
+    m_row = row;
+}
+
 GridFill::~GridFill()
 {
+    if (m_row > 0) {
+        m_grid->ReplaceRow(m_row, *m_rows);
+        return;
+    }
     // The selection falls to the title row with the old rows, as when they are cut off one by one.
     m_grid->SetRow(0);
     if (m_rows->Cols() > m_grid->Cols())

@@ -49,6 +49,8 @@ public:
     /// 0 for the title row and for new rows. Throws RuntimeError 381 out of range.
     qint64 RowData(int row) const;
     void SetRowData(int row, qint64 data);
+    /// The last row with this row data; 0 for none.
+    int RowOf(qint64 rowData) const;
     /// The row data of the current row.
     qint64 CurrentRowData() const { return RowData(Row()); }
 
@@ -142,6 +144,14 @@ private:
     void CheckCol(int col) const;
     /// Moves the view's own current cell to where code put it.
     void ShowCurrent();
+    /// Gives a row other cells and row data, or adds it at the end, and paints it alone.
+    void ReplaceRow(int row, const FlexGridRows& cells);
+    void AppendRow(const FlexGridRows& cells);
+    /// Paints a row anew, if it is in view.
+    void UpdateRow(int row);
+    void SetTinted(int row);
+
+    friend class GridFill;
 
     FlexGridModel* m_model;
     TitleHeader* m_header = nullptr;
@@ -163,13 +173,16 @@ private:
 };
 
 /// Fills a grid with one model reset: rows are gathered out of sight and appear together when it goes out of scope. The
-/// title row stays; all data rows are replaced, and Row is 0 until it is set.
+/// title row stays; all data rows are replaced, and Row is 0 until it is set. Or fills a single row, which bears no
+/// mark, while no filter is set.
 ///
 ///     GridFill fill(grid);
 ///     while (...) { fill.Add(number); fill.Add(name); fill.EndRow(id); }
 class GridFill {
 public:
     explicit GridFill(FlexGrid* grid);
+    /// For this row alone; a row more than there are comes in at the end.
+    GridFill(FlexGrid* grid, int row);
     ~GridFill();
     GridFill(const GridFill&) = delete;
     GridFill& operator=(const GridFill&) = delete;
@@ -188,4 +201,5 @@ public:
 private:
     FlexGrid* m_grid;
     std::unique_ptr<FlexGridRows> m_rows;
+    int m_row = 0; ///< the only one to fill; 0 for all
 };

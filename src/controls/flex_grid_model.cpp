@@ -191,6 +191,25 @@ void FlexGridModel::SetColumnCount(int cols)
     }
 }
 
+void FlexGridModel::ReplaceRow(int row, const FlexGridRows& cells)
+{
+    for (int col = 0; col < columnCount(); ++col)
+        m_rows.SetCell(row, col, cells.Cell(0, col));
+    m_rows.SetData(row, cells.Data(0));
+    m_search.Forget();
+    emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void FlexGridModel::AppendRow(const FlexGridRows& cells)
+{
+    beginInsertRows({}, Count(), Count());
+    for (int col = 0; col < cells.CellsOf(0); ++col)
+        m_rows.Add(cells.Cell(0, col));
+    m_rows.EndRow(cells.Data(0));
+    m_search.Forget();
+    endInsertRows();
+}
+
 void FlexGridModel::Replace(FlexGridRows rows)
 {
     if (rows.Cols() != columnCount())

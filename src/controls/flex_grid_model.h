@@ -50,6 +50,9 @@ public:
     /// More rows only while no filter hides any.
     void SetRowCount(int rows);
     void SetColumnCount(int cols);
+    /// The first of `cells` in place of a row, and as a row at the end, while no filter hides any.
+    void ReplaceRow(int row, const FlexGridRows& cells);
+    void AppendRow(const FlexGridRows& cells);
     /// All rows at once, with one reset.
     void Replace(FlexGridRows rows);
 

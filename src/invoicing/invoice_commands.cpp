@@ -35,11 +35,16 @@ void InvoicePage::ResetCustomer()
     OpenInvoice::gCurrentCustomerId = -1;
 }
 
+/// Within a batch.
 bool InvoicePage::AddLine(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
 {
+    FileChanges file = m_file;
+    const bool isFilled = m_linesOf == OpenInvoice::gCurrentInvoiceId && !file.Changed(*gConnection);
     if (!AddNewOrderItemToDB(itemId, quantity, discountPercent, isWarranty, unitPrice))
         return false;
-    RefreshNewInvoiceItemsList(1, 0);
+    if (!isFilled || !ShowLine(LineOfItem(itemId)))
+        RefreshNewInvoiceItemsList(1, 0);
+    m_file.Remember(*gConnection);
     return true;
 }
 
@@ -64,8 +69,15 @@ void InvoicePage::AddGroupItems()
     frmAddGroupItems::GroupItemCount = 0;
     frmAddGroupItems(cboPriceList->SelectedData(), this).ShowModal();
 
-    if (frmAddGroupItems::GroupItemCount != 0 && !AddChosenGroupItems())
-        ScanMsgBox(tr("Not all items have enough stock to be added to the invoice."), Icon::Information);
+    const bool allAdded = InBatch(*gConnection, [&] {
+        const bool all = frmAddGroupItems::GroupItemCount == 0 || AddChosenGroupItems();
+        if (all)
+            UpdateInvoiceEdit();
+        return all;
+    });
+    if (allAdded)
+        return;
+    ScanMsgBox(tr("Not all items have enough stock to be added to the invoice."), Icon::Information);
     UpdateInvoiceEdit();
 }
 
@@ -73,13 +85,11 @@ void InvoicePage::AddGroupItems()
 /// warranty state touches them.
 bool InvoicePage::AddChosenGroupItems()
 {
-    return InBatch(*gConnection, [&] {
-        bool allAdded = true;
-        for (const GroupItem& item : frmAddGroupItems::GroupItems)
-            allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
-        RefreshNewInvoiceItemsList(1, 0);
-        return allAdded;
-    });
+    bool allAdded = true;
+    for (const GroupItem& item : frmAddGroupItems::GroupItems)
+        allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
+    RefreshNewInvoiceItemsList(1, 0);
+    return allAdded;
 }
 
 qint32 InvoicePage::QuantityInRow(int row) const

@@ -3,10 +3,29 @@
 #include "base/clock.h"
 #include "base/numbers.h"
 #include "config/secondary_tax.h"
-#include "invoicing/invoice_totals.h"
 #include "records/lists.h"
 
+#include <algorithm>
 #include <iterator>
+
+namespace {
+
+ShownLine AddCells(const Recordset& line, TaxRateColumn& taxRates, GridFill& fill)
+{
+    enum { Id, Quantity, Number, Name, Amount, TaxRateName, TaxRatePercentage };
+    const Currency amount = line.Money(Amount);
+    const double taxPercentage = line[TaxRatePercentage].ToDouble();
+    const ShownLine shown{line.Long(Quantity), LineTotal(line.Long(Quantity), amount, taxPercentage)};
+    fill.Add(line.Text(Quantity));
+    fill.Add(line.Text(Number));
+    fill.Add(line.Text(Name));
+    fill.Add(FormatCurrency(amount));
+    fill.Add(taxRates.Text(line.Text(TaxRateName), taxPercentage));
+    fill.Add(FormatCurrency(shown.total));
+    return shown;
+}
+
+} // namespace
 
 void InvoicePage::ShowInvoicePage()
 {
@@ -106,24 +125,39 @@ void InvoicePage::LoadCustomerDetailsIntoInvoice(qint32 customerId)
 
 void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
 {
-    RunningTotal running;
-    m_pieces = 0;
+    m_file.Remember(*gConnection);
+    m_linesOf = OpenInvoice::gCurrentInvoiceId;
+    m_lines.clear();
     TaxRateColumn taxRates;
     gNewInvoice->LoadRows(OpenInvoice::LinesStatement(), selectRow, selectId,
-        [this, &running, &taxRates](const Recordset& line, GridFill& fill) {
-            enum { Id, Quantity, Number, Name, Amount, TaxRateName, TaxRatePercentage };
-            const Currency amount = line.Money(Amount);
-            const double taxPercentage = line[TaxRatePercentage].ToDouble();
-            const Currency lineTotal = LineTotal(line.Long(Quantity), amount, taxPercentage);
-            m_pieces += line.Long(Quantity);
-            fill.Add(line.Text(Quantity));
-            fill.Add(line.Text(Number));
-            fill.Add(line.Text(Name));
-            fill.Add(FormatCurrency(amount));
-            fill.Add(taxRates.Text(line.Text(TaxRateName), taxPercentage));
-            fill.Add(FormatCurrency(lineTotal));
-            running.Add(lineTotal);
+        [&](const Recordset& line, GridFill& fill) { m_lines.push_back(AddCells(line, taxRates, fill)); });
+    ShowFigures();
+}
+
+bool InvoicePage::ShowLine(qint64 lineId)
+{
+    const int row = gNewInvoice->RowOf(lineId);
+    TaxRateColumn taxRates;
+    const bool isShown =
+        gNewInvoice->LoadRow(OpenInvoice::LineStatement(lineId), [&](const Recordset& line, GridFill& fill) {
+            const ShownLine shown = AddCells(line, taxRates, fill);
+            if (row > 0)
+                m_lines[size_t(row) - 1] = shown;
+            else
+                m_lines.push_back(shown);
         });
+    if (!isShown)
+        return false;
+    gNewInvoice->SelectRow(std::min(1, gNewInvoice->Rows() - 1));
+    ShowFigures();
+    return true;
+}
+
+void InvoicePage::ShowFigures()
+{
+    RunningTotal running;
+    for (const ShownLine& line : m_lines)
+        running.Add(line.total);
     const InvoiceTotals totals = running.Totals();
     ShowTotals(totals.secondTax, totals.total);
     ShowWhetherItExists();

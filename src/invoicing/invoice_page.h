@@ -6,6 +6,8 @@
 #include "controls/form.h"
 #include "controls/number_box.h"
 #include "controls/text_box.h"
+#include "db/file_changes.h"
+#include "invoicing/invoice_totals.h"
 #include "invoicing/open_invoice.h"
 #include "parties/party_fields.h"
 #include "records/record_list.h"
@@ -13,6 +15,8 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+
+#include <vector>
 
 /// The invoice page: the one invoice that is open, new or old. It has no Save button and keeps no copy of the data:
 /// each control writes through when the focus leaves it, so the rows are as current as the last control left.
@@ -116,6 +120,10 @@ private:
     void PriceListChosen();
     void ShowInvoice(const InvoiceFields& invoice);
     void ShowShippedDate(const std::optional<QDate>& shipped);
+    /// Shows the one line that was added to or changed since the lines were filled. False, having done nothing, when
+    /// more may have changed.
+    bool ShowLine(qint64 lineId);
+    void ShowFigures();
     void ShowTotals(double secondTax, double total);
     void ShowWhetherItExists();
 
@@ -130,7 +138,6 @@ private:
     static void TellUnknownCode();
     void AddBarCodeItem();
     void ShowScanned(const QString& code, qint32 itemId, bool isAdded);
-    int RowOfLine(qint64 lineId) const;
     void ShowScanLine();
     void AddGroupItems();
     bool AddChosenGroupItems();
@@ -147,5 +154,7 @@ private:
 
     QWidget* m_gone = nullptr; ///< says that the invoice was deleted
     QString m_lastCode; ///< of the scans on this invoice
-    qint64 m_pieces = 0;
+    std::vector<ShownLine> m_lines; ///< one a row
+    qint32 m_linesOf = -1; ///< the invoice
+    FileChanges m_file; ///< since they were read
 };

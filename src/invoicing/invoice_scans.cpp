@@ -34,6 +34,7 @@ void InvoicePage::AddBarCodeItem()
         return;
     }
 
+    m_lastCode = code;
     const bool isAdded = InBatch(*gConnection, [&] {
         const Currency price = ListPrice(scanned->itemId, cboPriceList->SelectedData());
         return AddLine(
@@ -48,29 +49,24 @@ void InvoicePage::AddBarCodeItem()
 void InvoicePage::ShowScanned(const QString& code, qint32 itemId, bool isAdded)
 {
     PlayScanSound(isAdded ? ScanSound::Found : ScanSound::NotFound);
-    m_lastCode = code;
-    ShowScanLine();
-    if (!isAdded)
+    if (!isAdded) {
+        ShowScanLine();
         ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
-    if (const int row = RowOfLine(LineOfItem(itemId)); row > 0)
+    }
+    if (const int row = gNewInvoice->RowOf(LineOfItem(itemId)); row > 0)
         gNewInvoice->ShowTinted(row);
-}
-
-int InvoicePage::RowOfLine(qint64 lineId) const
-{
-    int row = gNewInvoice->Rows() - 1;
-    while (row > 0 && gNewInvoice->RowData(row) != lineId)
-        --row;
-    return row;
 }
 
 void InvoicePage::ShowScanLine()
 {
     constexpr int ShownOfACode = 40;
+    qint64 pieces = 0;
+    for (const ShownLine& line : m_lines)
+        pieces += line.quantity;
     if (isVisible() && !m_lastCode.isEmpty())
         emit Scanned(tr("Lines: %1   Pieces: %2   Last code: %3")
                          .arg(gNewInvoice->Rows() - 1)
-                         .arg(m_pieces)
+                         .arg(pieces)
                          .arg(m_lastCode.left(ShownOfACode)));
     else
         emit Scanned(QString());

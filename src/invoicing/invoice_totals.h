@@ -26,6 +26,12 @@ private:
     std::string m_text;
 };
 
+/// What a line adds to the figures of its invoice.
+struct ShownLine {
+    qint64 quantity = 0;
+    Currency total;
+};
+
 /// The figures under the lines, unrounded: they are rounded only where they are shown.
 struct InvoiceTotals {
     double secondTax = 0;

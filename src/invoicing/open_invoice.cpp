@@ -112,6 +112,13 @@ Sql OpenInvoice::LinesStatement()
         .Number("gCurrentInvoiceId", gCurrentInvoiceId);
 }
 
+Sql OpenInvoice::LineStatement(qint64 lineId)
+{
+    return Sql("SELECT id, quantity, number, name, amount, taxratename, taxratepercentage FROM invoiceline "
+               "WHERE id = {lineId}")
+        .Number("lineId", lineId);
+}
+
 void OpenInvoice::Save(const InvoiceCustomer& customer, const InvoiceFields& invoice)
 {
     InBatch(*gConnection, [&] {

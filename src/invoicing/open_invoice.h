@@ -58,6 +58,8 @@ public:
     static InvoiceCustomer LoadCustomer(qint32 customerId);
     /// The open invoice's lines: id, quantity, number, name, amount, and name and percentage of the tax rate.
     static Sql LinesStatement();
+    /// The same of one line.
+    static Sql LineStatement(qint64 lineId);
 
     /// Writes the customer, adding the row if the invoice has none yet, and the invoice; a row that holds all of it
     /// already is left alone. `customer.discount` goes into the statement as it is.

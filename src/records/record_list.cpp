@@ -192,6 +192,22 @@ void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter&
         SetTopRow(Row());
 }
 
+bool RecordList::LoadRow(const Sql& sql, const RowWriter& cells)
+{
+    if (!Filter().isEmpty())
+        return false;
+    const Recordset rs = gConnection->Execute(sql);
+    if (rs.Eof())
+        return true;
+    const qint64 id = rs.Long(0);
+    const int row = RowOf(id);
+    GridFill fill(this, row > 0 ? row : Rows());
+    cells(rs, fill);
+    fill.EndRow(id);
+    setAccessibleDescription({});
+    return true;
+}
+
 void RecordList::SortByTitle()
 {
     if (MouseRow() != 0 || !m_sorts)

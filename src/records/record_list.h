@@ -81,6 +81,11 @@ public:
     using RowWriter = std::function<void(const Recordset& row, GridFill& fill)>;
     void LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells);
 
+    /// Fills anew the row of the one record that `sql` selects, or adds it as the last row, and paints it alone.
+    /// Selects nothing. False, having done nothing, while a filter hides rows. Throws RuntimeError when the statement
+    /// fails.
+    bool LoadRow(const Sql& sql, const RowWriter& cells);
+
     /// After a load a selected row that was out of view comes to the top, in place of the nearest edge.
     void ShowFoundRowOnTop() { m_foundRowOnTop = true; }
 

@@ -1,8 +1,14 @@
 #include "invoice_page_fixture.h"
 
 #include "controls/status_line.h"
+#include "invoicing/customer_search.h"
 #include "invoicing/item_quantity.h"
+#include "support/files.h"
 #include "support/previews.h"
+
+#include <QtEndian>
+
+#include <utility>
 
 namespace {
 
@@ -67,6 +73,49 @@ TEST_F(InvoiceLife, FromNewInvoiceToComplete)
     OpenNew();
     EXPECT_EQ(page->lblInvoiceNo->text(), "00043");
     EXPECT_EQ(page->gNewInvoice->Rows(), 1);
+}
+
+TEST_F(InvoiceLife, EachActIsOneCommitAndWhatIsStoredAlreadyIsNone)
+{
+    Customer("Ada", "Byron").Add();
+    const int items[] = {Item("Saw").Barcode("1").Stock(9).Add(), Item("Drill").Barcode("2").Stock(9).Add()};
+    qint64 commits = 0;
+    /// The file counts them in its head.
+    const auto newCommits = [&] {
+        const qint64 before =
+            std::exchange(commits, qFromBigEndian<quint32>(ReadFile(DatabasePath()).constData() + 24));
+        return commits - before;
+    };
+    newCommits();
+    OpenNew();
+    EXPECT_EQ(newCommits(), 1);
+    WhenFormShows<frmResCustSearch>([](frmResCustSearch& form) { DoubleClickRow(form.gcust, 2); });
+    Click(page->cmdNewInvoiceCustSearch);
+    EXPECT_EQ(newCommits(), 2) << "the first save adds a customer";
+    for (const char* code : {"1", "2", "1", "2", "1"}) {
+        Scan(code);
+        EXPECT_EQ(newCommits(), 1);
+    }
+    EXPECT_EQ(page->lblTotal->text(), "$0.00");
+    EXPECT_EQ(Stock(items[0]) + Stock(items[1]), 13);
+    for (size_t control = 0; control < 40; ++control)
+        Tab();
+    EXPECT_EQ(newCommits(), 0);
+    ScriptedAnswers answers;
+    answers.Expect("Print Invoice?", Answer::No);
+    Click(page->cmdCompleteInvoice);
+    EXPECT_EQ(newCommits(), 1);
+    EXPECT_EQ(Rows("SELECT FirstName, City FROM customer"), Table({{"Ada", ""}, {"", ""}}));
+
+    Open(Single("SELECT id FROM invoice").toInt());
+    for (size_t control = 0; control < 40; ++control)
+        Tab();
+    EXPECT_EQ(newCommits(), 0);
+    Type(page->txtCity, "rome");
+    Tab();
+    Type(page->txtCity, "Rome");
+    Click(page->cmdCloseInvoice);
+    EXPECT_EQ(newCommits(), 3) << "rome, Rome and the next number";
 }
 
 TEST_F(InvoiceLife, AnEmptyPageCompletesWithACustomerOfItsOwn)

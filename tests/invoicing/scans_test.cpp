@@ -6,7 +6,10 @@
 #include "support/keyboard.h"
 
 #include <QMessageBox>
+#include <QPaintEvent>
 #include <QTest>
+
+#include <utility>
 
 namespace {
 
@@ -71,6 +74,57 @@ TEST_F(Scans, WhereverTheFocusIsOnThePageAScanAddsItsItemAndTheRestIsAsItWas)
     EXPECT_EQ(page->gNewInvoice->TintedRow(), 1);
     page->hide();
     EXPECT_EQ(scanLine, "");
+}
+
+/// How much of a widget is painted.
+class PaintedRows : public QObject {
+public:
+    explicit PaintedRows(FlexGrid* grid)
+        : m_grid(grid)
+    {
+        QCoreApplication::processEvents();
+        grid->viewport()->installEventFilter(this);
+    }
+    double Count()
+    {
+        QCoreApplication::processEvents();
+        return double(std::exchange(m_height, 0)) / m_grid->rowHeight(0);
+    }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            for (const QRect& rect : static_cast<QPaintEvent*>(event)->region())
+                m_height += rect.height();
+        return false;
+    }
+
+private:
+    FlexGrid* m_grid;
+    int m_height = 0;
+};
+
+TEST_F(Scans, OnlyTheLineOfAScanIsPaintedUnlessAnotherProgramWrote)
+{
+    for (int item = 100; item < 104; ++item)
+        Item("Nails").Barcode(QString("7%1").arg(item)).Stock(9).Price("1.10").Add();
+    SetFocus(page->txtBarcode);
+    ScannerTypes(Brush);
+    PaintedRows painted(page->gNewInvoice);
+    for (const char* code : {"7100", "7101", "7102", "7103", "7100"}) {
+        Scan(code);
+        const double rows = painted.Count();
+        EXPECT_GE(rows, 1) << code;
+        EXPECT_LE(rows, 3) << code << ": the line, and the one whose tint ends";
+    }
+    EXPECT_EQ(page->lblTotal->text(), "$8.00");
+    EXPECT_EQ(GridColumn(page->gNewInvoice), QStringList({"1", "2", "1", "1", "1"}));
+    EXPECT_EQ(page->gNewInvoice->Row(), 1);
+
+    Run("UPDATE invoiceline SET quantity = 5 WHERE itemid = " + QString::number(brush));
+    Scan("7101");
+    EXPECT_EQ(GridColumn(page->gNewInvoice), QStringList({"5", "2", "2", "1", "1"}));
+    EXPECT_EQ(page->lblTotal->text(), "$19.10");
+    EXPECT_EQ(scanLine, "Lines: 5   Pieces: 11   Last code: 7101");
 }
 
 TEST_F(Scans, ADialogOfThePageIsCancelledAndTheItemAdded)
