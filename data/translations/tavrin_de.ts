@@ -156,6 +156,10 @@
         <source>Delete customer?</source>
         <translation>Kunden löschen?</translation>
     </message>
+    <message>
+        <source>Customer %1 deleted</source>
+        <translation>Kunde %1 gelöscht</translation>
+    </message>
 </context>
 <context>
     <name>CustomerMatches</name>
@@ -437,6 +441,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Delete item?</source>
         <translation>Artikel löschen?</translation>
+    </message>
+    <message>
+        <source>Item %1 deleted</source>
+        <translation>Artikel %1 gelöscht</translation>
     </message>
     <message>
         <source>At or below the reorder level</source>
@@ -889,6 +897,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Delete Item Group?</source>
         <translation>Artikelgruppe löschen?</translation>
+    </message>
+    <message>
+        <source>Item Group %1 deleted</source>
+        <translation>Artikelgruppe %1 gelöscht</translation>
     </message>
 </context>
 <context>
@@ -1730,6 +1742,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Delete vendor?</source>
         <translation>Lieferanten löschen?</translation>
+    </message>
+    <message>
+        <source>Vendor %1 deleted</source>
+        <translation>Lieferant %1 gelöscht</translation>
     </message>
 </context>
 <context>

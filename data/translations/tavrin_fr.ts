@@ -156,6 +156,10 @@
         <source>Delete customer?</source>
         <translation>Supprimer le client ?</translation>
     </message>
+    <message>
+        <source>Customer %1 deleted</source>
+        <translation>Client %1 supprimé</translation>
+    </message>
 </context>
 <context>
     <name>CustomerMatches</name>
@@ -437,6 +441,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Delete item?</source>
         <translation>Supprimer l&apos;article ?</translation>
+    </message>
+    <message>
+        <source>Item %1 deleted</source>
+        <translation>Article %1 supprimé</translation>
     </message>
     <message>
         <source>At or below the reorder level</source>
@@ -889,6 +897,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Delete Item Group?</source>
         <translation>Supprimer le groupe d&apos;articles ?</translation>
+    </message>
+    <message>
+        <source>Item Group %1 deleted</source>
+        <translation>Groupe d&apos;articles %1 supprimé</translation>
     </message>
 </context>
 <context>
@@ -1730,6 +1742,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Delete vendor?</source>
         <translation>Supprimer le fournisseur ?</translation>
+    </message>
+    <message>
+        <source>Vendor %1 deleted</source>
+        <translation>Fournisseur %1 supprimé</translation>
     </message>
 </context>
 <context>

@@ -137,6 +137,7 @@ void InventoryList::DeleteItem()
         .question = tr("Delete item?"),
         // The item's prices, custom fields and group memberships stay behind.
         .remove = "DELETE FROM item WHERE id = {id}",
+        .done = tr("Item %1 deleted").arg(gInventory->CellText(gInventory->Row(), "name")),
     };
     if (DeleteRecord(deletion, gInventory->CurrentRowData()))
         RefreshInventoryList(1, 0);

@@ -70,6 +70,7 @@ void ItemGroups::DeleteGroup()
         .inUseTitle = tr("Cannot delete Item Group."),
         .question = tr("Delete Item Group?"),
         .remove = "DELETE FROM itemgroup WHERE id = {id}",
+        .done = tr("Item Group %1 deleted").arg(gItemGroups->CellText(gItemGroups->Row(), "name")),
     };
     if (DeleteRecord(deletion, gItemGroups->CurrentRowData()))
         LoadInPlace();

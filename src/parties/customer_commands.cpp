@@ -30,7 +30,7 @@ void EditCustomer(qint64 customerId, QWidget* parent)
     frmCustomer(parent).ShowModal();
 }
 
-bool DeleteCustomer(qint64 customerId)
+bool DeleteCustomer(qint64 customerId, const QString& name)
 {
     const RowDeletion deletion{
         .uses = "SELECT count(*) FROM customer, invoice WHERE invoice.customerid = customer.id AND customer.id={id} ",
@@ -39,6 +39,7 @@ bool DeleteCustomer(qint64 customerId)
         .inUseTitle = CustomerCommands::tr("Cannot delete customer."),
         .question = CustomerCommands::tr("Delete customer?"),
         .remove = "DELETE FROM customer WHERE id = {id}",
+        .done = CustomerCommands::tr("Customer %1 deleted").arg(name),
     };
     return DeleteRecord(deletion, customerId);
 }

@@ -10,5 +10,5 @@ void AddCustomer(QWidget* parent);
 /// 32767.
 void EditCustomer(qint64 customerId, QWidget* parent);
 /// Deletes the customer after asking. Returns false, having written nothing, for an id of 0 or -1, after telling that
-/// the customer has invoices, and when the user said no.
-bool DeleteCustomer(qint64 customerId);
+/// the customer has invoices, and when the user said no. `name` is for the status line.
+bool DeleteCustomer(qint64 customerId, const QString& name);

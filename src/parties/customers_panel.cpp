@@ -82,6 +82,6 @@ void CustomersPanel::EditSelected()
 
 void CustomersPanel::DeleteSelected()
 {
-    if (DeleteCustomer(gcust->CurrentRowData()))
+    if (DeleteCustomer(gcust->CurrentRowData(), gcust->CellText(gcust->Row(), "firstname")))
         LoadInPlace();
 }

@@ -161,7 +161,7 @@ void frmFindCustomer::EditSelected()
 
 void frmFindCustomer::DeleteSelected()
 {
-    if (DeleteCustomer(gcust->CurrentRowData()))
+    if (DeleteCustomer(gcust->CurrentRowData(), gcust->CellText(gcust->Row(), "firstname")))
         RefreshCustomerScreen(gcust->Row(), 0);
 }
 

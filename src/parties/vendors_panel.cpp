@@ -77,6 +77,7 @@ void VendorsPanel::DeleteSelected()
         .inUseTitle = tr("Cannot delete vendor."),
         .question = tr("Delete vendor?"),
         .remove = "DELETE FROM vendor WHERE id = {id}",
+        .done = tr("Vendor %1 deleted").arg(gVendors->CellText(gVendors->Row(), "businessname")),
     };
     if (DeleteRecord(deletion, gVendors->CurrentRowData()))
         LoadInPlace();

@@ -1,5 +1,6 @@
 #include "records/row_deletion.h"
 
+#include "controls/status_line.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 
@@ -15,5 +16,6 @@ bool DeleteRecord(const RowDeletion& deletion, qint64 id)
         return false;
     // What else points at the record and was not counted stays behind.
     gConnection->Execute(Sql(deletion.remove).Number("id", id));
+    ShowStatus(deletion.done);
     return true;
 }

@@ -10,6 +10,7 @@ struct RowDeletion {
     QString inUseTitle;
     QString question;
     const char* remove;
+    QString done; ///< for the status line
 };
 
 /// Deletes the record after asking. Returns false, having written nothing, for an id of 0 or -1, which is no record,

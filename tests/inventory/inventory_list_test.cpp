@@ -1,3 +1,4 @@
+#include "controls/status_line.h"
 #include "inventory/inventory_list.h"
 #include "inventory_test.h"
 
