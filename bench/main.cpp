@@ -9,7 +9,8 @@
 #include <cstring>
 
 /// usage: bench_tavrin [SUBJECT] FOLDER, with SUBJECT one of
-///     --start --memory --statements --lists --scans --reports --fan-out --import --statistics --charts --exports
+///     --start --memory --statements --lists --scans --invoices --receiving --reports --fan-out --import --statistics
+///     --charts --exports
 /// Measures the program over the db.mdb in FOLDER, and beside it its own statements straight on the engine: one
 /// subject, or all but the statistics, which take too little time to compare over any but a very large file. Adds lines
 /// to that file. Exit status 1: something was above its limit.
@@ -24,6 +25,8 @@ constexpr Subject Subjects[] = {
     {"--statements", MeasureStatementOverhead},
     {"--lists", MeasureLists},
     {"--scans", MeasureScans},
+    {"--invoices", MeasureInvoices},
+    {"--receiving", MeasureReceiving},
     {"--reports", MeasureReports},
     {"--fan-out", MeasureFanOut},
     {"--import", MeasureImport},
@@ -46,7 +49,8 @@ int main(int argc, char* argv[])
     QElapsedTimer sinceStart;
     sinceStart.start();
     if (argc != 2 && argc != 3) {
-        std::fputs("usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --reports | --fan-out "
+        std::fputs("usage: bench_tavrin [--start | --memory | --statements | --lists | --scans | --invoices | "
+                   "--receiving | --reports | --fan-out "
                    "| --import | --statistics | --charts | --exports] FOLDER\n",
             stderr);
         return 2;

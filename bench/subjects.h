@@ -9,6 +9,8 @@ class RunningProgram;
 void MeasureStatementOverhead(RunningProgram& program);
 void MeasureLists(RunningProgram& program);
 void MeasureScans(RunningProgram& program);
+void MeasureInvoices(RunningProgram& program);
+void MeasureReceiving(RunningProgram& program);
 void MeasureReports(RunningProgram& program);
 void MeasureFanOut(RunningProgram& program);
 void MeasureImport(RunningProgram& program);
