@@ -361,8 +361,10 @@ private:
         const bool isThere = !modal || modal == taker.screen->window();
         if (!isThere && !isClosable)
             return Arrived(taker);
-        // What opened a dialog that was just closed has to come to its end first.
-        if (QThread::currentThread()->loopLevel() < m_closedIn) {
+        // What opened a dialog that was just closed has to come to its end first. A click may have opened another
+        // since.
+        const bool isNew = !isThere && modal != m_below;
+        if (isNew || QThread::currentThread()->loopLevel() < m_closedIn) {
             if (isThere) {
                 Arrived(taker);
                 return Take(taker.calls, code);
@@ -378,6 +380,7 @@ private:
                 static_cast<QMessageBox*>(modal)->accept();
             if (modal->isVisible())
                 return Arrived(taker);
+            m_below = QApplication::activeModalWidget();
         }
         QTimer::singleShot(0, this, [this, taker, code] { GoOn(taker, code); });
     }
@@ -424,6 +427,7 @@ private:
 
     bool m_isOnItsWay = false;
     QPointer<QWidget> m_arrivedIn;
+    QPointer<QWidget> m_below; ///< the dialog under the one that was closed
     int m_closedIn = INT_MAX; ///< the level of the event loop that closes
 };
 

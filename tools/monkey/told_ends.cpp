@@ -1,0 +1,27 @@
+#include "told_ends.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+struct ToldEnd {
+    const char* text; ///< a pattern of the box's text
+    const char* reason;
+};
+
+constexpr ToldEnd ToldEnds[] = {
+    {"Syntax error.* LIKE '%", "an apostrophe in a search for customers"},
+    {"Syntax error.* barcode = '", "an apostrophe in a bar code"},
+    {"Syntax error in date in query expression .*invoice\\.SubmittedDate",
+        "invoices are looked for from or to a day alone"},
+};
+
+} // namespace
+
+QString ReasonToEnd(const QString& boxText)
+{
+    for (const ToldEnd& end : ToldEnds)
+        if (boxText.contains(QRegularExpression(QLatin1String(end.text))))
+            return QString::fromLatin1(end.reason);
+    return {};
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Why the program may end with the error box of this text; "" where it may not.
+QString ReasonToEnd(const QString& boxText);
