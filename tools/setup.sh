@@ -4,7 +4,7 @@
 # helps.
 
 BuildPackages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools
-    qt6-l10n-tools libsqlite3-dev libgtest-dev libgl1-mesa-dev)
+    qt6-l10n-tools libsqlite3-dev libicu-dev libgtest-dev libgl1-mesa-dev)
 # The last three write what the Liberation fonts lack: the screen's own face and Arabic, Chinese with Japanese and Korean,
 # Devanagari.
 RunPackages=(libqt6svg6 libqt6sql6-sqlite fonts-liberation fonts-dejavu-core fonts-droid-fallback fonts-lohit-deva)

@@ -88,6 +88,19 @@ void Convert(sqlite3_context* context, sqlite3_value** arguments)
     ConvertNumber(context, kind, CDbl(QString::fromUtf8(text.data(), qsizetype(text.size()))));
 }
 
+/// Nothing comes before the empty key that Null has; as a key it keeps the engine's sorter on its short way, which a
+/// Null would end.
+void SortKey(sqlite3_context* context, sqlite3_value** arguments)
+{
+    if (IsNull(arguments[0]))
+        return sqlite3_result_text(context, "", 0, SQLITE_STATIC);
+    if (sqlite3_value_type(arguments[0]) != SQLITE_TEXT)
+        return sqlite3_result_value(context, arguments[0]);
+    auto* order = static_cast<LocaleOrder*>(sqlite3_user_data(context));
+    const std::string_view key = order->Key(TextOf(arguments[0]));
+    sqlite3_result_text(context, key.data(), int(key.size()), SQLITE_TRANSIENT);
+}
+
 /// What a function throws becomes the failure of its statement: it must not cross the engine's frames.
 template <void (*Function)(sqlite3_context*, sqlite3_value**)>
 void Guarded(sqlite3_context* context, int, sqlite3_value** arguments)
@@ -120,19 +133,19 @@ int CompareTexts(void* order, int leftSize, const void* left, int rightSize, con
 void RegisterEngineFunctions(sqlite3* handle)
 {
     constexpr int Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-    const auto add = [handle](const char* name, int arguments, auto* function) {
-        if (sqlite3_create_function_v2(handle, name, arguments, Flags, nullptr, function, nullptr, nullptr, nullptr)
-            != SQLITE_OK)
+    const auto check = [handle](int result) {
+        if (result != SQLITE_OK)
             throw EngineError(handle);
+    };
+    const auto add = [&](const char* name, int arguments, auto* function) {
+        check(sqlite3_create_function_v2(handle, name, arguments, Flags, nullptr, function, nullptr, nullptr, nullptr));
     };
     add(LikeFunction, 2, Guarded<Like>);
     add(FoldFunction, 1, Guarded<Fold>);
     add(ConvertFunction, 2, Guarded<Convert>);
-    auto order = std::make_unique<LocaleOrder>(Regional());
-    if (sqlite3_create_collation_v2(handle, LocaleCollation, SQLITE_UTF8, order.get(), CompareTexts,
-            [](void* old) { delete static_cast<LocaleOrder*>(old); })
-        != SQLITE_OK)
-        throw EngineError(handle);
-    // The engine owns it from now on.
-    static_cast<void>(order.release());
+    // The engine owns the order, and lets it go with the function or when it cannot take it.
+    LocaleOrder* order = std::make_unique<LocaleOrder>(Regional()).release();
+    check(sqlite3_create_function_v2(handle, SortKeyFunction, 1, Flags, order, Guarded<SortKey>, nullptr, nullptr,
+        [](void* old) { delete static_cast<LocaleOrder*>(old); }));
+    check(sqlite3_create_collation_v2(handle, LocaleCollation, SQLITE_UTF8, order, CompareTexts, nullptr));
 }

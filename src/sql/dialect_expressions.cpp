@@ -402,5 +402,5 @@ Expression ExpressionReader::ReadAggregate(const std::string& name)
 
 std::string SortSql(const Expression& expression)
 {
-    return expression.kind == Kind::Text ? expression.sql + " COLLATE " + LocaleCollation : expression.sql;
+    return expression.kind == Kind::Text ? SortKeyFunction + ("(" + expression.sql + ")") : expression.sql;
 }

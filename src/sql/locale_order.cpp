@@ -1,128 +1,153 @@
 #include "sql/locale_order.h"
 
 #include <QLocale>
-#include <QString>
 
 #include <algorithm>
-#include <vector>
+#include <new>
+
+#include <unicode/ucol.h>
 
 namespace {
 
-constexpr char FirstPrinting = ' ';
-constexpr char LastPrinting = '~';
+/// Longer texts take the long way.
+constexpr size_t LongestPlain = 200;
+/// Ends the weights of the letters in a key, with those of their accents behind it or none.
+constexpr std::string_view LevelEnds("\x01\0", 2);
 
 bool IsIgnored(QChar c)
 {
     return c == u'-' || c == u'\'';
 }
 
-QString WithoutIgnored(const QString& text)
+QString WithoutIgnored(std::string_view text)
 {
-    QString rest = text;
+    QString rest = QString::fromUtf8(text.data(), qsizetype(text.size()));
     return rest.removeIf(IsIgnored);
 }
 
-QString Decode(std::string_view text)
+UCollator* OpenCollator(const QLocale& locale)
 {
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    UCollator* collator = ucol_open(locale.bcp47Name().replace(u'-', u'_').toLatin1().constData(), &status);
+    ucol_setAttribute(collator, UCOL_NORMALIZATION_MODE, UCOL_ON, &status);
+    // Blanks and signs count in every language. Accents do, too, but case does not.
+    ucol_setAttribute(collator, UCOL_ALTERNATE_HANDLING, UCOL_NON_IGNORABLE, &status);
+    ucol_setAttribute(collator, UCOL_STRENGTH, UCOL_SECONDARY, &status);
+    if (U_SUCCESS(status))
+        return collator;
+    ucol_close(collator);
+    throw std::bad_alloc();
 }
 
-int Sign(int difference)
+/// In the order in which they are wanted: where two do not go together the first one stays.
+std::vector<char> PlainCharacters()
 {
-    return (difference > 0) - (difference < 0);
+    std::vector<char> characters;
+    for (char c = ' '; c <= '~'; ++c) {
+        if (!IsIgnored(QLatin1Char(c)))
+            characters.push_back(c);
+    }
+    std::stable_partition(
+        characters.begin(), characters.end(), [](char c) { return c == ' ' || QChar::isLetterOrNumber(char32_t(c)); });
+    return characters;
 }
 
 } // namespace
 
 LocaleOrder::LocaleOrder(const QLocale& locale)
-    : m_collator(locale)
+    : m_collator(OpenCollator(locale), ucol_close)
 {
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-    RankPlainCharacters();
-    m_plainByRank = RanksAgreeWithCollator();
+    LearnPlainWeights();
 }
 
-/// Most texts hold plain characters only. Their order is a table's, many times faster than the collator.
-void LocaleOrder::RankPlainCharacters()
+LocaleOrder::~LocaleOrder() = default;
+
+/// Most texts hold plain characters only. Their keys are put together from a table, many times faster than by the
+/// locale's rules. Some languages sort pairs of letters as one, such as "ch": such letters have no place in it.
+void LocaleOrder::LearnPlainWeights()
 {
-    std::vector<QString> characters;
-    for (char c = FirstPrinting; c <= LastPrinting; ++c) {
-        if (!IsIgnored(QLatin1Char(c)))
-            characters.emplace_back(QLatin1Char(c));
+    QString digits;
+    for (size_t length = 0; length <= LongestPlain; ++length, digits += u'0') {
+        const std::string key = CollatorKey(digits);
+        m_ends.push_back(key.substr(key.find_first_of(LevelEnds)));
     }
-    std::stable_sort(characters.begin(), characters.end(),
-        [this](const QString& a, const QString& b) { return m_collator.compare(a, b) < 0; });
-    unsigned char rank = 1;
-    for (size_t i = 0; i < characters.size(); ++i) {
-        if (i > 0 && m_collator.compare(characters[i - 1], characters[i]) != 0)
-            ++rank;
-        m_ranks[characters[i][0].unicode()] = rank;
+    std::vector<char> independent;
+    for (const char character : PlainCharacters()) {
+        const std::string key = CollatorKey(QString(QLatin1Char(character)));
+        const size_t size = key.find_first_of(LevelEnds);
+        Weight& weight = m_weights[size_t(character)];
+        if (size == 0 || size > weight.bytes.size() || key.substr(size) != m_ends[1])
+            continue;
+        std::copy_n(key.begin(), size, weight.bytes.begin());
+        weight.size = static_cast<unsigned char>(size);
+        independent.push_back(character);
+        if (!IsIndependent(character, independent)) {
+            weight.size = 0;
+            independent.pop_back();
+        }
     }
 }
 
-/// Some languages sort pairs of letters as one, such as "ch", or a letter as a variant of another, which counts only
-/// between words that are otherwise equal. There the collator does all the work.
-bool LocaleOrder::RanksAgreeWithCollator() const
+/// True when the character adds the same before and behind each of them.
+bool LocaleOrder::IsIndependent(char character, const std::vector<char>& others)
 {
-    const auto agree = [this](std::string_view left, std::string_view right) {
-        return Sign(CompareByRank(left, right)) == Sign(CompareByCollator(left, right));
-    };
-    for (char first = FirstPrinting; first <= LastPrinting; ++first) {
-        for (char second = FirstPrinting; second <= LastPrinting; ++second) {
-            const char pair[] = {first, second};
-            const char one[] = {second};
-            if (!agree({pair, 2}, {one, 1}))
-                return false;
-        }
+    std::string inTurn;
+    for (const char other : others)
+        inTurn.append(1, character).append(1, other);
+    m_key.clear();
+    return AppendPlainKey(inTurn) && m_key == CollatorKey(QString::fromLatin1(inTurn));
+}
+
+bool LocaleOrder::AppendPlainKey(std::string_view text)
+{
+    if (text.size() > LongestPlain)
+        return false;
+    size_t count = 0;
+    for (const char c : text) {
+        if (IsIgnored(QLatin1Char(c)))
+            continue;
+        if (static_cast<unsigned char>(c) >= m_weights.size() || m_weights[size_t(c)].size == 0)
+            return false;
+        const Weight& weight = m_weights[size_t(c)];
+        m_key.append(weight.bytes.data(), weight.size);
+        ++count;
     }
-    for (char first = 'a'; first <= 'z'; ++first) {
-        for (char second = 'a'; second <= 'z'; ++second) {
-            const char pair[] = {first, second};
-            const char next[] = {first, 'z'};
-            const char below[] = {first, 'a', 'z'};
-            if (!agree({pair, 2}, {next, 2}) || !agree({pair, 2}, {below, 3}))
-                return false;
-        }
-    }
+    m_key += m_ends[count];
     return true;
 }
 
-int LocaleOrder::CompareByRank(std::string_view left, std::string_view right) const
+std::string LocaleOrder::CollatorKey(QStringView text) const
 {
-    const auto skip = [this](std::string_view text, size_t at) {
-        while (at < text.size() && m_ranks[uchar(text[at])] == 0)
-            ++at;
-        return at;
+    // A text without any character comes before one of characters that do not count.
+    if (text.isEmpty())
+        return std::string(1, '\0');
+    std::string key(size_t(2 * text.size()) + 16, '\0');
+    const auto write = [&] {
+        return size_t(ucol_getSortKey(m_collator.get(), text.utf16(), int32_t(text.size()),
+            reinterpret_cast<uint8_t*>(key.data()), int32_t(key.size())));
     };
-    size_t l = skip(left, 0);
-    size_t r = skip(right, 0);
-    while (l < left.size() && r < right.size()) {
-        const int difference = m_ranks[uchar(left[l])] - m_ranks[uchar(right[r])];
-        if (difference != 0)
-            return difference;
-        l = skip(left, l + 1);
-        r = skip(right, r + 1);
-    }
-    const int longer = int(l < left.size()) - int(r < right.size());
-    return longer;
+    const size_t size = write();
+    const bool fits = size <= key.size();
+    key.resize(size);
+    if (!fits)
+        write();
+    return key;
 }
 
-int LocaleOrder::CompareByCollator(std::string_view left, std::string_view right) const
+std::string_view LocaleOrder::Key(std::string_view text)
 {
-    return m_collator.compare(WithoutIgnored(Decode(left)), WithoutIgnored(Decode(right)));
+    m_key.clear();
+    if (!AppendPlainKey(text))
+        m_key = CollatorKey(WithoutIgnored(text));
+    const auto ignored = std::count_if(text.begin(), text.end(), [](char c) { return IsIgnored(QLatin1Char(c)); });
+    if (ignored > 0)
+        for (int shift = 24; shift >= 0; shift -= 8)
+            m_key.push_back(char(ignored >> shift));
+    return m_key;
 }
 
-int LocaleOrder::Compare(std::string_view left, std::string_view right) const
+int LocaleOrder::Compare(std::string_view left, std::string_view right)
 {
-    const auto isPlain = [](char c) { return c >= FirstPrinting; };
-    const bool plain = m_plainByRank && std::all_of(left.begin(), left.end(), isPlain)
-        && std::all_of(right.begin(), right.end(), isPlain);
-    const int order = plain ? CompareByRank(left, right) : CompareByCollator(left, right);
-    if (order != 0)
-        return order;
-    const auto isHyphenOrApostrophe = [](char c) { return c == '-' || c == '\''; };
-    const auto count = [&](std::string_view text) {
-        return std::count_if(text.begin(), text.end(), isHyphenOrApostrophe);
-    };
-    return int(count(left) - count(right));
+    const std::string leftKey(Key(left));
+    return leftKey.compare(Key(right));
 }
