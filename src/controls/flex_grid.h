@@ -94,6 +94,8 @@ public:
     int ShownRows() const;
     /// Lets this row show also where the filter hides it, until the rows or the filter change.
     void Reveal(int row);
+    /// Hides again what was revealed.
+    void FilterAnew();
 
     /// The column where what is typed into the list goes to the next row that begins so; -1 for none.
     void SetSearchColumn(int col) { m_searchColumn = col; }

@@ -116,6 +116,7 @@ QString FlexGridModel::ShownText(int row, int col) const
 
 void FlexGridModel::SetText(int row, int col, const QString& text)
 {
+    ++m_rowChanges;
     m_rows.SetCell(row, col, text.toStdString());
     const QModelIndex cell = index(row, col);
     emit dataChanged(cell, cell);
@@ -123,6 +124,7 @@ void FlexGridModel::SetText(int row, int col, const QString& text)
 
 void FlexGridModel::SetRowData(int row, qint64 data)
 {
+    ++m_rowChanges;
     m_rows.SetData(row, data);
 }
 
@@ -154,6 +156,7 @@ void FlexGridModel::SetMark(int col, const QString& meaning)
 void FlexGridModel::SetRowCount(int rows)
 {
     const int before = Count();
+    ++m_rowChanges;
     if (rows < before) {
         const int shownBefore = rowCount();
         const int shown = ShownAmong(rows);
@@ -175,6 +178,7 @@ void FlexGridModel::SetRowCount(int rows)
 void FlexGridModel::SetColumnCount(int cols)
 {
     const int before = columnCount();
+    ++m_rowChanges;
     const auto change = [&] {
         m_columns.resize(size_t(cols));
         m_rows.SetCols(cols);
@@ -193,6 +197,7 @@ void FlexGridModel::SetColumnCount(int cols)
 
 void FlexGridModel::ReplaceRow(int row, const FlexGridRows& cells)
 {
+    ++m_rowChanges;
     for (int col = 0; col < columnCount(); ++col)
         m_rows.SetCell(row, col, cells.Cell(0, col));
     m_rows.SetData(row, cells.Data(0));
@@ -202,6 +207,7 @@ void FlexGridModel::ReplaceRow(int row, const FlexGridRows& cells)
 
 void FlexGridModel::AppendRow(const FlexGridRows& cells)
 {
+    ++m_rowChanges;
     beginInsertRows({}, Count(), Count());
     for (int col = 0; col < cells.CellsOf(0); ++col)
         m_rows.Add(cells.Cell(0, col));
@@ -215,6 +221,7 @@ void FlexGridModel::Replace(FlexGridRows rows)
     if (rows.Cols() != columnCount())
         rows.SetCols(columnCount());
     beginResetModel();
+    ++m_rowChanges;
     m_rows = std::move(rows);
     m_search.Forget();
     FindShown();
@@ -252,6 +259,15 @@ void FlexGridModel::Reveal(int row)
     beginInsertRows({}, place, place);
     m_shown.insert(m_shown.begin() + place, row);
     endInsertRows();
+}
+
+void FlexGridModel::FilterAnew()
+{
+    if (!IsFiltered())
+        return;
+    beginResetModel();
+    FindShown();
+    endResetModel();
 }
 
 int FlexGridModel::ShownAmong(int rows) const

@@ -55,6 +55,8 @@ public:
     void AppendRow(const FlexGridRows& cells);
     /// All rows at once, with one reset.
     void Replace(FlexGridRows rows);
+    /// Another number after each change of the rows.
+    int RowChanges() const { return m_rowChanges; }
 
     /// With one reset; "" lets all rows show.
     void SetFilter(const QString& words);
@@ -62,6 +64,8 @@ public:
     bool IsFiltered() const { return !m_words.isEmpty(); }
     /// Lets a row show that the filter hides, until the rows or the filter change.
     void Reveal(int row);
+    /// Hides again what was revealed.
+    void FilterAnew();
     int RowAt(int place) const { return IsFiltered() ? m_shown[size_t(place)] : place; }
     /// The place of the row, or where it is hidden of the next that shows, or else the last; -1 when none shows.
     int NearestPlace(int row) const;
@@ -88,6 +92,7 @@ private:
     void FindShown();
 
     FlexGridRows m_rows;
+    int m_rowChanges = 0;
     std::vector<Column> m_columns;
     int m_tinted = -1;
     int m_markedColumn = -1;

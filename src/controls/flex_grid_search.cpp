@@ -32,6 +32,13 @@ void FlexGrid::Reveal(int row)
         m_model->Reveal(row - 1);
 }
 
+void FlexGrid::FilterAnew()
+{
+    m_setByCode = true;
+    m_model->FilterAnew();
+    m_setByCode = false;
+}
+
 void FlexGrid::EnterRows()
 {
     setFocus(Qt::OtherFocusReason);

@@ -55,11 +55,14 @@ InventoryList::InventoryList(QWidget* parent)
         {"tname", tr("Tax Rate"), 1100, CellAlign::RightCenter, CellAlign::RightCenter, "taxrate.name"},
         {"noinstock", tr("In Stock"), 1600, CellAlign::CenterTop, CellAlign::RightCenter, "noinstock", Spare::No,
             [this](const Recordset& item, int noInStock, GridFill& fill) {
-                if (m_toReorder.count(item.Long(Id)) > 0)
+                if (!m_toReorder)
+                    m_toReorder = ItemsToReorder();
+                if (m_toReorder->count(item.Long(Id)) > 0)
                     fill.MarkRow();
                 fill.Add(item.Text(noInStock));
             }},
     });
+    ShowTotal();
     gInventory->SetMarkOf("noinstock", tr("At or below the reorder level"));
 
     TitleLabel()->setObjectName(QStringLiteral("Label1_16"));
@@ -75,7 +78,7 @@ InventoryList::InventoryList(QWidget* parent)
 
     ShowList(gInventory, {cmdEditInventory, cmdAddInventory, cmdDeleteInventory},
         [this](int row, qint64 selectId) { RefreshInventoryList(row, selectId); });
-    On(cboInvoicePriceList, &ComboBox::Click, this, &InventoryList::LoadInPlace);
+    On(cboInvoicePriceList, &ComboBox::Click, this, &InventoryList::LoadIfSeen);
     On(cmdAddInventory, &QPushButton::clicked, this, &InventoryList::AddItem);
     On(cmdEditInventory, &QPushButton::clicked, this, &InventoryList::EditItem);
     On(cmdDeleteInventory, &QPushButton::clicked, this, &InventoryList::DeleteItem);
@@ -94,17 +97,27 @@ void InventoryList::RefreshInventoryList(int row, qint64 selectId)
                                            "Item.TaxRateID) LEFT JOIN ItemPriceList ON Item.ID = "
                                            "ItemPriceList.ItemID "),
             "ORDER BY item.name");
-    m_toReorder = ItemsToReorder();
     // The price list is chosen here and not in the statement: an item without any price shows in every list, one with
     // prices in other lists alone in none. With no rows to choose from it does not matter that no list is chosen.
+    const bool isChosen = cboInvoicePriceList->ListIndex() >= 0;
+    const QString choice = isChosen ? QString::number(cboInvoicePriceList->SelectedData()) : QString();
     std::optional<qint64> chosen;
-    gInventory->LoadSome(items, row, selectId, [&](const Recordset& item) {
-        if (!chosen)
-            chosen = cboInvoicePriceList->SelectedData();
-        return item.IsNull(PriceListId) || item.Long(PriceListId) == *chosen;
-    });
-    m_toReorder.clear();
+    m_toReorder.reset();
+    gInventory->LoadSome(
+        items, row, selectId,
+        [&](const Recordset& item) {
+            if (!chosen)
+                chosen = cboInvoicePriceList->SelectedData();
+            return item.IsNull(PriceListId) || item.Long(PriceListId) == *chosen;
+        },
+        choice);
+    m_toReorder.reset();
 
+    ShowTotal();
+}
+
+void InventoryList::ShowTotal()
+{
     lblInventoryTotal->setText(tr("%1 items.").arg(gInventory->Rows() - 1));
 }
 
@@ -150,7 +163,14 @@ void InventoryList::FillInvoicePriceLists()
 
 void InventoryList::ShowFirstPriceList()
 {
-    SelectIgnoring(cboInvoicePriceList, 0, [this] { LoadInPlace(); });
+    SelectIgnoring(cboInvoicePriceList, 0, [this] { LoadIfSeen(); });
+}
+
+/// The view is always filled when it comes up: out of sight the start of the program would wait for nothing.
+void InventoryList::LoadIfSeen()
+{
+    if (isVisible())
+        LoadInPlace();
 }
 
 void InventoryList::RefillInvoicePriceLists()

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <optional>
 #include <unordered_set>
 
 /// The inventory view: every item with its price in one chosen price list, its tax rate and its stock. The door to the
@@ -33,16 +34,19 @@ public:
 
     /// Reads the price lists anew and selects none.
     void FillInvoicePriceLists();
-    /// Selects the first of them, which loads the list. A failure is dropped: without price lists it stays empty.
+    /// Selects the first of them, which loads the list where it shows. A failure is dropped: without price lists it
+    /// stays empty.
     void ShowFirstPriceList();
-    /// Reads the price lists anew and selects the first by name, which reloads the list. For when price lists may have
-    /// changed.
+    /// Reads the price lists anew and selects the first by name, which reloads the list where it shows. For when price
+    /// lists may have changed.
     void RefillInvoicePriceLists();
 
 private:
+    void LoadIfSeen();
+    void ShowTotal();
     void EditItem();
     void DeleteItem();
     void ShowItemRecord(qint32 itemId);
 
-    std::unordered_set<qint64> m_toReorder; ///< while the list loads
+    std::optional<std::unordered_set<qint64>> m_toReorder; ///< while the list loads
 };

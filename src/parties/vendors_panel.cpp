@@ -37,7 +37,6 @@ VendorsPanel::VendorsPanel(QWidget* parent)
 
 void VendorsPanel::RefreshVendorList(int row, qint64 selectId)
 {
-    gVendors->SetRows(1);
     gConnection->Execute("SELECT count(*) FROM item").Close();
     gVendors->Load(
         gVendors->Ordered(QStringLiteral("SELECT id, businessname, contactname, phone FROM vendor WHERE id <> 1 "),

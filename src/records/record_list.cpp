@@ -1,7 +1,9 @@
 #include "records/record_list.h"
 
 #include "base/numbers.h"
+#include "base/regional_formats.h"
 #include "base/settings_store.h"
+#include "controls/flex_grid_model.h"
 
 #include <algorithm>
 #include <cstring>
@@ -47,6 +49,7 @@ RecordList::RecordList(QWidget* parent)
 void RecordList::SetColumns(const QList<ListColumn>& columns)
 {
     m_columns = columns;
+    m_source = {};
     m_sorts = std::any_of(columns.begin(), columns.end(), [](const ListColumn& column) { return column.order; });
     SetCols(int(columns.size()));
     for (int col = 0; col < Cols(); ++col)
@@ -134,17 +137,25 @@ Sql RecordList::Ordered(const QString& head, const char* defaultOrder) const
 
 void RecordList::Load(const Sql& sql, int row, qint64 selectId)
 {
-    LoadSome(sql, row, selectId, nullptr);
+    LoadSome(sql, row, selectId, nullptr, {});
 }
 
-void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown)
+void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const QString& choice)
 {
+    const RedrawOff redraw(this);
+    ShowOrder();
+    if (Holds(SourceNow(sql, choice))) {
+        FilterAnew();
+        return SelectLoaded(row, RowOf(selectId));
+    }
+
     struct Cell {
         int field;
         CellWriter write;
     };
     std::vector<Cell> cells;
-    Fill(sql, row, selectId, isShown, [&](const Recordset& rs, GridFill& fill) {
+    m_source = {};
+    const int found = Fill(sql, selectId, isShown, [&](const Recordset& rs, GridFill& fill) {
         if (cells.empty())
             for (const ListColumn& column : m_columns)
                 cells.push_back({rs.Field(column.field), column.cell});
@@ -155,37 +166,53 @@ void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFil
                 fill.Add(rs.Text(cell.field));
         }
     });
+    m_source = SourceNow(sql, choice);
+    SelectLoaded(row, found);
 }
 
 void RecordList::LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells)
 {
-    Fill(sql, row, selectId, nullptr, cells);
-}
-
-void RecordList::Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells)
-{
     const RedrawOff redraw(this);
     ShowOrder();
+    m_source = {};
+    SelectLoaded(row, Fill(sql, selectId, nullptr, cells));
+}
+
+RecordList::Source RecordList::SourceNow(const Sql& sql, const QString& choice) const
+{
+    return {sql.Filled(), choice, Formats().generation, Model()->RowChanges()};
+}
+
+bool RecordList::Holds(const Source& source)
+{
+    // Asked in any case: from now on it tells what has changed since this load.
+    const bool fileChanged = m_file.Changed(*gConnection);
+    return !fileChanged && source == m_source;
+}
+
+int RecordList::Fill(const Sql& sql, qint64 selectId, const RowFilter& isShown, const RowWriter& cells)
+{
     SetRows(1);
-    bool isFound = false;
-    {
-        GridFill fill(this);
-        for (Recordset rs = gConnection->Execute(sql); !rs.Eof(); rs.MoveNext()) {
-            if (isShown && !isShown(rs))
-                continue;
-            cells(rs, fill);
-            const qint64 id = rs.Long(0);
-            const int counter = fill.EndRow(id);
-            if (id != selectId)
-                continue;
-            row = counter;
-            isFound = true;
-        }
+    int found = 0;
+    GridFill fill(this);
+    for (Recordset rs = gConnection->Execute(sql); !rs.Eof(); rs.MoveNext()) {
+        if (isShown && !isShown(rs))
+            continue;
+        cells(rs, fill);
+        const qint64 id = rs.Long(0);
+        const int counter = fill.EndRow(id);
+        if (id == selectId)
+            found = counter;
     }
+    return found;
+}
+
+void RecordList::SelectLoaded(int row, int foundRow)
+{
     // The record that was just added or edited shows, whatever the filter says.
-    if (isFound)
-        Reveal(row);
-    SelectRow(std::min(row, Rows() - 1));
+    if (foundRow > 0)
+        Reveal(foundRow);
+    SelectRow(std::min(foundRow > 0 ? foundRow : row, Rows() - 1));
     // What an empty list shows a screen reader says.
     setAccessibleDescription(Rows() > 1 ? QString() : EmptyText());
     if (m_foundRowOnTop && !RowIsVisible(Row()))

@@ -3,6 +3,7 @@
 #include "controls/filter_line.h"
 #include "controls/flex_grid.h"
 #include "db/connection.h"
+#include "db/file_changes.h"
 
 #include <QPushButton>
 
@@ -71,13 +72,15 @@ public:
     Sql Ordered(const QString& head, const char* defaultOrder) const;
 
     /// Cuts the list to its title row and fills it from `sql`, whose first column is the row data, the id. Selects the
-    /// row of `selectId`, else row number `row`, pulled back to the last row. Redraw is off meanwhile. Throws
+    /// row of `selectId`, else row number `row`, pulled back to the last row. Redraw is off meanwhile. A list that
+    /// holds the rows of this statement already, with nothing written to the file since, keeps them. Throws
     /// RuntimeError when the statement fails.
     void Load(const Sql& sql, int row, qint64 selectId);
-    /// As Load, leaving out the rows for which `isShown` is false.
+    /// As Load, leaving out the rows for which `isShown` is false. `choice` tells what it chooses by: with another one
+    /// the list is filled anew.
     using RowFilter = std::function<bool(const Recordset& row)>;
-    void LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown);
-    /// As Load, with all cells of a row added by `cells`.
+    void LoadSome(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const QString& choice);
+    /// As Load, with all cells of a row added by `cells`, and always filled anew.
     using RowWriter = std::function<void(const Recordset& row, GridFill& fill)>;
     void LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells);
 
@@ -106,7 +109,20 @@ private:
     void ShowOrder();
     void ShowMenu(const QPoint& where);
     int SumOfWidths() const;
-    void Fill(const Sql& sql, int row, qint64 selectId, const RowFilter& isShown, const RowWriter& cells);
+    /// What the cells come from, apart from the rows of the file.
+    struct Source {
+        QString statement;
+        QString choice;
+        int formats = 0; ///< of numbers and dates
+        int rowChanges = 0; ///< of the grid, after the fill
+        bool operator==(const Source&) const = default;
+    };
+    Source SourceNow(const Sql& sql, const QString& choice) const;
+    /// Whether the list holds what `source` and the file would fill it with.
+    bool Holds(const Source& source);
+    /// Returns the row that `selectId` has come to, the last one where there are more; 0 for none.
+    int Fill(const Sql& sql, qint64 selectId, const RowFilter& isShown, const RowWriter& cells);
+    void SelectLoaded(int row, int foundRow);
     void GiveSpareWidth(Spare when, int room);
     void SortByTitle();
 
@@ -114,6 +130,8 @@ private:
     int m_scrollBarRoom = 400;
     bool m_sorts = false;
     bool m_foundRowOnTop = false;
+    Source m_source;
+    FileChanges m_file;
     QList<QPushButton*> m_buttons;
     FilterLine* m_filterLine = nullptr;
 };

@@ -7,6 +7,9 @@
 #include "sql/function_names.h"
 #include "sql/statement_errors.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace {
 
 using Kind = Value::Kind;
@@ -189,20 +192,19 @@ public:
         const bool hasTables = m_tokens.TakeWord("from");
         if (!hasTables)
             m_tokens.GoTo(list);
-        std::string from;
         size_t behindFrom = 0;
         if (hasTables) {
-            const FromClause clause(m_tokens, m_scope);
+            m_from.emplace(m_tokens, m_scope);
             behindFrom = m_tokens.Place();
             ExpressionReader conditions = Expressions();
-            from = clause.Sql(m_tokens, conditions);
+            m_from->ReadConditions(conditions);
         }
         m_tokens.GoTo(list);
         ExpressionReader expressions = Expressions();
         ReadList(expressions, hasTables);
         if (hasTables)
             m_tokens.GoTo(behindFrom);
-        ReadClauses(expressions, from);
+        ReadClauses(expressions);
         Compose();
         return m_result;
     }
@@ -211,6 +213,7 @@ private:
     struct SortTerm {
         std::string sql;
         const char* direction;
+        ColumnReference column; ///< of a plain column
     };
 
     static RuntimeError Error()
@@ -288,10 +291,10 @@ private:
         m_columns.push_back({value.sql, alias, value.column, value.kind});
     }
 
-    void ReadClauses(ExpressionReader& expressions, const std::string& from)
+    void ReadClauses(ExpressionReader& expressions)
     {
         size_t start = m_tokens.Place() + 1;
-        m_body = from + Where(expressions);
+        m_body = Where(expressions);
         if (m_tokens.AtWord("group")) {
             TakeBy("group");
             start = m_tokens.Place();
@@ -330,11 +333,11 @@ private:
         do {
             if (m_tokens.Peek().kind == Token::Kind::End)
                 throw SyntaxError(QStringLiteral("Syntax error in ORDER BY clause."));
-            const std::string term = SortSql(expressions.Read());
+            const Expression term = expressions.Read();
             const bool down = m_tokens.TakeWord("desc");
             if (!down)
                 m_tokens.TakeWord("asc");
-            m_order.push_back({term, down ? " DESC" : ""});
+            m_order.push_back({SortSql(term), down ? " DESC" : "", term.column});
         } while (m_tokens.TakeSign(","));
     }
 
@@ -343,14 +346,41 @@ private:
         for (const ResultColumn& column : m_columns)
             m_result.columnKinds.push_back(column.kind);
         m_result.columnNames = ResultNames(m_scope, m_columns);
-        if (!m_top.empty() && !m_order.empty())
-            return ComposeWithTies();
         std::string list;
         for (const ResultColumn& column : m_columns)
             list += (list.empty() ? "" : ", ") + column.sql;
+        if (SortsBeforeItJoins())
+            return ComposeSortedFirst(list);
+        if (m_from)
+            m_body = m_from->Sql() + m_body;
+        if (!m_top.empty() && !m_order.empty())
+            return ComposeWithTies();
         m_result.sql = (m_distinct ? "SELECT DISTINCT " : "SELECT ") + list + m_body + Order();
         if (!m_top.empty())
             m_result.sql += " LIMIT " + m_top;
+    }
+
+    /// Rows that a join makes more are fewer to sort before it. All that is wanted must be plain columns, and the order
+    /// that of one table.
+    bool SortsBeforeItJoins() const
+    {
+        const auto isPlain = [](const auto& term) { return bool(term.column); };
+        const auto isOfTheFirst = [this](const SortTerm& term) {
+            return term.column && term.column.source == m_order.front().column.source;
+        };
+        return m_from && m_body.empty() && m_top.empty() && !m_distinct && !m_order.empty()
+            && std::all_of(m_columns.begin(), m_columns.end(), isPlain)
+            && std::all_of(m_order.begin(), m_order.end(), isOfTheFirst)
+            && m_from->MultipliesRowsOf(m_order.front().column.source);
+    }
+
+    void ComposeSortedFirst(const std::string& list)
+    {
+        const size_t source = m_order.front().column.source;
+        // Without a limit the engine would drop the order of an inner SELECT.
+        const std::string rows =
+            "SELECT " + m_scope.UsedColumns(source) + m_from->SqlOf(source) + Order() + " LIMIT -1";
+        m_result.sql = "SELECT " + list + m_from->SqlFrom(source, rows);
     }
 
     std::string Order() const
@@ -384,7 +414,8 @@ private:
     bool m_distinct = false;
     std::string m_top;
     std::vector<ResultColumn> m_columns;
-    std::string m_body;
+    std::optional<FromClause> m_from;
+    std::string m_body; ///< what stands between FROM and ORDER BY
     std::vector<std::string> m_groups;
     std::vector<SortTerm> m_order;
     size_t m_columnStart = 0;

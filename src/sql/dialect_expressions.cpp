@@ -166,8 +166,12 @@ Expression ExpressionReader::Compare(Expression left, const std::string& sign, E
     RefuseMismatch(left, right);
     CountTruth(left, right);
     CountTruth(right, left);
-    if (left.kind != Kind::Text && right.kind != Kind::Text)
-        return Truth(left.sql + " " + sign + " " + right.sql);
+    if (left.kind != Kind::Text && right.kind != Kind::Text) {
+        Expression truth = Truth(left.sql + " " + sign + " " + right.sql);
+        if (sign == "=" && left.column && right.column)
+            truth.equals = {left.column, right.column};
+        return truth;
+    }
     if (sign != "=" && sign != "<>")
         return Truth(left.sql + " " + sign + " " + right.sql + " COLLATE " + LocaleCollation);
     // The columns' own collation folds the plain alphabet and keeps the index; other letters need the whole rule.

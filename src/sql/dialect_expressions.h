@@ -4,6 +4,7 @@
 #include "sql/dialect_names.h"
 #include "sql/dialect_tokens.h"
 
+#include <array>
 #include <string>
 
 /// An expression in the engine's own SQL, and what is known of its value.
@@ -12,6 +13,7 @@ struct Expression {
     Value::Kind kind = Value::Kind::Null; ///< Null when it has none of its own
     ColumnReference column; ///< of a plain column
     int literal = -1; ///< of a plain literal
+    std::array<ColumnReference, 2> equals = {}; ///< of a condition that two plain columns are equal
 };
 
 /// Reads expressions from a statement's tokens and writes them in the engine's own SQL.

@@ -2,6 +2,13 @@
 
 #include "sql/statement_errors.h"
 
+#include <algorithm>
+
+namespace {
+constexpr const char* LeftJoin = " LEFT JOIN ";
+constexpr const char* RightJoin = " RIGHT JOIN ";
+} // namespace
+
 FromClause::FromClause(TokenStream& tokens, NameScope& scope)
     : m_tokens(tokens)
     , m_scope(scope)
@@ -64,7 +71,7 @@ void FromClause::ReadTable(const std::string& lead)
     std::string sql = std::string("[").append(table.text) + "]";
     if (!alias.empty())
         sql += " AS [" + std::string(alias) + "]";
-    m_parts.push_back({lead, sql, 0});
+    m_parts.push_back({lead, sql, std::string("[").append(alias.empty() ? table.text : alias) + "]", 0});
 }
 
 std::string FromClause::TakeJoin()
@@ -73,9 +80,9 @@ std::string FromClause::TakeJoin()
     if (m_tokens.TakeWord("inner"))
         join = " INNER JOIN ";
     else if (m_tokens.TakeWord("left"))
-        join = " LEFT JOIN ";
+        join = LeftJoin;
     else if (m_tokens.TakeWord("right"))
-        join = " RIGHT JOIN ";
+        join = RightJoin;
     else
         return join;
     m_tokens.TakeWord("outer");
@@ -105,15 +112,64 @@ void FromClause::SkipCondition()
     }
 }
 
-std::string FromClause::Sql(TokenStream& tokens, ExpressionReader& expressions) const
+void FromClause::ReadConditions(ExpressionReader& expressions)
+{
+    for (Part& part : m_parts) {
+        if (part.condition == 0)
+            continue;
+        m_tokens.GoTo(part.condition);
+        part.conditionRead = expressions.Read();
+    }
+}
+
+std::string FromClause::Sql() const
 {
     std::string sql = " FROM ";
     for (const Part& part : m_parts) {
         sql += part.lead + part.table;
-        if (part.condition == 0)
-            continue;
-        tokens.GoTo(part.condition);
-        sql += " ON " + expressions.Read().sql;
+        if (part.condition != 0)
+            sql += " ON " + part.conditionRead.sql;
     }
     return sql;
+}
+
+bool FromClause::IsFoundByKey(size_t source) const
+{
+    return std::any_of(m_parts.begin(), m_parts.end(), [source](const Part& part) {
+        const auto& columns = part.conditionRead.equals;
+        return part.lead != LeftJoin && columns[0] && columns[0].source != columns[1].source
+            && std::any_of(columns.begin(), columns.end(), [source](const ColumnReference& column) {
+                   return column.source == source && column.column->kind == ColumnKind::AutoNumber;
+               });
+    });
+}
+
+bool FromClause::MultipliesRowsOf(size_t source) const
+{
+    const auto isLeft = [](const Part& part) { return part.lead == LeftJoin; };
+    const auto firstLeft = std::find_if(m_parts.begin(), m_parts.end(), isLeft);
+    const auto before = size_t(firstLeft - m_parts.begin());
+    if (source >= before || firstLeft == m_parts.end() || !std::all_of(firstLeft, m_parts.end(), isLeft))
+        return false;
+    for (size_t i = 0; i < before; ++i)
+        if (m_parts[i].lead == RightJoin || (i != source && !IsFoundByKey(i)))
+            return false;
+    return true;
+}
+
+std::string FromClause::SqlFrom(size_t source, const std::string& rows) const
+{
+    std::string sql = " FROM (" + rows + ") AS " + m_parts[source].name;
+    std::string where;
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        const Part& part = m_parts[i];
+        if (part.lead == LeftJoin)
+            sql += part.lead + part.table + " ON " + part.conditionRead.sql;
+        // The engine keeps to the order in which tables are crossed.
+        else if (i != source)
+            sql += " CROSS JOIN " + part.table;
+        if (part.lead != LeftJoin && part.condition != 0)
+            where += (where.empty() ? " WHERE (" : " AND (") + part.conditionRead.sql + ")";
+    }
+    return sql + where;
 }

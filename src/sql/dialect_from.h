@@ -9,14 +9,27 @@ public:
     /// Leaves the stream behind the clause. Throws RuntimeError for what is none and for unknown tables.
     FromClause(TokenStream& tokens, NameScope& scope);
 
-    /// The clause in the engine's own SQL, with its join conditions read by `expressions`.
-    std::string Sql(TokenStream& tokens, ExpressionReader& expressions) const;
+    /// Reads the join conditions, in which all tables may be named.
+    void ReadConditions(ExpressionReader& expressions);
+    /// The clause in the engine's own SQL.
+    std::string Sql() const;
+    /// A clause of one of the tables alone.
+    std::string SqlOf(size_t source) const { return " FROM " + m_parts[source].table; }
+
+    /// Whether each row of this table meets one of each other, and then as many as there are of those that it is left
+    /// joined to: its rows can be brought in order before that.
+    bool MultipliesRowsOf(size_t source) const;
+    /// The same clause over `rows`, a SELECT that stands for the table: their order is that of the joined rows. Ends in
+    /// the WHERE that holds the conditions. Only where MultipliesRowsOf(source).
+    std::string SqlFrom(size_t source, const std::string& rows) const;
 
 private:
     struct Part {
         std::string lead; ///< what joins the table to those before it
-        std::string table;
+        std::string table; ///< with its alias
+        std::string name; ///< the alias, else the table's own name
         size_t condition = 0; ///< place of the join condition; 0 for none
+        Expression conditionRead = {};
     };
 
     void ReadList();
@@ -25,6 +38,8 @@ private:
     void ReadTable(const std::string& lead);
     std::string TakeJoin();
     void SkipCondition();
+    /// Whether a condition finds rows of this table by their key.
+    bool IsFoundByKey(size_t source) const;
     RuntimeError Error() const;
 
     TokenStream& m_tokens;

@@ -57,7 +57,18 @@ ColumnReference NameScope::Resolve(std::string_view qualifier, std::string_view 
 
 std::string NameScope::SqlOf(const ColumnReference& column) const
 {
+    if (std::find(m_used.begin(), m_used.end(), column) == m_used.end())
+        m_used.push_back(column);
     return "[" + m_sources[column.source].name + "].[" + column.column->name.toStdString() + "]";
+}
+
+std::string NameScope::UsedColumns(size_t source) const
+{
+    std::string columns;
+    for (const ColumnReference& used : m_used)
+        if (used.source == source)
+            columns += (columns.empty() ? "[" : ", [") + used.column->name.toStdString() + "]";
+    return columns;
 }
 
 std::string NameScope::QualifiedName(const ColumnReference& column) const

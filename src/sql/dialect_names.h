@@ -35,11 +35,14 @@ public:
 
     /// For the engine: `[item].[Number]`.
     std::string SqlOf(const ColumnReference& column) const;
+    /// For the engine: the columns of a table that SqlOf was asked for, `[id], [Number]`.
+    std::string UsedColumns(size_t source) const;
     /// "item.Number", the name of a result column that another one would repeat.
     std::string QualifiedName(const ColumnReference& column) const;
 
 private:
     std::vector<TableSource> m_sources;
+    mutable std::vector<ColumnReference> m_used;
 };
 
 Value::Kind KindOf(ColumnKind kind);

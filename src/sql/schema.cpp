@@ -181,7 +181,8 @@ QStringList Indexes()
         QStringLiteral("CREATE INDEX item_location ON item(LocationID)"),
         QStringLiteral("CREATE INDEX item_subcategory ON item(SubCategoryID)"),
         QStringLiteral("CREATE INDEX item_vendor ON item(VendorID)"),
-        QStringLiteral("CREATE INDEX itempricelist_item ON ItemPriceList(ItemID, PriceListID)"),
+        // With the price the inventory list need not touch the table.
+        QStringLiteral("CREATE INDEX itempricelist_item ON ItemPriceList(ItemID, PriceListID, Price)"),
         QStringLiteral("CREATE INDEX itempricelist_pricelist ON ItemPriceList(PriceListID)"),
         // An invoice's lines come in the order in which they were added, so this one may not sort by item.
         QStringLiteral("CREATE INDEX invoiceline_invoice ON invoiceline(InvoiceID)"),

@@ -162,6 +162,7 @@ TEST_F(ReceiveStock, TheMainListShowsTheOldLevelUntilItsNextLoad)
     Item("Saw").Stock(5).Add();
     InventoryList list;
     list.RefillInvoicePriceLists();
+    list.RefreshInventoryList(1, 0);
     Open();
     Receive("3");
     Click(form->cmdCancel);

@@ -1,5 +1,6 @@
 #include "records/lists.h"
 
+#include "base/regional.h"
 #include "base/runtime_error.h"
 #include "base/settings_store.h"
 #include "records/record_list.h"
@@ -27,8 +28,9 @@ protected:
     /// Fills the list with the price lists but the one that `leaveOut` names.
     void Load(int row, qint64 selectId, const QString& leaveOut = {})
     {
-        list.LoadSome(list.Ordered("SELECT id, name FROM PriceList ", "ORDER BY name"), row, selectId,
-            [&](const Recordset& rs) { return NullToText(rs["name"]) != leaveOut; });
+        list.LoadSome(
+            list.Ordered("SELECT id, name FROM PriceList ", "ORDER BY name"), row, selectId,
+            [&](const Recordset& rs) { return NullToText(rs["name"]) != leaveOut; }, leaveOut);
     }
 
     RecordList list;
@@ -66,6 +68,33 @@ TEST_F(Lists, TheRowLookedForIsSelectedAndARowPastTheEndFallsBackToTheLast)
     Load(1, 5);
     EXPECT_EQ(list.Row(), 0) << "an empty list leaves the title row";
     EXPECT_EQ(list.CurrentRowData(), 0);
+}
+
+TEST_F(Lists, AReloadReadsOnlyWhatMayHaveChanged)
+{
+    const qint64 trade = PriceListRow("Trade");
+    int fills = 0;
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, [&fills] { ++fills; });
+    const auto load = [&](const QString& leaveOut = {}, qint64 selectId = 0) {
+        fills = 0;
+        Load(1, selectId, leaveOut);
+        return fills > 0;
+    };
+    EXPECT_TRUE(load());
+    EXPECT_FALSE(load({}, trade));
+    EXPECT_EQ(list.CurrentRowData(), trade);
+    EXPECT_TRUE(load("Trade")) << "another choice of rows";
+    gConnection->Execute("UPDATE PriceList SET name = 'Retail' WHERE name = 'Trade'");
+    EXPECT_TRUE(load("Trade")) << "written by the program";
+    Run("UPDATE PriceList SET name = 'Trade' WHERE name = 'Retail'");
+    EXPECT_TRUE(load("Trade")) << "written by another program";
+    list.SetTextMatrix(1, 0, "typed over");
+    EXPECT_TRUE(load("Trade"));
+    list.SetTag("id");
+    EXPECT_TRUE(load("Trade")) << "in another order";
+    SetRegional(QLocale("de_DE"));
+    EXPECT_TRUE(load("Trade")) << "with other formats";
+    EXPECT_FALSE(load("Trade"));
 }
 
 TEST_F(Lists, AFailingStatementLeavesTheGridPainting)
