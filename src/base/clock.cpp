@@ -6,9 +6,15 @@ std::function<QDateTime()> gClock;
 
 } // namespace
 
+QDateTime Moment(const QDate& day, const QTime& time)
+{
+    return QDateTime(day, time, Qt::UTC);
+}
+
 QDateTime Now()
 {
-    return gClock ? gClock() : QDateTime::currentDateTime();
+    const QDateTime now = gClock ? gClock() : QDateTime::currentDateTime();
+    return Moment(now.date(), now.time());
 }
 
 void SetClock(std::function<QDateTime()> clock)

@@ -20,6 +20,18 @@ QString NameOf(const QByteArray& written)
     return QString::fromUtf8(QByteArray::fromPercentEncoding(written.trimmed()));
 }
 
+/// True for one text in quotes, as the store itself writes it, with a remark behind it or none.
+bool IsQuoted(const QByteArray& text)
+{
+    if (!text.startsWith('"'))
+        return false;
+    qsizetype at = 1;
+    while (at < text.size() && text.at(at) != '"')
+        at += text.at(at) == '\\' ? 2 : 1;
+    const QByteArray behind = text.mid(at + 1).trimmed();
+    return at < text.size() && (behind.isEmpty() || behind.startsWith(';'));
+}
+
 /// The texts of an INI file, by section and key, that stand there without quotes as a person writes them, with a comma
 /// or a semicolon. Qt takes them for lists and remarks.
 QHash<QString, QString> HandwrittenTexts(const QString& path)
@@ -35,8 +47,7 @@ QHash<QString, QString> HandwrittenTexts(const QString& path)
         const QByteArray text = line.mid(equals + 1).trimmed();
         if (line.startsWith('['))
             section = NameOf(line.mid(1, line.size() - 2));
-        else if (equals > 0 && !line.startsWith(';') && !text.startsWith('"')
-            && (text.contains(',') || text.contains(';')))
+        else if (equals > 0 && !line.startsWith(';') && !IsQuoted(text) && (text.contains(',') || text.contains(';')))
             texts.insert(section + QLatin1Char('/') + NameOf(line.left(equals)), QString::fromUtf8(text));
     }
     return texts;
@@ -61,7 +72,8 @@ QString GetSetting(const QString& application, const QString& section, const QSt
 {
     return WithStore(application, [&](QSettings& store) {
         const QString name = section + QLatin1Char('/') + key;
-        if (store.status() != QSettings::NoError || !store.contains(name))
+        // A line that is broken takes none of the others along, so the store's status does not matter.
+        if (!store.contains(name))
             return fallback;
         return HandwrittenTexts(store.fileName()).value(name, store.value(name).toString());
     });
@@ -73,7 +85,9 @@ void SaveSetting(const QString& application, const QString& section, const QStri
         // The whole store is written anew: what was written by hand is to stay.
         const auto texts = HandwrittenTexts(store.fileName());
         for (auto text = texts.begin(); text != texts.end(); ++text)
-            store.setValue(text.key(), text.value());
+            // A name that the store reads otherwise is no key of the program's.
+            if (store.contains(text.key()))
+                store.setValue(text.key(), text.value());
         store.setValue(section + QLatin1Char('/') + key, value);
         store.sync();
     });

@@ -1,5 +1,7 @@
 #include "paper/report_rows.h"
 
+#include "base/clock.h"
+
 #include <QByteArray>
 
 #include <cstring>
@@ -17,7 +19,7 @@ qint64 Packed(const QDateTime& date)
 
 QDateTime Unpacked(qint64 moment)
 {
-    return QDateTime(QDate::fromJulianDay(moment / MillisecondsADay),
+    return Moment(QDate::fromJulianDay(moment / MillisecondsADay),
         QTime::fromMSecsSinceStartOfDay(static_cast<int>(moment % MillisecondsADay)));
 }
 

@@ -1,6 +1,7 @@
 #include "sql/like_pattern.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -38,6 +39,20 @@ bool ContainsFolded(std::string_view text, std::string_view lowerNeedle)
     return false;
 }
 
+/// True where letters outside the plain alphabet fold to plain ones, as "ß" does to "ss" and the Kelvin sign to "k".
+bool FoldsToPlainLetters(std::string_view text)
+{
+    char bits = 0;
+    for (const char c : text)
+        bits |= c;
+    if ((bits & 0x80) == 0)
+        return false;
+    static constexpr std::array beginnings{
+        "\u00DF", "\u0130", "\u0149", "\u017F", "\u01F0", "\xE1\xBA", "\u212A", "\xEF\xAC"};
+    return std::any_of(beginnings.begin(), beginnings.end(),
+        [text](const char* beginning) { return text.find(beginning) != std::string_view::npos; });
+}
+
 QString Decode(std::string_view text)
 {
     return QString::fromUtf8(text.data(), qsizetype(text.size())).toCaseFolded();
@@ -54,13 +69,14 @@ LikePattern::LikePattern(std::string_view pattern)
         if (m_isNeedle)
             std::transform(inner.begin(), inner.end(), std::back_inserter(m_needle), Lower);
     }
-    if (!m_isNeedle)
-        ReadElements(Decode(pattern));
+    ReadElements(Decode(pattern));
 }
 
 bool LikePattern::Matches(std::string_view text) const
 {
-    return m_isNeedle ? ContainsFolded(text, m_needle) : MatchesElements(Decode(text));
+    if (!m_isNeedle)
+        return MatchesElements(Decode(text));
+    return ContainsFolded(text, m_needle) || (FoldsToPlainLetters(text) && MatchesElements(Decode(text)));
 }
 
 void LikePattern::ReadElements(const QString& pattern)
