@@ -6,7 +6,7 @@ std::function<QDateTime()> gClock;
 
 } // namespace
 
-QDateTime Moment(const QDate& day, const QTime& time)
+QDateTime MomentOf(const QDate& day, const QTime& time)
 {
     return QDateTime(day, time, Qt::UTC);
 }
@@ -14,7 +14,7 @@ QDateTime Moment(const QDate& day, const QTime& time)
 QDateTime Now()
 {
     const QDateTime now = gClock ? gClock() : QDateTime::currentDateTime();
-    return Moment(now.date(), now.time());
+    return MomentOf(now.date(), now.time());
 }
 
 void SetClock(std::function<QDateTime()> clock)

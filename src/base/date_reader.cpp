@@ -325,10 +325,10 @@ std::optional<QDateTime> ReadDate(QStringView text, Order order, DateStrictness 
         return std::nullopt;
     if (time && HoldsOnlyBlanks(pieces)) {
         const bool dateIsMissing = strictness == DateStrictness::AsInStatements && IsBlank(text.front());
-        return dateIsMissing ? std::nullopt : std::optional(Moment(DayZero, *time));
+        return dateIsMissing ? std::nullopt : std::optional(MomentOf(DayZero, *time));
     }
     const auto date = DateMaker(pieces, order, strictness).Make();
     if (!date)
         return std::nullopt;
-    return Moment(*date, time.value_or(QTime(0, 0)));
+    return MomentOf(*date, time.value_or(QTime(0, 0)));
 }

@@ -79,7 +79,7 @@ std::optional<QDateTime> DatePicker::Value() const
     if (!m_check->isChecked())
         return std::nullopt;
     m_date->FinishTyping();
-    return Moment(m_date->date(), m_time);
+    return MomentOf(m_date->date(), m_time);
 }
 
 void DatePicker::SetValue(const std::optional<QDateTime>& value)

@@ -162,6 +162,6 @@ QDateTime ReadStoredDate(std::string_view text)
     std::from_chars(text.data(), text.data() + 4, year);
     const QDate date(year, TwoDigits(text, 5), TwoDigits(text, 8));
     if (text.size() < 16)
-        return Moment(date);
-    return Moment(date, QTime(TwoDigits(text, 11), TwoDigits(text, 14), std::max(0, TwoDigits(text, 17))));
+        return MomentOf(date);
+    return MomentOf(date, QTime(TwoDigits(text, 11), TwoDigits(text, 14), std::max(0, TwoDigits(text, 17))));
 }

@@ -19,7 +19,7 @@ qint64 Packed(const QDateTime& date)
 
 QDateTime Unpacked(qint64 moment)
 {
-    return Moment(QDate::fromJulianDay(moment / MillisecondsADay),
+    return MomentOf(QDate::fromJulianDay(moment / MillisecondsADay),
         QTime::fromMSecsSinceStartOfDay(static_cast<int>(moment % MillisecondsADay)));
 }
 

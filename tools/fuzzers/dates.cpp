@@ -27,7 +27,7 @@ void CheckReading(const QString& text)
 
 void CheckWriting(const QDateTime& moment)
 {
-    const QDateTime day = Moment(moment.date());
+    const QDateTime day = MomentOf(moment.date());
     Expect(ReadDate(FormatDate(moment, {})) == moment, "the general form reads back");
     Expect(ReadDate(ShortDate(moment)) == day, "a short date reads back");
     Expect(
@@ -51,7 +51,7 @@ void Fuzz(FuzzInput input)
     const qint64 seconds = input.Number() & 0xFFFFFFFFFFFF;
     const QString mask = AnyText(input.Line());
     const QDate day = FirstDay.addDays((seconds / 86400) % (FirstDay.daysTo(LastDay) + 1));
-    const QDateTime moment = Moment(day, QTime(0, 0).addSecs(int(seconds % 86400)));
+    const QDateTime moment = MomentOf(day, QTime(0, 0).addSecs(int(seconds % 86400)));
     CheckWriting(moment);
     FormatDate(moment, mask);
     CheckReading(AnyText(input.Rest()));

@@ -20,7 +20,7 @@ void FixSurroundings()
 {
     // There some days have no midnight.
     qputenv("TZ", "America/Sao_Paulo");
-    SetClock([] { return Moment(QDate(2026, 3, 14), QTime(10, 30)); });
+    SetClock([] { return MomentOf(QDate(2026, 3, 14), QTime(10, 30)); });
     ChooseLocale('A');
 }
 

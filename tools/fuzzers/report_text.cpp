@@ -40,7 +40,7 @@ ReportValue ValueOf(QByteArrayView field)
     case 'c':
         return Currency::FromTenThousandths(number);
     case 't':
-        return Moment(QDate(1900, 1, 1).addDays(number & 0xFFFF), QTime(0, 0).addSecs(int(number >> 16 & 0xFFFF)));
+        return MomentOf(QDate(1900, 1, 1).addDays(number & 0xFFFF), QTime(0, 0).addSecs(int(number >> 16 & 0xFFFF)));
     default:
         return AnyText(field);
     }
