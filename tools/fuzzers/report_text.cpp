@@ -42,7 +42,7 @@ ReportValue ValueOf(QByteArrayView field)
     case 't':
         return MomentOf(QDate(1900, 1, 1).addDays(number & 0xFFFF), QTime(0, 0).addSecs(int(number >> 16 & 0xFFFF)));
     default:
-        return AnyText(field);
+        return QString::fromUtf8(field);
     }
 }
 
@@ -63,13 +63,8 @@ void CheckTable(const ReportTable& table, const QList<Row>& rows)
 {
     Expect(table.Count() == rows.size(), "each row is kept");
     for (int row = 0; row < table.Count(); ++row)
-        for (int field = 0; field < 3; ++field) {
-            const ReportValue kept = table.At(row, field);
-            const ReportValue& given = rows[row][size_t(field)];
-            const auto* text = std::get_if<QString>(&given);
-            Expect(text != nullptr ? Utf8Of(*text) == Utf8Of(std::get<QString>(kept)) : kept == given,
-                "a field is kept as it was given");
-        }
+        for (int field = 0; field < 3; ++field)
+            Expect(table.At(row, field) == rows[row][size_t(field)], "a field is kept as it was given");
 }
 
 Report MakeReport(const QString& mask, std::shared_ptr<const ReportRows> rows)
@@ -157,7 +152,7 @@ void Fuzz(FuzzInput input)
     while (!input.AtEnd() && rows.size() < MostRows) {
         FuzzInput fields(input.Line());
         const QList<QByteArray> parts = fields.Rest().toByteArray().split('\t');
-        rows.append({AnyText(parts.value(0)), AnyText(parts.value(1)), ValueOf(parts.value(2))});
+        rows.append({QString::fromUtf8(parts.value(0)), QString::fromUtf8(parts.value(1)), ValueOf(parts.value(2))});
     }
     auto reportRows = std::make_shared<ReportRows>();
     reportRows->parents = TableOf(rows);
