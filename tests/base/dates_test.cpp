@@ -35,7 +35,7 @@ QString Answer(const QString& heading, const QString& given)
     if (function == "ShortDateWriter")
         return QString::fromUtf8(ShortDateWriter()(given.toStdString()));
     const std::optional<QDateTime> read = ReadDate(given);
-    return read ? read->toString(Qt::ISODate) : "none";
+    return read ? read->toString("yyyy-MM-dd'T'HH:mm:ss") : "none";
 }
 
 TEST_F(Dates, AreReadAndWrittenByTheRulesOfTheLocale)
