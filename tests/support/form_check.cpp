@@ -151,7 +151,8 @@ QString ValueOf(const QWidget* control)
     if (auto* list = qobject_cast<const QListWidget*>(control))
         return Entries(list).join(QStringLiteral(" | "));
     if (auto* date = dynamic_cast<const DatePicker*>(control))
-        return date->Value() ? date->Value()->toString(Qt::ISODate) : QStringLiteral("none");
+        return date->Value() ? date->Value()->toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss"))
+                             : QStringLiteral("none");
     auto* grid = dynamic_cast<const FlexGrid*>(control);
     if (!grid)
         return Caption(control);
