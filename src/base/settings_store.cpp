@@ -45,8 +45,9 @@ QHash<QString, QString> HandwrittenTexts(const QString& path)
         const QByteArray line = file.readLine().trimmed();
         const qsizetype equals = line.indexOf('=');
         const QByteArray text = line.mid(equals + 1).trimmed();
+        const qsizetype bracket = line.indexOf(']');
         if (line.startsWith('['))
-            section = NameOf(line.mid(1, line.size() - 2));
+            section = NameOf(line.mid(1, bracket < 0 ? bracket : bracket - 1));
         else if (equals > 0 && !line.startsWith(';') && !IsQuoted(text) && (text.contains(',') || text.contains(';')))
             texts.insert(section + QLatin1Char('/') + NameOf(line.left(equals)), QString::fromUtf8(text));
     }
