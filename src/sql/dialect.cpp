@@ -90,11 +90,11 @@ public:
         const size_t condition = m_tokens.Place() + 1;
         const std::string where = Where(expressions);
         ExpectEnd(expressions, condition);
-        const std::string name = std::string("[").append(table.text).append("]");
-        m_result.sql = std::string("UPDATE ") + name + " SET " + m_assignments + where;
-        m_result.anyChange = std::string("SELECT 1 FROM ") + name + " WHERE (" + m_changes + ")";
+        m_result.sql.append("UPDATE [").append(table.text).append("] SET ").append(m_assignments).append(where);
+        std::string& any = m_result.anyChange;
+        any.append("SELECT 1 FROM [").append(table.text).append("] WHERE (").append(m_changes).append(")");
         if (!where.empty())
-            m_result.anyChange += " AND (" + where.substr(std::string_view(" WHERE ").size()) + ")";
+            any.append(" AND (").append(where, std::string_view(" WHERE ").size()).append(")");
         return m_result;
     }
 
@@ -124,11 +124,12 @@ private:
             throw Error();
         m_lastStart = m_tokens.Place();
         const Expression value = expressions.Read();
-        const std::string name = std::string("[") + column.name.toStdString() + "]";
+        const std::string name = column.name.toStdString();
         const std::string sql = Assigned(value, KindOf(column.kind));
-        m_assignments += std::string(m_assignments.empty() ? "" : ", ") + name + " = " + sql;
+        m_assignments.append(m_assignments.empty() ? "[" : ", [").append(name).append("] = ").append(sql);
         // To the letter, where texts compare without regard to case.
-        m_changes += std::string(m_changes.empty() ? "" : " OR ") + name + " IS NOT (" + sql + ") COLLATE BINARY";
+        m_changes.append(m_changes.empty() ? "[" : " OR [").append(name);
+        m_changes.append("] IS NOT (").append(sql).append(") COLLATE BINARY");
     }
 
     /// A literal is brought to the column's kind when it is bound, anything else by the engine as it is written.
@@ -397,15 +398,17 @@ private:
         std::string outer;
         std::string inner;
         for (size_t i = 0; i < m_columns.size(); ++i) {
-            const std::string name = std::string("c") + std::to_string(i);
-            outer += (outer.empty() ? "" : ", ") + name;
-            inner += m_columns[i].sql + " AS " + name + ", ";
+            std::string name = "c";
+            name += std::to_string(i);
+            outer.append(outer.empty() ? "" : ", ").append(name);
+            inner.append(m_columns[i].sql).append(" AS ").append(name).append(", ");
         }
         std::string order = " ORDER BY place";
         for (size_t i = 0; i < m_groups.size(); ++i) {
-            const std::string name = std::string("g") + std::to_string(i);
-            inner += m_groups[i] + " AS " + name + ", ";
-            order += ", " + name;
+            std::string name = "g";
+            name += std::to_string(i);
+            inner.append(m_groups[i]).append(" AS ").append(name).append(", ");
+            order.append(", ").append(name);
         }
         m_result.sql = "SELECT " + outer + " FROM (SELECT " + inner + "rank() OVER (" + Order().substr(1) + ") AS place"
             + m_body + ") WHERE place <= " + m_top + order;

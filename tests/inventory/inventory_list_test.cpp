@@ -66,7 +66,10 @@ TEST_F(InventoryListTest, DeletingLeavesPricesFieldsAndMembershipsBehind)
     Run("INSERT INTO ItemCustomFieldData (ItemID, ItemCustomFieldID, Data) VALUES (" + buoy + ", 1, 'red')");
     Open();
     answers.Expect("Delete item?", Answer::Yes);
+    QString told;
+    QObject::connect(&StatusLine::Get(), &StatusLine::Told, panel, [&told](const QString& text) { told = text; });
     Click(panel->cmdDeleteInventory);
+    EXPECT_EQ(told, "Item Buoy deleted");
     EXPECT_EQ(panel->lblInventoryTotal->text(), "0 items.");
     EXPECT_EQ(Count("ItemPriceList"), 1);
     EXPECT_EQ(Count("itemgroup_item"), 1);
