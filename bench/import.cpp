@@ -164,7 +164,7 @@ QList<ImportField> FedFields(const FlexGrid& grid)
     const QStringList columns = {QStringLiteral("Name"), QStringLiteral("Number"), QStringLiteral("Barcode"),
         QStringLiteral("LocationID"), QStringLiteral("SubCategoryID"), QStringLiteral("VendorID"),
         QStringLiteral("TaxRateID"), QStringLiteral("NoInStock")};
-    qint16 price = qint16(columns.size());
+    auto price = qint16(columns.size());
     for (ImportField& field : fields)
         field.SourceColumn = field.Kind == ImportField::Price ? price++ : qint16(columns.indexOf(field.ColumnName));
     fields[2].SourceColumn = qint16(grid.Cols() - 1);

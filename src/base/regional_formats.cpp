@@ -103,7 +103,7 @@ QString TimeMaskOf(const QString& pattern)
     QString plain = pattern;
     plain.remove(QuotedWords);
     const QRegularExpressionMatch hours = Hours.match(plain);
-    const QString fields =
+    QString fields =
         (hours.capturedLength() > 1 ? QStringLiteral("hh") : QStringLiteral("h")) + QStringLiteral(":nn:ss");
     const qsizetype half = plain.indexOf(HalfOfDay);
     if (half < 0)

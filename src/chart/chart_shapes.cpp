@@ -245,10 +245,7 @@ private:
             {FaceKind::Side, column, run.firstRow, run.lastRow, {from, to, to + extent, from + extent}, light});
     }
 
-    void SetPlace(int row, int column, QPointF place)
-    {
-        m_shapes.places[size_t(row * m_shapes.columns + column)] = place;
-    }
+    void SetPlace(int row, int column, QPointF place) { m_shapes.places[m_shapes.PlaceNumber(row, column)] = place; }
 
     const ChartData& m_data;
     ChartFamily m_family;

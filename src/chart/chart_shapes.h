@@ -54,7 +54,9 @@ struct ChartShapes {
     std::vector<std::optional<QPointF>> places;
     int columns = 0;
 
-    std::optional<QPointF> Place(ChartPoint point) const { return places[size_t(point.row * columns + point.column)]; }
+    /// Where a value stands in `places`.
+    size_t PlaceNumber(int row, int column) const { return size_t(row) * size_t(columns) + size_t(column); }
+    std::optional<QPointF> Place(ChartPoint point) const { return places[PlaceNumber(point.row, point.column)]; }
 };
 
 /// Which of two series stand before the other so that both can be read: the columns from the back to the front.

@@ -130,7 +130,7 @@ Recordset Connection::Execute(const QString& statement)
 
 void Connection::ExecuteIfItChanges(const Sql& update)
 {
-    const QString statement = update.Filled();
+    const QString& statement = update.Filled();
     if (!d->HoldsAlready(*d->Prepare(statement)))
         Execute(statement);
 }

@@ -110,7 +110,7 @@ QString SetAsideForeignJournal(const QString& databasePath)
     // The engine counts on as it commits; a crash leaves the counter of before or the next one.
     if (!now || *now == *before || *now == *before + 1)
         return {};
-    const QString aside = AsideName(journalPath);
+    QString aside = AsideName(journalPath);
     if (!QFile::rename(journalPath, aside))
         throw CannotOpen(
             databasePath, QStringLiteral("The journal beside it belongs to another file and cannot be renamed."));

@@ -165,7 +165,7 @@ void SetTitle(Report& report)
 
 QString GetS(const Value& value)
 {
-    const QString lineBreak = QStringLiteral("\r\n");
+    QString lineBreak = QStringLiteral("\r\n");
     if (value.IsNull())
         return lineBreak;
     const QString text = value.ToText();

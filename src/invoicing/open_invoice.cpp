@@ -212,7 +212,7 @@ QString OpenInvoice::NumberTakenMeanwhile()
 
 QString OpenInvoice::Finish()
 {
-    const QString taken = NumberTakenMeanwhile();
+    QString taken = NumberTakenMeanwhile();
     gCurrentInvoiceId = -1;
     gCurrentCustomerId = -1;
     gConnection->Execute("UPDATE nextinvoiceno SET invoiceno = invoiceno + 1;");

@@ -257,7 +257,7 @@ ReportLayout::Cursor ReportLayout::EndOfPage(const Cursor& start)
 
 ReportPage ReportLayout::Compose(int index)
 {
-    const size_t page = static_cast<size_t>(index);
+    const auto page = static_cast<size_t>(index);
     PageBuilder builder;
     Cursor cursor = AddTop(builder, m_starts[page], BandPurpose::Items);
     for (; cursor != m_starts[page + 1]; cursor = After(cursor))

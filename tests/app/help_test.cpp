@@ -105,7 +105,7 @@ TEST_F(HelpTest, EveryPageIsReachedFromContentsIndexAndAFormAndNoLinkIsDead)
         }
     }
     for (int i = 0; i < reached.size(); ++i)
-        for (const QString& link : Captures("href=\"([\\w-]+\\.html)", pages.value(reached[i])))
+        for (const QString& link : Captures(R"x(href="([\w-]+\.html))x", pages.value(reached[i])))
             if (!reached.contains(link))
                 reached.append(link);
     for (const QString& page : pages.keys())

@@ -94,7 +94,7 @@ TEST_F(Dates, AnyTextIsReadWithoutHarm)
         for (int turn = 0; turn < 20000; ++turn) {
             QString text;
             for (auto length = random() % 8; length > 0; --length)
-                text += pieces.at(random() % pieces.size());
+                text += pieces.at(qsizetype(random()) % pieces.size());
             const auto date = ReadDate(text);
             if (!date)
                 continue;

@@ -119,7 +119,7 @@ TEST(Numbers, WhatIsNumericIsWhatConverts)
         for (int turn = 0; turn < 40000; ++turn) {
             QString text;
             for (auto length = random() % 8; length > 0; --length)
-                text += alphabet.at(random() % alphabet.size());
+                text += alphabet.at(qsizetype(random()) % alphabet.size());
             const int error = ErrorOf([&] { CDbl(text); });
             ASSERT_EQ(IsNumeric(text), error == 0) << text.toStdString();
             ASSERT_TRUE(error == 0 || error == 6 || error == 13);

@@ -172,7 +172,7 @@ TEST(ChartPicture, IsSavedAsPngOrSvgByTheNameAndNothingIsLeftOfAFailure)
     const QTemporaryDir folder;
     const auto saveAs = [&](const char* name) {
         ScriptedAnswers answers;
-        const QString path = folder.filePath(QLatin1String(name));
+        QString path = folder.filePath(QLatin1String(name));
         answers.ExpectSaveFile(path);
         if (path.contains("gone"))
             answers.ExpectMessage(QStringLiteral("The chart could not be saved as %1.").arg(path), Icon::Critical);

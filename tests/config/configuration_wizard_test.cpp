@@ -32,7 +32,7 @@ protected:
     /// A picture of a name that any folder may hold.
     QString Logo(const QString& name) const
     {
-        const QString path = Folder() + "/" + name;
+        QString path = Folder() + "/" + name;
         QDir().mkpath(QFileInfo(path).path());
         QImage picture(40, 20, QImage::Format_RGB32);
         picture.fill(Qt::darkGreen);

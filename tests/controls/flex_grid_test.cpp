@@ -36,7 +36,7 @@ protected:
         for (int row = 1; row <= rows; ++row) {
             fill.Add(QString("name %1").arg(row));
             fill.Add("street");
-            fill.EndRow(row * 10);
+            fill.EndRow(qint64(row) * 10);
         }
     }
 

@@ -52,7 +52,7 @@ TEST(TextBoxes, TakeAPasteOfAnySizeAtOnceAndKeepWhatCodeSets)
     TextBox box;
     MultiLineTextBox lines;
     QString large;
-    while (large.size() < 5 * 1024 * 1024)
+    while (large.size() < 5'000'000)
         large += "five megabytes 😀 ";
     Shown(&box);
     Shown(&lines);

@@ -268,7 +268,7 @@ TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndNothingIsCreated)
     ExpectRefused(Folder());
     for (const QByteArray& content :
         {QByteArray(), QByteArray("x"), QByteArray("S"), QByteArray("This is a letter, not a database. ").repeated(50),
-            DatabaseBytes().left(4096 * 5), DatabaseBytes().left(50)})
+            DatabaseBytes().left(20'480), DatabaseBytes().left(50)})
         ExpectRefused(File(content));
 }
 

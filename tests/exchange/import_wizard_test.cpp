@@ -28,7 +28,7 @@ protected:
     void Write(const QByteArray& text) const { WriteFile(File(), text); }
 
     /// As AtPage, once the file is read.
-    static void AtPreview(std::function<void(frmWizImport_Preview&)> visit)
+    static void AtPreview(const std::function<void(frmWizImport_Preview&)>& visit)
     {
         AtPage<frmWizImport_Preview>([visit](frmWizImport_Preview& page) {
             AwaitReading(page);

@@ -48,7 +48,7 @@ protected:
     {
         QImage logo(200, 80, QImage::Format_RGB32);
         logo.fill(Qt::darkBlue);
-        const QString path = Folder() + "/logo.png";
+        QString path = Folder() + "/logo.png";
         EXPECT_TRUE(logo.save(path));
         return path;
     }

@@ -51,7 +51,7 @@ TEST_F(OpenInvoices, TellWhoFinishesSecondThatANumberWasGivenTwice)
                 .arg(OpenInvoice::gCurrentInvoiceId));
         Invoice(1).No(other).Add();
         Run(QStringLiteral("UPDATE nextinvoiceno SET invoiceno = %1").arg(nextNumber));
-        const QString taken = OpenInvoice::Finish();
+        QString taken = OpenInvoice::Finish();
         EXPECT_FALSE(OpenInvoice::IsOpen());
         Run("UPDATE nextinvoiceno SET invoiceno = 1");
         Run("DELETE FROM invoice");

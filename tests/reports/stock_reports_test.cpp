@@ -33,7 +33,7 @@ protected:
         return names;
     }
     /// Answers the filter form and returns the names of the report that opens.
-    QStringList Filtered(std::function<void(frmReorderReportFilter&)> choose)
+    QStringList Filtered(const std::function<void(frmReorderReportFilter&)>& choose)
     {
         ClosePreviews();
         WhenFormShows<frmReorderReportFilter>([choose](frmReorderReportFilter& form) {

@@ -26,7 +26,7 @@ public:
         Add({.kind = Kind::Message, .text = text, .icon = icon, .buttons = buttons, .answer = answer});
     }
     /// A message with OK alone; without icon and title these may be any.
-    void ExpectMessage(const QString& text, std::optional<Icon> icon = {}, std::optional<QString> title = {})
+    void ExpectMessage(const QString& text, std::optional<Icon> icon = {}, const std::optional<QString>& title = {})
     {
         Add({.kind = Kind::Message, .text = text, .icon = icon, .buttons = Buttons::Ok, .title = title});
     }

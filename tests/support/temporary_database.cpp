@@ -20,7 +20,7 @@ QString TemplatePath()
 {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        const QString made = folder.filePath(QStringLiteral("template.mdb"));
+        QString made = folder.filePath(QStringLiteral("template.mdb"));
         MakeDatabase(made);
         return made;
     }();
@@ -75,7 +75,7 @@ Table PlainRows(const QString& path, const QString& sql)
 {
     sqlite3* handle = nullptr;
     sqlite3_open_v2(path.toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
-    const Table rows = PlainRows(handle, sql);
+    Table rows = PlainRows(handle, sql);
     sqlite3_close(handle);
     return rows;
 }

@@ -20,7 +20,7 @@ int RowOf(const FlexGrid* grid, int col, const QString& text)
 
 } // namespace
 
-void At(const char* formName, std::function<void(QDialog&)> visit)
+void At(const char* formName, const std::function<void(QDialog&)>& visit)
 {
     WhenDialogShows(
         formName, [formName](QDialog* dialog) { return dialog->objectName() == QLatin1String(formName); },

@@ -12,7 +12,7 @@
 /// The steps that the walks through the windows are made of.
 
 /// Does `visit` at the next modal form of this name.
-void At(const char* formName, std::function<void(QDialog&)> visit);
+void At(const char* formName, const std::function<void(QDialog&)>& visit);
 /// Takes a picture of the next message box and presses the button.
 void AnswerBox(Album& album, const char* picture, QMessageBox::StandardButton answer);
 void ClickToolbar(MainWindow& window, const char* key);
