@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMap>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
@@ -22,7 +23,7 @@ constexpr auto Usage = "usage: faults [--tenth SEED] [ACT...]\n"
                        "that ends there; and writes each file onto a disk that is full. Afterwards the file has to be "
                        "whole, the act done\n"
                        "wholly or not at all, the failure told, and the program has to start. Prints what is not so.\n"
-                       "  --tenth SEED   a tenth of the points, chosen by the number\n"
+                       "  --tenth SEED   at every tenth operation, by the luck of the number, one of these faults\n"
                        "acts:\n";
 
 void PrintUsage(FILE* out)
@@ -67,7 +68,7 @@ const char* NameOf(faulty_disk::Fault fault)
     return Names[int(fault)];
 }
 
-/// A tenth of the points, or all.
+/// All points, or a tenth: one at each tenth operation, by the luck of the seed.
 class Choice {
 public:
     explicit Choice(const QString& seed)
@@ -75,7 +76,23 @@ public:
         , m_random(seed.toUInt())
     {
     }
-    bool Takes() { return m_all || m_random.bounded(10) == 0; }
+    QList<Point> Of(const QList<Point>& points)
+    {
+        if (m_all)
+            return points;
+        QMap<int, QList<Point>> byOperation;
+        for (const Point& point : points)
+            byOperation[point.number].append(point);
+        QList<Point> chosen;
+        for (const QList<Point>& operation : byOperation)
+            if (m_random.bounded(10) == 0)
+                chosen.append(operation[m_random.bounded(operation.size())]);
+        return chosen;
+    }
+    QList<FilePoint> Of(const QList<FilePoint>& points)
+    {
+        return m_all ? points : QList{points[m_random.bounded(points.size())]};
+    }
 
 private:
     bool m_all;
@@ -86,20 +103,18 @@ void Run(const Act& act, Choice& choice, Count& count)
 {
     const Sweep sweep(act);
     count.Add(act.name, "on a good disk", sweep.Finding());
-    for (const Point& point : sweep.Points())
-        if (choice.Takes())
-            count.Add(act.name, QString("%1, %2").arg(point.number).arg(NameOf(point.fault)), sweep.FindingAt(point));
+    for (const Point& point : choice.Of(sweep.Points()))
+        count.Add(act.name, QString("%1, %2").arg(point.number).arg(NameOf(point.fault)), sweep.FindingAt(point));
 }
 
 void Run(const FileAct& act, Choice& choice, Count& count)
 {
     const FileSweep sweep(act);
     count.Add(act.name, "on a good disk", sweep.Finding());
-    for (const FilePoint& point : FileSweep::Points())
-        if (choice.Takes())
-            count.Add(act.name,
-                QString("full at %1 of the file%2").arg(point.share).arg(point.endsProcess ? ", the process ends" : ""),
-                sweep.FindingAt(point));
+    for (const FilePoint& point : choice.Of(FileSweep::Points()))
+        count.Add(act.name,
+            QString("full at %1 of the file%2").arg(point.share).arg(point.endsProcess ? ", the process ends" : ""),
+            sweep.FindingAt(point));
 }
 
 template <typename AnyAct>
