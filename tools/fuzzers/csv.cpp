@@ -3,6 +3,7 @@
 #include "exchange/csv_file.h"
 #include "exchange/csv_reader.h"
 
+#include <QStringDecoder>
 #include <QStringList>
 
 /// The reader of comma-separated text against its rules taken a character at a time. The first byte chooses the string
@@ -33,7 +34,7 @@ public:
                 titles.append(Trimmed(field));
                 field.clear();
             } else {
-                field += QString::fromUcs4(&m_text[m_pos - 1], 1);
+                field += QChar::fromUcs4(m_text[m_pos - 1]);
             }
         }
         if (!field.isEmpty())
@@ -81,7 +82,7 @@ private:
 
     void Append(QString& field)
     {
-        field += QString::fromUcs4(&m_text[m_pos - 1], 1);
+        field += QChar::fromUcs4(m_text[m_pos - 1]);
         ++m_pos;
     }
 
@@ -102,10 +103,17 @@ private:
     qsizetype m_pos = 1;
 };
 
+/// A byte order mark is a character like any other inside a text.
+QString Decoded(std::string_view utf8)
+{
+    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom)(
+        QByteArrayView(utf8.data(), qsizetype(utf8.size())));
+}
+
 Characters CharactersOf(const QByteArray& utf8)
 {
     Characters characters;
-    for (const uint character : QString::fromUtf8(utf8).toUcs4())
+    for (const uint character : Decoded({utf8.constData(), size_t(utf8.size())}).toUcs4())
         characters.append(character);
     return characters;
 }
@@ -114,7 +122,7 @@ QStringList CellsOf(const CsvReader& reader)
 {
     QStringList cells;
     for (const std::string_view cell : reader.Cells())
-        cells.append(QString::fromUtf8(cell.data(), qsizetype(cell.size())));
+        cells.append(Decoded(cell));
     return cells;
 }
 

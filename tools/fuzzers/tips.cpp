@@ -39,8 +39,7 @@ void Fuzz(FuzzInput input)
     const QByteArrayView bytes = input.Rest();
     const std::optional<QStringList> tips = ReadTips(WriteFile(bytes));
     Expect(tips.has_value(), "a file that is there is read");
-    const bool isMarked = !bytes.isEmpty() && (uint8_t(bytes.front()) >= 0xEF || bytes.front() == '\0');
-    if (!isMarked)
+    if (bytes.isValidUtf8() && !bytes.startsWith("\xEF\xBB\xBF") && !bytes.startsWith('\0'))
         Expect(*tips == PlainLines(bytes), "each line is a tip as it stands");
 
     const int count = int(tips->size());
