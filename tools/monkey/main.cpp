@@ -102,7 +102,9 @@ private:
     {
         if (end.how == LifeEnd::How::Finding)
             return;
-        const QString reason = end.how == LifeEnd::How::RunTimeError ? ReasonToEnd(end.text) : QStringLiteral("closed");
+        const QString reason = end.how == LifeEnd::How::RunTimeError
+            ? ReasonToEnd(end.text, end.lastEvents.value(end.lastEvents.size() - 1))
+            : QStringLiteral("closed");
         const QString wrong = Watch::WrongInFile(folder + QStringLiteral("/db.mdb"));
         if (reason.isEmpty() || !wrong.isEmpty()) {
             end.how = LifeEnd::How::Finding;

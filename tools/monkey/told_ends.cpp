@@ -6,22 +6,25 @@ namespace {
 
 struct ToldEnd {
     const char* text; ///< a pattern of the box's text
+    const char* event; ///< part of what was done last
     const char* reason;
 };
 
 constexpr ToldEnd ToldEnds[] = {
-    {"Syntax error.* LIKE '%", "an apostrophe in a search for customers"},
-    {"Syntax error.* barcode = '", "an apostrophe in a bar code"},
-    {"Syntax error in date in query expression .*invoice\\.SubmittedDate",
+    {"Syntax error.* LIKE '%", "", "an apostrophe in a search for customers"},
+    {"Syntax error.* barcode = '", "", "an apostrophe in a bar code"},
+    {"Syntax error in date in query expression .*invoice\\.SubmittedDate", "",
         "invoices are looked for from or to a day alone"},
+    {"Type mismatch", "frmItemQuantity", "a line's new price is no number"},
 };
 
 } // namespace
 
-QString ReasonToEnd(const QString& boxText)
+QString ReasonToEnd(const QString& boxText, const QString& lastEvent)
 {
     for (const ToldEnd& end : ToldEnds)
-        if (boxText.contains(QRegularExpression(QLatin1String(end.text))))
+        if (boxText.contains(QRegularExpression(QLatin1String(end.text)))
+            && lastEvent.contains(QLatin1String(end.event)))
             return QString::fromLatin1(end.reason);
     return {};
 }
