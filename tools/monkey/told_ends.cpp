@@ -12,7 +12,9 @@ struct ToldEnd {
 
 constexpr ToldEnd ToldEnds[] = {
     {"Syntax error.* LIKE '%", "", "an apostrophe in a search for customers"},
-    {"Syntax error.* barcode = '", "", "an apostrophe in a bar code"},
+    {"Characters found after end of SQL statement", "frmFindCustomer", "an apostrophe in a search for customers"},
+    {"Syntax error.*barcode = '", "", "an apostrophe in a bar code"},
+    {"Characters found after end of SQL statement", "txtBarcode", "an apostrophe in a bar code"},
     {"Syntax error in date in query expression .*invoice\\.SubmittedDate", "",
         "invoices are looked for from or to a day alone"},
     {"Type mismatch", "frmItemQuantity", "a line's new price is no number"},

@@ -104,7 +104,8 @@ QString Watch::WrongInFile(const QString& path)
         const char* column;
         const char* parent;
     };
-    // An item, customer or group may go while rows of other tables still name it.
+    // An item, a customer or a group may go while rows of other tables still name it; so may an invoice, from the
+    // history, that is open on its page, where lines can be added to it still.
     constexpr Relation relations[] = {
         {"item", "TaxRateID", "taxrate"},
         {"item", "LocationID", "location"},
@@ -112,7 +113,6 @@ QString Watch::WrongInFile(const QString& path)
         {"item", "VendorID", "vendor"},
         {"location", "WarehouseID", "warehouse"},
         {"subcategory", "CategoryID", "category"},
-        {"invoiceline", "InvoiceID", "invoice"},
         {"ItemPriceList", "PriceListID", "PriceList"},
     };
     for (const auto& [table, column, parent] : relations)
