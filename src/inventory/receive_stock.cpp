@@ -8,8 +8,11 @@
 #include "controls/scan_sound.h"
 #include "controls/scan_watch.h"
 #include "controls/status_line.h"
+#include "db/batch.h"
 #include "db/connection.h"
 #include "inventory/bar_codes.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -65,6 +68,16 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
 
 void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
 {
+    if (m_file.Changed(*gConnection) || !gInventory->Filter().isEmpty())
+        return LoadItems(row, selectId);
+    const int found = gInventory->RowOf(selectId);
+    gInventory->SelectRow(std::min(found > 0 ? found : row, gInventory->Rows() - 1));
+    if (!gInventory->RowIsVisible(gInventory->Row()))
+        gInventory->SetTopRow(gInventory->Row());
+}
+
+void frmReceiveStock::LoadItems(int row, qint64 selectId)
+{
     Hourglass hourglass;
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
@@ -92,6 +105,28 @@ void frmReceiveStock::FindByBarcode()
     txtAddQuantity->FocusAll();
 }
 
+/// Where nobody else wrote, the item's row alone is read anew.
+void frmReceiveStock::AddToStock(qint64 itemId, const QString& quantity)
+{
+    InBatch(*gConnection, [&] {
+        FileChanges file = m_file;
+        const bool isShown = !file.Changed(*gConnection);
+        gConnection->Execute(Sql("UPDATE item SET noinstock = noinstock + {quantity} WHERE id = {id}")
+                                 .Raw("quantity", quantity)
+                                 .Number("id", itemId));
+        if (!isShown)
+            return;
+        const Sql item = Sql("SELECT id, [number], name, noinstock FROM item WHERE id = {id}").Number("id", itemId);
+        const bool isLoaded = gInventory->LoadRow(item, [](const Recordset& row, GridFill& fill) {
+            enum { Id, Number, Name, NoInStock };
+            for (int field : {Number, Name, NoInStock})
+                fill.Add(row.Text(field));
+        });
+        if (isLoaded)
+            m_file.Remember(*gConnection);
+    });
+}
+
 void frmReceiveStock::UpdateStockLevel()
 {
     const QString quantity = txtAddQuantity->text();
@@ -105,9 +140,7 @@ void frmReceiveStock::UpdateStockLevel()
     if (itemId == 0)
         return;
 
-    gConnection->Execute(Sql("UPDATE item SET noinstock = noinstock + {quantity} WHERE id = {id}")
-                             .Raw("quantity", quantity)
-                             .Number("id", itemId));
+    AddToStock(itemId, quantity);
     RefreshInventoryList(gInventory->Row(), 0);
     ShowStatus(tr("%1 x %2 received, now %3")
                    .arg(quantity, gInventory->CellText(gInventory->Row(), "name"),

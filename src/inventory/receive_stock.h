@@ -3,6 +3,7 @@
 #include "controls/form.h"
 #include "controls/number_box.h"
 #include "controls/text_box.h"
+#include "db/file_changes.h"
 #include "records/record_list.h"
 
 #include <QPushButton>
@@ -23,8 +24,13 @@ public:
     CONTROL(QPushButton, cmdCancel);
 
 private:
+    /// Selects the row of `selectId`, else row number `row`; reads the items anew when they may have changed.
     void RefreshInventoryList(int row, qint64 selectId);
+    void LoadItems(int row, qint64 selectId);
+    void AddToStock(qint64 itemId, const QString& quantity);
     static void TellUnknownCode();
     void FindByBarcode();
     void UpdateStockLevel();
+
+    FileChanges m_file; ///< since the list shows it
 };

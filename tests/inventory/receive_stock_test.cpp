@@ -56,6 +56,13 @@ TEST_F(ReceiveStock, AScannerDrivesTheFormAlone)
     EXPECT_EQ(Stock(saw), 12);
     EXPECT_EQ(Stock(drill), 0.5);
 
+    EXPECT_EQ(GridRows(form->gInventory), Table({{"", "Drill", "0.5"}, {"", "Saw", "12"}}));
+    Run("UPDATE item SET NoInStock = 40 WHERE id = " + QString::number(saw));
+    Enter("222");
+    Enter("1");
+    EXPECT_EQ(GridColumn(form->gInventory, 2), QStringList({"1.5", "40"})) << "another program wrote the other one";
+    Run("UPDATE item SET NoInStock = 0.5 WHERE id = " + QString::number(drill));
+
     answers.ExpectMessage("Item not found.", Icon::Critical);
     Enter("333");
     EXPECT_TRUE(form->txtBarcode->hasFocus());
