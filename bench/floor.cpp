@@ -1,6 +1,9 @@
 #include "floor.h"
 
 #include "sql/dialect.h"
+#include "sql/function_names.h"
+
+#include <QRegularExpression>
 
 #include <sqlite3.h>
 
@@ -18,6 +21,16 @@ void Check(sqlite3* handle, int result)
 }
 
 } // namespace
+
+std::string InByteOrder(const char* statement)
+{
+    StatementShape shape;
+    ReadStatement(QString::fromUtf8(statement), shape);
+    const QRegularExpression key(QLatin1String(SortKeyFunction) + QStringLiteral("\\(([^()]*)\\)"));
+    return QString::fromStdString(Translate(shape).sql)
+        .replace(key, QStringLiteral("\\1 COLLATE BINARY"))
+        .toStdString();
+}
 
 FloorStatement::FloorStatement(sqlite3* handle, const char* statement)
     : FloorStatement(handle, QString::fromUtf8(statement))

@@ -13,6 +13,9 @@ struct EngineSql {
     const char* text;
 };
 
+/// A statement of the program without literals as the engine gets it, but with texts in the plain order of their bytes.
+std::string InByteOrder(const char* statement);
+
 /// What is measured against: a statement of the program, in the engine's own SQL as the program translates it, prepared
 /// once and run straight on the engine's interface. Whatever fails ends the benchmark with the engine's message.
 class FloorStatement {
