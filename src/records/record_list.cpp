@@ -4,6 +4,7 @@
 #include "base/regional_formats.h"
 #include "base/settings_store.h"
 #include "controls/flex_grid_model.h"
+#include "controls/hourglass.h"
 
 #include <algorithm>
 #include <cstring>
@@ -148,6 +149,7 @@ void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFil
         FilterAnew();
         return SelectLoaded(row, RowOf(selectId));
     }
+    const Hourglass hourglass;
 
     struct Cell {
         int field;
