@@ -44,6 +44,7 @@ public:
             return;
         ++m_findings;
         std::printf("%s, %s: %s\n", act, qPrintable(where), qPrintable(finding.trimmed()));
+        std::fflush(stdout);
     }
     int Findings() const { return m_findings; }
     /// Behind an act: how many points it had.
