@@ -97,7 +97,6 @@ function(tavrin_test folder)
     set(name test_${folder})
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE test_support ${ARGN})
-    target_compile_definitions(${name} PRIVATE GOLDEN_FOLDER="${CMAKE_CURRENT_SOURCE_DIR}/${folder}/golden")
     tavrin_compiled(${name} tests)
     add_test(NAME ${folder} COMMAND ${name})
     set_tests_properties(${folder} PROPERTIES

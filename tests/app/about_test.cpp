@@ -3,20 +3,12 @@
 #include "app/endpoints.h"
 #include "app/help_key.h"
 #include "app/system_info.h"
-#include "app/tip.h"
-#include "support/form_check.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+using AboutTest = DatabaseTest;
 
-namespace {
-
-class AboutTest : public DatabaseTest { };
-
-} // namespace
-
-TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSite)
+TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSiteAndItsHelp)
 {
+    const HelpKey helpKey(nullptr);
     frmAbout about(nullptr);
     Shown(&about);
     CheckForm(about, {"Picture1"});
@@ -29,6 +21,9 @@ TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSite)
     answers.ExpectLink(MakerWebSite());
     Click(about.Picture4);
     Click(about.Label2);
+    answers.ExpectHelpAt({"cmdOK", "frmAbout"});
+    Press(about.cmdOK, Qt::Key_F1);
+    Press(about.cmdOK, Qt::Key_F1, Qt::ShiftModifier);
     Click(about.cmdOK);
     QCoreApplication::processEvents();
     EXPECT_FALSE(about.isVisible());
@@ -54,22 +49,4 @@ TEST_F(AboutTest, SystemInformationCanBeCopiedAndSaysWhenItCannotBeHad)
     ScriptedAnswers answers;
     answers.ExpectMessage("System Information Is Unavailable At This Time", Icon::None);
     Click(about.cmdSysInfo);
-}
-
-TEST_F(AboutTest, F1OpensTheHelpFromAnyWindow)
-{
-    const HelpKey helpKey(nullptr);
-    frmAbout about(nullptr);
-    Shown(&about);
-    ScriptedAnswers answers;
-    answers.ExpectHelpAt({"cmdOK", "frmAbout"});
-    Press(about.cmdOK, Qt::Key_F1);
-    Press(about.cmdOK, Qt::Key_F1, Qt::ShiftModifier);
-}
-
-TEST_F(AboutTest, TheTipFormIsFitToShow)
-{
-    frmTip tip(nullptr);
-    CheckForm(tip);
-    EXPECT_EQ(tip.windowTitle(), "Tip of the Day");
 }

@@ -2,21 +2,31 @@
 
 #include "app/load_step.h"
 #include "app/main_window.h"
-#include "base/settings_store.h"
-#include "support/files.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
+#include "support/test.h"
 
 /// A main window over the test's own file, loaded as the program loads it, in a size of its own.
 class MainWindowTest : public DatabaseTest {
 protected:
     /// Loads the window and shows it in this size.
-    MainWindow& Window(QSize size = {1024, 700});
+    MainWindow& Window(QSize size = {1024, 700})
+    {
+        if (!m_window) {
+            m_window = std::make_unique<MainWindow>();
+            EXPECT_TRUE(LoadStep(*m_window, m_connection));
+            m_window->setWindowState(Qt::WindowNoState);
+            m_window->resize(size);
+            Shown(m_window.get());
+        }
+        return *m_window;
+    }
     /// Loads the window once more.
-    MainWindow& LoadAgain();
-    /// The database of the load; `gConnection` from then on.
-    Connection& Loaded() { return m_connection; }
+    MainWindow& LoadAgain()
+    {
+        m_window.reset();
+        gConnection = m_before;
+        m_connection.Close();
+        return Window();
+    }
 
     /// The label of the second tax on the invoice page; "" while it is hidden, with the amount beside it.
     static QString SecondTaxShown(const MainWindow& window)
@@ -36,7 +46,16 @@ protected:
         return panels;
     }
 
-    void TearDown() override;
+    void SetUp() override
+    {
+        DatabaseTest::SetUp();
+        m_before = gConnection;
+    }
+    void TearDown() override
+    {
+        m_window.reset();
+        DatabaseTest::TearDown();
+    }
 
 private:
     Connection m_connection;

@@ -1,15 +1,9 @@
 #include "app/app_test.h"
-#include "db/new_row.h"
 #include "inventory/item_details.h"
 #include "inventory/item_group_form.h"
 #include "invoicing/open_invoice.h"
 #include "parties/customer_record.h"
 #include "parties/vendor_record.h"
-
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QTest>
 
 namespace {
 
@@ -134,11 +128,14 @@ protected:
         });
     }
 
+    /// Brings up the menu of the second row, looks at it and chooses Delete, and No.
+    void ShowMenu();
+
     RecordList* list = nullptr;
     ScriptedAnswers answers;
 };
 
-TEST_P(ListPanelTest, ShowsItsRowsUnderItsTitleWithTheFocusInTheList)
+TEST_P(ListPanelTest, ShowsItsRowsUnderItsTitleWithTheFocusInTheListAndSortsUpwardsByEachTitle)
 {
     MakeRows();
     Open();
@@ -153,12 +150,7 @@ TEST_P(ListPanelTest, ShowsItsRowsUnderItsTitleWithTheFocusInTheList)
     const auto* bar = Find<QWidget>(&Window(), GetParam().bar);
     EXPECT_EQ(Button(GetParam().open)->parent(), bar);
     EXPECT_GT(bar->y(), list->geometry().bottom());
-}
 
-TEST_P(ListPanelTest, ATitleSortsUpwardsAndKeepsTheRowNumber)
-{
-    MakeRows();
-    Open();
     ClickRow(list, 2);
     for (int col = list->Cols() - 1; col >= 0; --col) {
         for (int click = 0; click < 2; ++click) {
@@ -193,10 +185,11 @@ TEST_P(ListPanelTest, ARowOpensByButtonDoubleClickAndEnterAndTheListIsReadAnew)
     EXPECT_EQ(list->Row(), 1);
 }
 
-TEST_P(ListPanelTest, EveryKeyDoesItsWork)
+TEST_P(ListPanelTest, EveryKeyDoesItsWorkAndARightClickOffersWhatTheButtonsDo)
 {
     MakeRows();
     Open();
+    ShowMenu();
     const auto expectOpen = [&](qint64 id) {
         if (GetParam().edited)
             ExpectForm(id);
@@ -236,10 +229,8 @@ TEST_P(ListPanelTest, EveryKeyDoesItsWork)
     Press(list, Qt::Key_Delete);
 }
 
-TEST_P(ListPanelTest, ARightClickOffersWhatTheButtonsDoAndTheKeysForIt)
+void ListPanelTest::ShowMenu()
 {
-    MakeRows();
-    Open();
     const QPoint secondRow = list->visualRect(list->model()->index(1, 0)).center();
     QTest::mouseClick(list->viewport(), Qt::RightButton, {}, secondRow);
     QContextMenuEvent rightClick(QContextMenuEvent::Mouse, secondRow, list->viewport()->mapToGlobal(secondRow));

@@ -7,16 +7,10 @@
 #include "config/tax_rates.h"
 #include "parties/customer_record.h"
 #include "parties/vendor_record.h"
-#include "support/golden.h"
-#include "support/wizard_walk.h"
-
-#include <QApplication>
-#include <QMenuBar>
-#include <QTest>
 
 namespace {
 
-class MenuTest : public MainWindowTest { };
+using MenuTest = MainWindowTest;
 
 QString Line(const QString& name, const QAction* action)
 {
@@ -64,7 +58,7 @@ TEST_F(MenuTest, MenusAndToolbarStandAsTheyAreDelivered)
     ExpectGolden(ToolbarOf(window), "toolbar.txt");
 }
 
-TEST_F(MenuTest, AnEntryShowsItsPanelAloneAndANumberThatNoPanelHasNone)
+TEST_F(MenuTest, AnEntryAndAToolbarButtonShowTheirPanelAloneAndANumberThatNoPanelHasNone)
 {
     MainWindow& window = Window();
     const auto visible = [&window] {
@@ -84,6 +78,14 @@ TEST_F(MenuTest, AnEntryShowsItsPanelAloneAndANumberThatNoPanelHasNone)
     for (const int number : {-1, 7, 1000})
         window.ShowMainPanel(number);
     EXPECT_EQ(visible(), "picItemGroups");
+    const auto click = [&](const char* key) {
+        Click(window.Toolbar->widgetForAction(window.Toolbar->findChild<QAction*>(key)));
+        return visible();
+    };
+    EXPECT_EQ(click("Inventory"), "picInventory");
+    EXPECT_EQ(click("Web Orders"), "picInventory");
+    EXPECT_EQ(click("Invoices"), "picArrivals");
+    EXPECT_EQ(EntryOfToolbarKey("Web Bookings"), "mnuWebConfig") << "an old key still runs the wizard";
 }
 
 TEST_F(MenuTest, AddingARecordReadsItsListAnewFromAnyView)
@@ -104,9 +106,11 @@ TEST_F(MenuTest, AddingARecordReadsItsListAnewFromAnyView)
     EXPECT_TRUE(window.picArrivals->isVisible());
 }
 
-TEST_F(MenuTest, ClosingTheTaxRatesLetsTheOpenInvoiceFollowAtOnce)
+TEST_F(MenuTest, ClosingTheTaxRatesOrTheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
 {
     Run("UPDATE settings SET SecondaryTaxEnable = 0");
+    // What an earlier run of the program switched off is on again with each load.
+    WizardState::Configuration.ShowWelcome = false;
     MainWindow& window = Window();
     window.Run("mnuReservationAdd");
     const auto closeWithTax = [&](const char* name) {
@@ -126,15 +130,6 @@ TEST_F(MenuTest, ClosingTheTaxRatesLetsTheOpenInvoiceFollowAtOnce)
     EXPECT_EQ(window.width(), 1024);
     closeWithTax("");
     EXPECT_EQ(SecondTaxShown(window), "");
-}
-
-TEST_F(MenuTest, TheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
-{
-    Run("UPDATE settings SET SecondaryTaxEnable = 0");
-    // What an earlier run of the program switched off is on again with each load.
-    WizardState::Configuration.ShowWelcome = false;
-    MainWindow& window = Window();
-    window.Run("mnuReservationAdd");
     NextOn<frmWizConfig_Welcome, frmWizConfig_Business, frmWizConfig_Logo>();
     AtPage<frmWizConfig_Tax>([](frmWizConfig_Tax& page) {
         Click(page.chkEnableTax2);
@@ -210,19 +205,4 @@ TEST_F(MenuTest, ToolbarButtonsHavePicturesOfTheirOwn)
         pictures.insert(QByteArray(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes()));
     }
     EXPECT_EQ(pictures.size(), 7);
-}
-
-TEST_F(MenuTest, ToolbarClicksSwitchPanelsAndWebOrdersDoesNothing)
-{
-    MainWindow& window = Window();
-    const auto click = [&](const char* key) {
-        Click(window.Toolbar->widgetForAction(window.Toolbar->findChild<QAction*>(key)));
-    };
-    click("Inventory");
-    EXPECT_TRUE(window.picInventory->isVisible());
-    click("Web Orders");
-    EXPECT_TRUE(window.picInventory->isVisible());
-    click("Invoices");
-    EXPECT_TRUE(window.picArrivals->isVisible());
-    EXPECT_EQ(EntryOfToolbarKey("Web Bookings"), "mnuWebConfig") << "an old key still runs the wizard";
 }

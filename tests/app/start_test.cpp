@@ -3,14 +3,9 @@
 #include "app/splash.h"
 #include "app/start.h"
 #include "app/tip.h"
-#include "base/files.h"
 #include "config/configuration_pages.h"
 #include "config/secondary_tax.h"
 #include "invoicing/open_invoice.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 namespace {
 
@@ -24,7 +19,6 @@ protected:
     void TearDown() override
     {
         program.reset();
-        gConnection = m_before;
         DatabaseTest::TearDown();
     }
 
@@ -47,9 +41,6 @@ protected:
     }
 
     std::unique_ptr<Program> program;
-
-private:
-    Connection* m_before = gConnection;
 };
 
 } // namespace
@@ -79,7 +70,7 @@ TEST_F(StartTest, TheFirstStartShowsTheTipAndAsksAndTheSecondDoesNot)
     EXPECT_TRUE(program->Window()->picArrivals->isVisible());
 }
 
-TEST_F(StartTest, EitherYesLeadsToTheConfigurationWizard)
+TEST_F(StartTest, EitherYesLeadsToTheConfigurationWizardAndAFirstRunThatIsNoBooleanToTheEnd)
 {
     SaveOption("Show Tips at Startup", "0");
     for (const bool tutorial : {true, false}) {
@@ -93,11 +84,6 @@ TEST_F(StartTest, EitherYesLeadsToTheConfigurationWizard)
         WhenFormShows<frmWizConfig_Welcome>([](frmWizConfig_Welcome& page) { Click(page.cmdCancel); });
         EXPECT_TRUE(Start());
     }
-}
-
-TEST_F(StartTest, AFirstRunThatIsNoBooleanEndsTheProgramAndStaysAsItIs)
-{
-    SaveOption("Show Tips at Startup", "0");
     SaveConfig("FirstRun", "perhaps");
     ExpectedEnd end;
     Start();

@@ -1,28 +1,6 @@
 #include "app/app_test.h"
 #include "app/tip.h"
 #include "app/tips.h"
-#include "base/files.h"
-
-namespace {
-
-struct Step {
-    int current;
-    int count;
-    int next;
-};
-
-class NextTipTest : public ::testing::TestWithParam<Step> { };
-
-} // namespace
-
-TEST_P(NextTipTest, GoesOnAndStartsAgainBehindTheLast)
-{
-    EXPECT_EQ(NextTip(GetParam().current, GetParam().count), GetParam().next);
-}
-
-INSTANTIATE_TEST_SUITE_P(Steps, NextTipTest,
-    ::testing::Values(Step{1, 3, 2}, Step{2, 3, 3}, Step{3, 3, 1}, Step{4, 3, 1}, Step{1, 1, 1}, Step{1, 0, 1},
-        Step{0, 3, 1}, Step{-7, 3, 1}, Step{2147483647, 3, 1}));
 
 namespace {
 
@@ -41,23 +19,18 @@ protected:
 
 } // namespace
 
-TEST_F(TipTest, EachOpeningMovesOneTipOnStartingWithTheSecond)
+TEST_F(TipTest, EachOpeningAndNextTipMoveOneTipOnStartingWithTheSecondAndThroughBlankLinesToo)
 {
-    Tips("one\ntwo\r\n<b>three</b>\n");
-    EXPECT_EQ(Opened(), "two");
-    EXPECT_EQ(Opened(), "<b>three</b>");
-    EXPECT_EQ(Opened(), "one");
-    EXPECT_EQ(GetOption("Current Tip", ""), "1");
-}
-
-TEST_F(TipTest, NextTipStepsThroughBlankLinesToo)
-{
-    Tips("one\n\n  three \n");
+    const std::tuple<int, int, int> steps[] = {
+        {1, 3, 2}, {2, 3, 3}, {3, 3, 1}, {4, 3, 1}, {1, 1, 1}, {1, 0, 1}, {0, 3, 1}, {-7, 3, 1}, {2147483647, 3, 1}};
+    for (const auto& [current, count, next] : steps)
+        EXPECT_EQ(NextTip(current, count), next) << current << " of " << count;
+    Tips("one\n<b>two</b>\r\n\n  four \n");
+    EXPECT_EQ(Opened(), "<b>two</b>");
+    EXPECT_EQ(Opened(), "");
     frmTip tip(nullptr);
     Shown(&tip);
-    EXPECT_EQ(tip.lblTipText->text(), "");
-    Click(tip.cmdNextTip);
-    EXPECT_EQ(tip.lblTipText->text(), "  three ");
+    EXPECT_EQ(tip.lblTipText->text(), "  four ");
     Click(tip.cmdNextTip);
     EXPECT_EQ(tip.lblTipText->text(), "one");
     EXPECT_EQ(GetOption("Current Tip", ""), "1");
@@ -105,19 +78,13 @@ TEST_F(TipTest, TheDeliveredTipsAreManyAndAllShowWithoutScrolling)
     }
 }
 
-TEST_F(TipTest, AnEmptyFileShowsNoTip)
-{
-    Tips("");
-    EXPECT_EQ(Opened(), "");
-    EXPECT_EQ(GetOption("Current Tip", ""), "1");
-}
-
-TEST_F(TipTest, UntickingTakesEffectAtOnce)
+TEST_F(TipTest, UntickingTakesEffectAtOnceAndAnEmptyFileShowsNoTip)
 {
     Tips("one\n");
     EXPECT_TRUE(frmTip::ShowAtStartup());
     frmTip tip(nullptr);
-    Shown(&tip);
+    CheckForm(tip);
+    EXPECT_EQ(tip.windowTitle(), "Tip of the Day");
     EXPECT_TRUE(tip.chkLoadTipsAtStartup->isChecked());
     Click(tip.chkLoadTipsAtStartup);
     EXPECT_EQ(GetOption("Show Tips at Startup", ""), "0");
@@ -125,4 +92,7 @@ TEST_F(TipTest, UntickingTakesEffectAtOnce)
     EXPECT_FALSE(frmTip(nullptr).chkLoadTipsAtStartup->isChecked());
     Click(tip.chkLoadTipsAtStartup);
     EXPECT_EQ(GetOption("Show Tips at Startup", ""), "1");
+    Tips("");
+    EXPECT_EQ(Opened(), "");
+    EXPECT_EQ(GetOption("Current Tip", ""), "1");
 }

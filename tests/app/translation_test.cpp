@@ -1,10 +1,6 @@
 #include "app/app_test.h"
 #include "app/language.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QGroupBox>
-#include <QRegularExpression>
 #include <QTranslator>
 
 namespace {

@@ -1,30 +1,11 @@
-#include "base/clock.h"
 #include "base/date_reader.h"
 #include "base/dates.h"
-#include "base/regional.h"
-#include "support/golden.h"
-
-#include <gtest/gtest.h>
-
-#include <random>
+#include "support/test.h"
 
 namespace {
 
-class Dates : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        SetClock([] { return QDateTime(QDate(2024, 2, 10), QTime(9, 0)); });
-    }
-    void TearDown() override { SetClock({}); }
-};
-
-/// The heading is a function and a locale.
-QString Answer(const QString& heading, const QString& given)
+QString Answered(const QString& function, const QString& given)
 {
-    const QString locale = heading.section(' ', 1, 1);
-    SetRegional(QLocale(locale.isEmpty() ? "en_US" : locale));
-    const QString function = heading.section(' ', 0, 0);
     const QDateTime date = QDateTime::fromString(given.section('|', 0, 0), Qt::ISODate);
     if (function == "FormatDate")
         return FormatDate(date, given.section('|', 1));
@@ -38,14 +19,15 @@ QString Answer(const QString& heading, const QString& given)
     return read ? read->toString("yyyy-MM-dd'T'HH:mm:ss") : "none";
 }
 
-TEST_F(Dates, AreReadAndWrittenByTheRulesOfTheLocale)
+TEST(Dates, AreReadAndWrittenByTheRulesOfTheLocale)
 {
-    ExpectCases("dates.txt", Answer);
+    SetClock([] { return QDateTime(QDate(2024, 2, 10), QTime(9, 0)); });
+    ExpectCases("dates.txt", Answered);
     EXPECT_FALSE(ReadDate(QString(1000000, '1')));
 }
 
 /// What masks write is read back in every locale, as typed text and in statements alike, and so are English months.
-TEST_F(Dates, TextsOfAllLocalesReadBack)
+TEST(Dates, TextsOfAllLocalesReadBack)
 {
     const auto everyLocale = QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory);
     ASSERT_GT(everyLocale.size(), 500);
@@ -74,7 +56,7 @@ TEST_F(Dates, TextsOfAllLocalesReadBack)
     }
 }
 
-TEST_F(Dates, CalendarHelpersKnowTheirRange)
+TEST(Dates, CalendarHelpersKnowTheirRange)
 {
     EXPECT_EQ(LastDayOfMonth(QDate(2004, 2, 1)), 29);
     EXPECT_EQ(MonthAbbreviation(9), "Sep");
@@ -84,7 +66,7 @@ TEST_F(Dates, CalendarHelpersKnowTheirRange)
     EXPECT_EQ(WeekdayNumber("Montag"), 0);
 }
 
-TEST_F(Dates, AnyTextIsReadWithoutHarm)
+TEST(Dates, AnyTextIsReadWithoutHarm)
 {
     const QStringList pieces = QString("1|2|31|1970|70|Jan|may|am|pm|/|-|.|:|,| |x|\"|٣|\u200F|sept").split('|');
     std::mt19937 random(1);

@@ -1,12 +1,6 @@
+#include "base/database_path.h"
 #include "base/files.h"
-#include "base/guard.h"
-#include "base/runtime_error.h"
-
-#include <gtest/gtest.h>
-
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include "support/test.h"
 
 namespace {
 
@@ -26,18 +20,13 @@ TEST_F(Files, AFolderMayEndInEitherSeparatorOrNone)
     SetProgramFolder("/opt/tavrin/");
     EXPECT_EQ(ProgramFolder(), "/opt/tavrin");
     SetProgramFolder("");
-    EXPECT_TRUE(FileExists(ProgramFolder()));
-}
-
-TEST_F(Files, FoldersAndDanglingLinksExistToo)
-{
-    EXPECT_TRUE(FileExists(m_folder.path()));
+    EXPECT_TRUE(FileExists(ProgramFolder())) << "a folder exists, too";
     EXPECT_FALSE(FileExists(Path("none")));
     ASSERT_TRUE(QFile::link(Path("none"), Path("link")));
-    EXPECT_TRUE(FileExists(Path("link")));
+    EXPECT_TRUE(FileExists(Path("link"))) << "though it leads nowhere";
 }
 
-TEST_F(Files, AUniqueNameIsOneThatIsFree)
+TEST_F(Files, AUniqueNameIsFreeAndATemporaryFileIsMadeAndStays)
 {
     const QString path = MakeUniqueFileName(m_folder.path() + "\\", ".csv");
     EXPECT_FALSE(FileExists(path));
@@ -46,14 +35,10 @@ TEST_F(Files, AUniqueNameIsOneThatIsFree)
     EXPECT_LT(QFileInfo(path).completeBaseName().toUInt(&hexadecimal, 16), 65535u);
     EXPECT_TRUE(hexadecimal);
     EXPECT_EQ(QFileInfo(path).path(), m_folder.path());
-}
-
-TEST_F(Files, TemporaryFilesAreMadeAndStay)
-{
-    const QString path = MakeTempFile(m_folder.path(), "tav");
-    EXPECT_TRUE(FileExists(path));
-    EXPECT_TRUE(QFileInfo(path).fileName().startsWith("tav"));
-    EXPECT_NE(MakeTempFile(m_folder.path(), "tav"), path);
+    const QString made = MakeTempFile(m_folder.path(), "tav");
+    EXPECT_TRUE(FileExists(made));
+    EXPECT_TRUE(QFileInfo(made).fileName().startsWith("tav"));
+    EXPECT_NE(MakeTempFile(m_folder.path(), "tav"), made);
     EXPECT_EQ(MakeTempFile(Path("no such folder"), "tav"), "");
 }
 
@@ -64,13 +49,20 @@ TEST_F(Files, TextEndsAtItsFirstNul)
     EXPECT_EQ(TrimAtNull(QString(2, QChar::Null)), "");
 }
 
+// Also run by the check of the package, from where an installed program lies.
+TEST_F(Files, PicturesOfLogosGoToTheProgramsFolderOrToTheDatabasesWhereItIsInstalled)
+{
+    SaveConfig("DBPath", "/shop/");
+    const QString folder = QCoreApplication::applicationDirPath();
+    EXPECT_EQ(LogoFolder(), folder.endsWith("/lib/tavrin-inventory") ? "/shop" : folder);
+}
+
 class Guard : public testing::Test {
 protected:
-    void SetUp() override
+    Guard()
     {
         SetProgramEnd([this](const RuntimeError& error) { m_errors.append(error.BoxText()); });
     }
-    void TearDown() override { SetProgramEnd({}); }
 
     QStringList m_errors;
 };
@@ -91,8 +83,13 @@ TEST_F(Guard, TheFirstErrorEndsTheProgramAndNothingRunsAfterIt)
     EXPECT_EQ(later, 0);
 }
 
-TEST_F(Guard, HandlersTakeAsManyOfASignalsArgumentsAsTheyWant)
+TEST_F(Guard, HandlersTakeAsManyOfASignalsArgumentsAsTheyWantAndIgnoringDropsRunTimeErrorsAlone)
 {
+    EXPECT_FALSE(Ignoring([] { throw TypeMismatch(); }));
+    EXPECT_TRUE(Ignoring([] {}));
+    EXPECT_FALSE(ProgramHasEnded());
+    EXPECT_THROW(Ignoring([] { throw std::logic_error("a fault of ours"); }), std::logic_error);
+
     QObject sender;
     QStringList heard;
     On(&sender, &QObject::objectNameChanged, &sender, [&](const QString& name) { heard.append(name); });
@@ -101,14 +98,6 @@ TEST_F(Guard, HandlersTakeAsManyOfASignalsArgumentsAsTheyWant)
     sender.setObjectName("name");
     EXPECT_EQ(heard, (QStringList{"name", "none"}));
     EXPECT_EQ(m_errors, QStringList{"Run-time error '-2147217900 (80040e14)':\n\nno"});
-}
-
-TEST_F(Guard, IgnoringDropsRunTimeErrorsAndNothingElse)
-{
-    EXPECT_FALSE(Ignoring([] { throw TypeMismatch(); }));
-    EXPECT_TRUE(Ignoring([] {}));
-    EXPECT_FALSE(ProgramHasEnded());
-    EXPECT_THROW(Ignoring([] { throw std::logic_error("a fault of ours"); }), std::logic_error);
 }
 
 } // namespace

@@ -1,73 +1,44 @@
 #include "base/numbers.h"
-#include "base/regional.h"
-#include "base/runtime_error.h"
-#include "support/golden.h"
-
-#include <gtest/gtest.h>
-
-#include <QHash>
-
-#include <random>
+#include "base/retail_code.h"
+#include "support/test.h"
 
 namespace {
-
-/// The number of the error that `body` throws; 0 for none.
-template <typename Body>
-int ErrorOf(Body&& body)
-{
-    try {
-        body();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-}
 
 Currency Amount(const QString& tenThousandths)
 {
     return Currency::FromTenThousandths(tenThousandths.toLongLong());
 }
 
-QString Count(Currency amount)
+/// What is given may have a second part, behind a bar.
+QString Answered(const QString& function, const QString& given)
 {
-    return QString::number(amount.TenThousandths());
-}
-
-QString Number(double value)
-{
-    return QString::number(value, 'g', 15);
-}
-
-/// The heading is a function and a locale; what is given may have a second part, behind a bar.
-QString Answer(const QString& heading, const QString& given)
-{
-    const QString locale = heading.section(' ', 1, 1);
-    SetRegional(QLocale(locale.isEmpty() ? "en_US" : locale));
+    const auto number = [](double value) { return QString::number(value, 'g', 15); };
+    const auto count = [](Currency amount) { return QString::number(amount.TenThousandths()); };
     const QString first = given.section('|', 0, 0), second = given.section('|', 1);
     const QHash<QString, std::function<QString()>> functions{
-        {"CDbl", [&] { return Number(CDbl(given)); }},
-        {"CCur", [&] { return Count(CCur(given)); }},
-        {"CCurOfDouble", [&] { return Count(CCur(given.toDouble())); }},
+        {"CDbl", [&] { return number(CDbl(given)); }},
+        {"CCur", [&] { return count(CCur(given)); }},
+        {"CCurOfDouble", [&] { return count(CCur(given.toDouble())); }},
         {"CLng", [&] { return QString::number(CLng(given)); }},
         {"ToInteger16", [&] { return QString::number(ToInteger16(given.toInt())); }},
         {"CBool", [&] { return TruthText(CBool(given)); }},
-        {"Val", [&] { return Number(Val(given)); }},
+        {"Val", [&] { return number(Val(given)); }},
         {"CStr", [&] { return CStr(given.toDouble()); }},
         {"CStrOfCurrency", [&] { return CStr(Amount(given)); }},
-        {"RoundedHalfAway", [&] { return Count(Amount(first).RoundedHalfAway(second.toInt())); }},
+        {"RoundedHalfAway", [&] { return count(Amount(first).RoundedHalfAway(second.toInt())); }},
         {"FormatNumber", [&] { return FormatNumber(first.toDouble(), second); }},
         {"FormatText", [&] { return FormatNumber(first, second); }},
         {"FormatCurrency", [&] { return FormatCurrency(Amount(given)); }},
         {"FormatDouble", [&] { return FormatCurrency(given.toDouble()); }},
         {"FormatCurrencyText", [&] { return FormatCurrency(given); }},
     };
-    return functions.value(heading.section(' ', 0, 0))();
+    return functions.value(function)();
 }
 
 TEST(Numbers, TextsAreReadAndWrittenByTheRulesOfTheLocale)
 {
-    ExpectCases("numbers.txt", Answer);
-    ExpectCases("currency.txt", Answer);
+    ExpectCases("numbers.txt", Answered);
+    ExpectCases("currency.txt", Answered);
 }
 
 TEST(Currency, ArithmeticThatLeavesTheRangeOverflows)
@@ -79,10 +50,7 @@ TEST(Currency, ArithmeticThatLeavesTheRangeOverflows)
     for (const auto& overflow : overflows)
         EXPECT_EQ(ErrorOf(overflow), 6);
     EXPECT_EQ(largest - one + one, largest);
-}
-
-TEST(Currency, ADiscountOfTenPercentIsRoundedBeforeItIsTakenOff)
-{
+    // A discount of ten percent is rounded before it is taken off.
     const Currency price = Amount("99900");
     EXPECT_EQ(price - CCur(price.ToDouble() * 10 / 100), Amount("89910"));
 }
@@ -132,32 +100,23 @@ TEST(Numbers, WhatIsNumericIsWhatConverts)
     EXPECT_GT(numeric, 2000) << "too few of the texts are numbers to say much";
 }
 
-const char* const Locales[] = {"en_US", "en_GB", "de_DE", "fr_FR", "ja_JP", "sv_SE", "nl_NL", "de_CH", "en_IN", "es_ES",
-    "pl_PL", "da_DK", "hi_IN", "ar_KW", "ar_EG", "fa_IR", "he_IL", "ff_Adlm_GN"};
-
-TEST(CurrencyOfLocales, AmountsAreReadBackAsTheyAreShown)
+TEST(Currency, IsShownAsTheLocaleDataHasItAndReadBackInEveryLocale)
 {
-    for (const char* locale : Locales) {
-        SetRegional(QLocale(locale));
+    for (const char* name : {"en_US", "en_GB", "de_DE", "fr_FR", "ja_JP", "sv_SE", "nl_NL", "de_CH", "en_IN", "es_ES",
+             "pl_PL", "da_DK", "hi_IN", "ar_KW", "ar_EG", "fa_IR", "he_IL", "ff_Adlm_GN"}) {
+        const QLocale locale(name);
+        SetRegional(locale);
         std::mt19937_64 random(20030704);
         for (int turn = 0; turn < 2000; ++turn) {
             const Currency amount = Currency::FromTenThousandths(qint64(random()) >> (random() % 63));
             const QString text = FormatCurrency(amount);
-            ASSERT_TRUE(IsNumeric(text)) << locale << text.toStdString();
+            ASSERT_TRUE(IsNumeric(text)) << name << text.toStdString();
             // The largest amounts round up to what no amount can hold.
             if (qAbs(amount.ToDouble()) < 9e14) {
-                ASSERT_EQ(CCur(text), amount.RoundedHalfAway(CurrencyDigits())) << locale << text.toStdString();
+                ASSERT_EQ(CCur(text), amount.RoundedHalfAway(CurrencyDigits())) << name << text.toStdString();
             }
         }
-    }
-}
-
-TEST(CurrencyOfLocales, FramesAreThoseOfTheLocaleData)
-{
-    // All numbers are written with the same digits, those that stand without a frame included.
-    for (const char* name : Locales) {
-        const QLocale locale(name);
-        SetRegional(locale);
+        // All numbers are written with the same digits, those that stand without a frame included.
         for (const double amount : {1.0, -1.0, 1234.0, -98765432.0}) {
             QString expected = locale.toCurrencyString(amount);
             for (int digit = 0; digit <= 9; ++digit)
@@ -165,6 +124,15 @@ TEST(CurrencyOfLocales, FramesAreThoseOfTheLocaleData)
             EXPECT_EQ(FormatCurrency(amount), expected) << name;
         }
     }
+}
+
+TEST(RetailCode, IsTheDigitsOfAnEanOrUpcWithTheRightCheckDigit)
+{
+    for (const char* code : {"4006381333931", "036000291452", "96385074", "0000000000000"})
+        EXPECT_TRUE(IsRetailCode(code)) << code;
+    for (const char* text :
+        {"", "4006381333932", "36000291452", "1234567", "40063813339310", "400638133393A", "-4006381333931", "100000"})
+        EXPECT_FALSE(IsRetailCode(text)) << text;
 }
 
 } // namespace

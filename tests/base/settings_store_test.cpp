@@ -1,31 +1,19 @@
 #include "base/settings_store.h"
-#include "support/files.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QTemporaryDir>
+#include "support/test.h"
 
 namespace {
 
 class SettingsStore : public testing::Test {
 protected:
-    void SetUp() override { SetSettingsFolder(m_folder.path()); }
-    void TearDown() override { SetSettingsFolder(QString()); }
+    SettingsStore() { SetSettingsFolder(m_folder.path()); }
 
     QTemporaryDir m_folder;
 };
 
-TEST_F(SettingsStore, AnAbsentKeyGivesTheFallbackAndAStoredEmptyTextDoesNot)
+TEST_F(SettingsStore, TextsComeBackAsTheyWereSavedAndAnAbsentKeyGivesTheFallback)
 {
-    EXPECT_EQ(GetConfig("DBPath", "/opt/tavrin/"), "/opt/tavrin/");
-    SaveConfig("DBPath", "");
-    EXPECT_EQ(GetConfig("DBPath", "/opt/tavrin/"), "");
-}
-
-TEST_F(SettingsStore, TextsComeBackAsTheyWereSaved)
-{
-    const QStringList texts = {"a,b", "say \"hello\"", "two\nlines\r\n", QStringLiteral("nul\0nul"), "Ünïcödé 😀",
+    EXPECT_EQ(GetConfig("Text", "/opt/tavrin/"), "/opt/tavrin/");
+    const QStringList texts = {"", "a,b", "say \"hello\"", "two\nlines\r\n", QStringLiteral("nul\0nul"), "Ünïcödé 😀",
         "@Variant(", "@", "a;b=c", " blanks ", "C:\\Data\\", "%20", "True", "8.25", QString(100000, 'x')};
     for (const QString& text : texts) {
         SaveConfig("Text", text);
@@ -50,7 +38,7 @@ TEST_F(SettingsStore, TextsWrittenByHandAreReadWholeAndStayAsTheyAre)
     }
 }
 
-TEST_F(SettingsStore, EachAddressIsItsOwn)
+TEST_F(SettingsStore, EachAddressIsItsOwnAndAStoreThatCannotBeReadCountsAsEmpty)
 {
     SaveConfig("Current Tip", "config");
     SaveOption("Current Tip", "option");
@@ -59,18 +47,11 @@ TEST_F(SettingsStore, EachAddressIsItsOwn)
     EXPECT_EQ(GetOption("Current Tip", ""), "option");
     EXPECT_EQ(GetSetting("TavrinInventory", "Options", "Current Tip", ""), "option");
     EXPECT_EQ(GetSetting("Tavrin Inventory", "Config", "Current Tip", ""), "config");
-}
+    EXPECT_TRUE(ReadFile(m_folder.filePath("Tavrin Inventory.ini")).contains("Current%20Tip=config")) << "at once";
 
-TEST_F(SettingsStore, AValueIsOnDiskAtOnce)
-{
-    SaveConfig("FirstRun", "False");
-    EXPECT_TRUE(ReadFile(m_folder.filePath("Tavrin Inventory.ini")).contains("FirstRun=False"));
-}
-
-TEST_F(SettingsStore, AStoreThatCannotBeReadCountsAsEmpty)
-{
-    // Folders stand where the files would be.
-    ASSERT_TRUE(QDir(m_folder.path()).mkpath("Tavrin Inventory.ini"));
+    // A folder stands where the file would be.
+    SetSettingsFolder(m_folder.filePath("other"));
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath("other/Tavrin Inventory.ini"));
     EXPECT_EQ(GetConfig("FirstRun", "True"), "True");
     SaveConfig("FirstRun", "False");
     EXPECT_EQ(GetConfig("FirstRun", "True"), "True");

@@ -1,16 +1,11 @@
 #include "chart/chart_scene.h"
-#include "support/golden.h"
-#include "support/printing.h"
+#include "support/test.h"
 
-#include <gtest/gtest.h>
-
-#include <QDate>
+#include <cmath>
 #include <QFontMetricsF>
 #include <QLineF>
 #include <QPolygonF>
 #include <QTransform>
-
-#include <cmath>
 
 namespace {
 

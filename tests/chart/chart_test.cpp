@@ -1,30 +1,10 @@
-#include "base/regional.h"
-#include "base/runtime_error.h"
 #include "chart/chart.h"
 #include "chart/chart_colors.h"
-#include "controls/dialogs.h"
-#include "support/printing.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <QAccessible>
-#include <QAction>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDir>
-#include <QFile>
-#include <QGuiApplication>
 #include <QImage>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolTip>
 
 namespace {
 

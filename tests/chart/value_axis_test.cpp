@@ -1,8 +1,5 @@
 #include "chart/value_axis.h"
-#include "support/golden.h"
-#include "support/printing.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <cmath>
 
@@ -10,10 +7,9 @@ namespace {
 
 TEST(NiceAxes, StandOnRoundNumbersAndHoldAllValues)
 {
-    ExpectCases("value_axes.txt", [](const QString& heading, const QString& values) {
-        const bool whole = heading == "whole numbers";
+    ExpectCases("value_axes.txt", [](const QString& kind, const QString& values) {
         const ValueAxis axis =
-            NiceAxis(values.section(' ', 0, 0).toDouble(), values.section(' ', 1).toDouble(), whole, 5);
+            NiceAxis(values.section(' ', 0, 0).toDouble(), values.section(' ', 1).toDouble(), kind == "whole", 5);
         return QString("%1: %2 %3").arg(axis.step).arg(axis.first).arg(axis.last);
     });
 }

@@ -1,16 +1,8 @@
 #include "base/numbers.h"
-#include "base/regional.h"
-#include "base/settings_store.h"
 #include "config/configuration_pages.h"
 #include "config/configuration_wizard.h"
 #include "config/secondary_tax.h"
-#include "support/form_test.h"
-#include "support/golden.h"
-#include "support/wizard_walk.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "support/test.h"
 
 namespace {
 
@@ -223,7 +215,7 @@ TEST_F(ConfigurationWizardTest, ALogoIsStoredUnderANewNameInTheProgramsFolderAls
     }
 }
 
-TEST_F(ConfigurationWizardTest, APictureThatCannotBeLoadedIsToldAndTheOneBeforeStays)
+TEST_F(ConfigurationWizardTest, APictureThatCannotBeLoadedIsToldAndTheOneBeforeStaysUntilItIsCleared)
 {
     const QString broken = Folder() + "/settings/broken.jpg";
     QDir().mkpath(Folder() + "/settings");
@@ -244,11 +236,8 @@ TEST_F(ConfigurationWizardTest, APictureThatCannotBeLoadedIsToldAndTheOneBeforeS
         }
         EXPECT_EQ(page.picPreview->findChild<QLabel*>()->pixmap().size(), QSize(40, 20));
     }));
-}
 
-TEST_F(ConfigurationWizardTest, ClearTakesTheLogoAwayEvenWhenThePageIsLeftByBack)
-{
-    Run(QStringLiteral("UPDATE settings SET Logofilename = '%1'").arg(Logo("shop.bmp")));
+    // Clear takes the logo away even when the page is left by Back.
     NextOn<frmWizConfig_Welcome, frmWizConfig_Business>();
     AtPage<frmWizConfig_Logo>([](frmWizConfig_Logo& page) {
         Click(page.cmdClear);

@@ -1,6 +1,6 @@
 #include "config/categories.h"
 #include "config/locations.h"
-#include "support/form_test.h"
+#include "support/test.h"
 
 /// What is particular to warehouses with their locations and to categories with their sub-categories.
 

@@ -1,10 +1,7 @@
 #include "config/categories.h"
 #include "config/locations.h"
 #include "config/tax_rates.h"
-#include "support/form_test.h"
-
-#include <QListWidget>
-#include <QTest>
+#include "support/test.h"
 
 /// What all dialogs over key tables owe: the refusals and questions word for word and in their order, and a form that
 /// asks for the name.
@@ -106,7 +103,7 @@ protected:
 
 } // namespace
 
-TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemove)
+TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemoveAndARowThatHasGoneIsNotWrittenAnew)
 {
     const QString nothingToEdit = GetParam().Said("No %1 has been selected to edit. Please select a %1 and try again.");
     Run(GetParam().emptied);
@@ -119,6 +116,18 @@ TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemove)
         answers.ExpectMessage(nothingToEdit, Icon::Critical);
         QTest::mouseDClick(List()->viewport(), Qt::LeftButton);
     }
+    Run(GetParam().row);
+    Open();
+    Run(QStringLiteral("DELETE FROM %1 WHERE id = 500").arg(GetParam().table));
+    const qint64 before = RowCount();
+    answers.ExpectMessage("Record not found.", Icon::None);
+    WhenDetailsShow([](NameForm& details) {
+        EXPECT_EQ(details.txtName->text(), "");
+        Type(details.txtName, "Again");
+        Click(details.cmdOK);
+    });
+    Press("Edit");
+    EXPECT_EQ(RowCount(), before);
 }
 
 TEST_P(KeyTablesTest, ARowInUseIsRefusedAndAnotherGoesOnYesAlone)
@@ -210,21 +219,6 @@ TEST_P(KeyTablesTest, EditingRenamesTheSelectedRowAlone)
         }
     }
     EXPECT_EQ(Name(), "ZETA");
-}
-
-TEST_P(KeyTablesTest, ARowThatHasGoneIsReportedAndNotWrittenAnew)
-{
-    OpenOverOneRow();
-    Run(QStringLiteral("DELETE FROM %1 WHERE id = 500").arg(GetParam().table));
-    const qint64 before = RowCount();
-    answers.ExpectMessage("Record not found.", Icon::None);
-    WhenDetailsShow([](NameForm& details) {
-        EXPECT_EQ(details.txtName->text(), "");
-        Type(details.txtName, "Again");
-        Click(details.cmdOK);
-    });
-    Press("Edit");
-    EXPECT_EQ(RowCount(), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, KeyTablesTest, ::testing::ValuesIn(Dialogs),

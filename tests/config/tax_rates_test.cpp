@@ -1,8 +1,6 @@
 #include "config/secondary_tax.h"
 #include "config/tax_rates.h"
-#include "support/form_test.h"
-
-#include <QCoreApplication>
+#include "support/test.h"
 
 namespace {
 
@@ -30,6 +28,12 @@ TEST_F(TaxRatesTest, ListsNamesWithPercentagesButNotTheRowForNone)
     CheckForm(*form);
     EXPECT_EQ(Entries(form->lstItems), QStringList({" (%)", "%1 off (5%)", "Standard (8.25%)"}));
     EXPECT_EQ(form->lstItems->currentRow(), 0);
+
+    const auto details = Details(NewRow);
+    const int top = details->txtName->y();
+    details->resize(details->width(), 3 * details->height());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(details->txtName->y(), top) << "details dragged taller keep their boxes below the instructions";
 }
 
 TEST_F(TaxRatesTest, ATypedPercentageIsStoredAsTheNumberRulesReadItOrEndsTheProgram)
@@ -58,15 +62,6 @@ TEST_F(TaxRatesTest, ATypedPercentageIsStoredAsTheNumberRulesReadItOrEndsTheProg
         EXPECT_EQ(end.Ended() ? "the end" : Single("SELECT percentage FROM taxrate WHERE name = 'Old'"), updatedTo);
         EXPECT_TRUE(!end.Ended() || Single("SELECT percentage FROM taxrate WHERE name = 'Old'") == "5.0");
     }
-}
-
-TEST_F(TaxRatesTest, DetailsDraggedTallerKeepTheirBoxesBelowTheInstructions)
-{
-    const auto details = Details(NewRow);
-    const int top = details->txtName->y();
-    details->resize(details->width(), 3 * details->height());
-    QCoreApplication::processEvents();
-    EXPECT_EQ(details->txtName->y(), top);
 }
 
 TEST_F(TaxRatesTest, TheSecondaryTaxIsOpenWhileItIsEnabledAndAsStoredAfterAChangeOfTheRates)
@@ -116,4 +111,26 @@ TEST_F(TaxRatesTest, ClosingThemStoresTheSecondaryTaxAndReadsTheTripleAnew)
     Click(form->cmdCancel);
     EXPECT_TRUE(end.Ended()) << "no number";
     EXPECT_EQ(Single("SELECT SecondaryTaxPercentage FROM settings").toDouble(), 3);
+}
+
+TEST_F(TaxRatesTest, TheSecondaryTaxComesFromTheSettingsRow)
+{
+    const auto loaded = [this](const char* statement) {
+        Run(statement);
+        LoadSecondaryTax();
+        return QStringLiteral("%1 %2 %3")
+            .arg(SecondaryTax::SecondaryTaxEnable)
+            .arg(SecondaryTax::SecondaryTaxName)
+            .arg(SecondaryTax::SecondaryTaxPercentage);
+    };
+    EXPECT_EQ(loaded("UPDATE settings SET SecondaryTaxEnable = NULL, SecondaryTaxName = NULL, "
+                     "SecondaryTaxPercentage = NULL"),
+        "0  0");
+    EXPECT_EQ(loaded("UPDATE settings SET SecondaryTaxEnable = 1, SecondaryTaxName = 'City Tax', "
+                     "SecondaryTaxPercentage = 7.5"),
+        "1 City Tax 7.5");
+    EXPECT_EQ(loaded("DELETE FROM settings"), "0 2nd Sales Tax 10");
+    Run("DROP TABLE settings");
+    EXPECT_THROW(LoadSecondaryTax(), RuntimeError);
+    EXPECT_EQ(SecondaryTax::SecondaryTaxName, "2nd Sales Tax") << "a failure leaves the triple";
 }

@@ -1,19 +1,7 @@
 #include "controls/dialogs.h"
-#include "controls/message_box.h"
-#include "support/printing.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <QFileDialog>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -67,16 +55,14 @@ TEST(Dialogs, TheWindowsPictureIsPrintedAfterTheDialogAlone)
     CurrentPrinter().setOutputFileName(QString());
 }
 
-namespace {
 void ChooseFile(QFileDialog& dialog, const QString& path)
 {
     auto* box = Find<QLineEdit>(&dialog, "fileNameEdit");
     box->setText(path);
     QTest::keyClick(box, Qt::Key_Return);
 }
-} // namespace
 
-TEST(Dialogs, AFolderThatIsMissingIsToldAndTheFileAskedForAgain)
+TEST(Dialogs, AMissingFolderIsToldAndTheFileAskedForAgainAndAFileThatMustExistIsChosenWithoutAQuestion)
 {
     QTemporaryDir folder;
     const QString missing = folder.filePath("gone/page.html");
@@ -87,13 +73,9 @@ TEST(Dialogs, AFolderThatIsMissingIsToldAndTheFileAskedForAgain)
     });
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("page")); });
     EXPECT_EQ(SaveFileName("Save", "HTML (*.html);;HTM (*.htm)", ""), folder.filePath("page.html"));
-}
 
-TEST(Dialogs, AFileThatMustExistIsChosenWithoutAQuestion)
-{
-    QTemporaryDir folder;
     const QString path = folder.filePath("items.csv");
-    ASSERT_TRUE(QFile(path).open(QFile::WriteOnly));
+    WriteFile(path, "");
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
         WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });

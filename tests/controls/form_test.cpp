@@ -1,20 +1,7 @@
-#include "controls/combo_box.h"
-#include "controls/date_picker.h"
 #include "controls/form.h"
-#include "controls/layout.h"
-#include "controls/text_box.h"
-#include "support/form_check.h"
-#include "support/printing.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <QMainWindow>
-#include <QMessageBox>
-#include <QMouseEvent>
-#include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -190,7 +177,7 @@ TEST(Panels, TakeNoClickOfTheGestureThatBroughtThem)
     QApplication::setDoubleClickInterval(interval);
 }
 
-TEST(MessageBoxes, AYesNoQuestionMustBeAnswered)
+TEST(MessageBoxes, AYesNoQuestionMustBeAnsweredAndEscCancelsWhereThereIsACancel)
 {
     WhenFormShows<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.objectName(), "MsgBox");
@@ -204,10 +191,7 @@ TEST(MessageBoxes, AYesNoQuestionMustBeAnswered)
         Click(box.button(QMessageBox::No));
     });
     EXPECT_EQ(MsgBox("Delete <b>item</b>?", Icon::Question, Buttons::YesNo), Answer::No);
-}
 
-TEST(MessageBoxes, EscCancelsWhereThereIsACancel)
-{
     for (const Buttons buttons : {Buttons::YesNoCancel, Buttons::OkCancel}) {
         WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
         EXPECT_EQ(MsgBox("Go on?", Icon::Exclamation, buttons), Answer::Cancel);

@@ -1,12 +1,5 @@
 #include "controls/layout.h"
-#include "controls/text_box.h"
-#include "support/printing.h"
-#include "support/screen.h"
-
-#include <gtest/gtest.h>
-
-#include <QGroupBox>
-#include <QTest>
+#include "support/test.h"
 
 namespace {
 

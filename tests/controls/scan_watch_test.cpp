@@ -1,22 +1,5 @@
-#include "base/settings_store.h"
-#include "controls/combo_box.h"
-#include "controls/date_picker.h"
-#include "controls/flex_grid.h"
-#include "controls/form.h"
-#include "controls/layout.h"
-#include "controls/message_box.h"
 #include "controls/scan_watch.h"
-#include "controls/status_line.h"
-#include "support/keyboard.h"
-#include "support/screen.h"
-
-#include <gtest/gtest.h>
-
-#include <QCheckBox>
-#include <QDateEdit>
-#include <QMessageBox>
-#include <QTemporaryDir>
-#include <QTest>
+#include "support/test.h"
 
 namespace {
 
@@ -29,7 +12,6 @@ class ScanWatching : public testing::Test {
 protected:
     ScanWatching()
     {
-        SetSettingsFolder(settings.path());
         cboList->AddItems({{"Able", 1}, {"Baker", 2}, {"4 for 3", 3}, {"Carol", 4}});
         cboList->SetListIndex(1);
         dtDate->SetCheckBox(true);
@@ -54,8 +36,6 @@ protected:
         Watch();
         Shown(&window);
     }
-    ~ScanWatching() override { SetSettingsFolder({}); }
-
     void Watch()
     {
         TakeScans({&window, txtCode, cmdLookUp, [](const QString& code) { return code == Known; },
@@ -73,7 +53,6 @@ protected:
     QWidget* DatePart() const { return dtDate->findChild<QDateEdit*>(); }
     QList<QWidget*> OtherThanTexts() const { return {cboList, DatePart(), chkPaid, cmdOther, grid}; }
 
-    QTemporaryDir settings;
     QStringList events;
     QWidget window;
     TextBox* txtCode = new TextBox;

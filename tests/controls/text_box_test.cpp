@@ -1,15 +1,8 @@
 #include "controls/text_box.h"
-#include "support/printing.h"
-#include "support/screen.h"
+#include "support/test.h"
 
-#include <gtest/gtest.h>
-
-#include <QClipboard>
-#include <QElapsedTimer>
 #include <QMainWindow>
-#include <QMenuBar>
 #include <QMimeData>
-#include <QTest>
 
 namespace {
 

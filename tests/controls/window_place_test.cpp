@@ -1,24 +1,11 @@
-#include "controls/window_place.h"
-
-#include "base/regional.h"
-#include "base/settings_store.h"
-#include "controls/form.h"
-#include "controls/layout.h"
 #include "controls/number_box.h"
-#include "support/screen.h"
-
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-#include <QTest>
+#include "controls/window_place.h"
+#include "support/test.h"
 
 namespace {
 
 class WindowPlaces : public testing::Test {
 protected:
-    WindowPlaces() { SetSettingsFolder(m_folder.path()); }
-    ~WindowPlaces() override { SetSettingsFolder(QString()); }
-
     /// Opens a form, lets `use` do with it what a user would, and closes it. Where it opened.
     static QRect Visit(const std::function<void(Form&)>& use)
     {
@@ -31,8 +18,6 @@ protected:
         form.close();
         return place;
     }
-
-    QTemporaryDir m_folder;
 };
 
 } // namespace

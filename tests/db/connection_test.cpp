@@ -1,4 +1,3 @@
-#include "base/guard.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection_private.h"
@@ -6,19 +5,14 @@
 #include "db/file_changes.h"
 #include "db/file_check.h"
 #include "db/make_database.h"
-#include "support/files.h"
-#include "support/temporary_database.h"
-
-#include <QDir>
-#include <QFile>
-#include <QThread>
+#include "support/test.h"
 
 #include <atomic>
-
+#include <QThread>
 #include <sys/wait.h>
 #include <unistd.h>
 
-class Reading : public DatabaseTest { };
+using Reading = DatabaseTest;
 
 TEST_F(Reading, FieldsHaveTheKindOfTheirColumn)
 {
@@ -40,7 +34,7 @@ TEST_F(Reading, FieldsHaveTheKindOfTheirColumn)
     EXPECT_THROW(rs.Long(2), RuntimeError);
 }
 
-TEST_F(Reading, CursorsOfOneStatementDoNotDisturbEachOther)
+TEST_F(Reading, StatementsOfOneShapeShareOnePreparedStatementAndTheirCursorsDoNotDisturbEachOther)
 {
     for (const char* name : {"a", "b", "c"})
         Item(name).Add();
@@ -50,10 +44,7 @@ TEST_F(Reading, CursorsOfOneStatementDoNotDisturbEachOther)
              inner.MoveNext())
             pairs << outer[0].ToText() + inner[0].ToText();
     EXPECT_EQ(pairs, QStringList({"bc", "cc"}));
-}
 
-TEST_F(Reading, StatementsOfOneShapeShareOnePreparedStatement)
-{
     StatementCache& cache = gConnection->Private().cache;
     const size_t before = cache.Size();
     for (int id = 1; id <= 10; ++id)
@@ -92,7 +83,7 @@ TEST(Markers, AreFilledByNameWhateverTheValuesHold)
     EXPECT_THROW(Sql("DELETE FROM item").Number("id", 5), std::logic_error);
 }
 
-class Writing : public DatabaseTest { };
+using Writing = DatabaseTest;
 
 /// Adds rows of more bytes than a page.
 void AddRows(Connection& connection, int count)
@@ -104,30 +95,21 @@ void AddRows(Connection& connection, int count)
     }
 }
 
-TEST_F(Writing, QuotesArriveUnchangedOnBothPaths)
+TEST_F(Writing, AddRowConvertsValuesAndTakesDefaultsAndQuotesArriveUnchanged)
 {
     const QString text = "O'Brien \"Bob\" {x} ''";
     AddRow row(*gConnection, "[Customer]");
     row.AddNew();
-    row.Set("LastName", text);
-    row.Update();
-    gConnection->Execute(
-        Sql("UPDATE Customer SET FirstName = '{name}' WHERE ID={id};").Text("name", text).Number("id", row.Id()));
-    EXPECT_EQ(Rows("SELECT FirstName, LastName FROM customer"), Table({{text, text}}));
-}
-
-TEST_F(Writing, AddRowConvertsValuesAndTakesDefaults)
-{
-    AddRow row(*gConnection, "customer");
-    row.AddNew();
     row.Set("Discount", QStringLiteral("(2.5)"));
     row.Set("IsYachtClubMember", true);
-    row.Set("LastName", QStringLiteral("Lee"));
+    row.Set("LastName", text);
     row.Set("firstname", Value());
     row.Update();
-    EXPECT_EQ(Rows("SELECT id, Discount, IsYachtClubMember, FirstName, SubmittedDate = date('now', 'localtime') || "
-                   "' 00:00:00' FROM customer"),
-        Table({{QString::number(row.Id()), "-2.5", "1", "NULL", "1"}}));
+    gConnection->Execute(
+        Sql("UPDATE Customer SET City = '{city}' WHERE ID={id};").Text("city", text).Number("id", row.Id()));
+    EXPECT_EQ(Rows("SELECT id, Discount, IsYachtClubMember, FirstName, LastName, City, "
+                   "SubmittedDate = date('now', 'localtime') || ' 00:00:00' FROM customer"),
+        Table({{QString::number(row.Id()), "-2.5", "1", "NULL", text, text, "1"}}));
     row.AddNew();
     EXPECT_THROW(row.Set("Discount", QString()), RuntimeError);
     EXPECT_THROW(row.Set("nothing", 1), RuntimeError);
@@ -262,7 +244,7 @@ protected:
     }
 };
 
-TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndNothingIsCreated)
+TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndMakingOneOverwritesNone)
 {
     ExpectRefused(Folder() + "/missing.mdb");
     ExpectRefused(Folder());
@@ -270,6 +252,13 @@ TEST_F(Opening, WhatIsNoWholeDatabaseIsRefusedAndNothingIsCreated)
         {QByteArray(), QByteArray("x"), QByteArray("S"), QByteArray("This is a letter, not a database. ").repeated(50),
             DatabaseBytes().left(20'480), DatabaseBytes().left(50)})
         ExpectRefused(File(content));
+
+    const QByteArray before = DatabaseBytes();
+    EXPECT_THROW(MakeDatabase(DatabasePath()), RuntimeError);
+    EXPECT_EQ(DatabaseBytes(), before);
+    EXPECT_THROW(MakeDatabase(Folder() + "/no such folder/db.mdb"), RuntimeError);
+    MakeDatabase(Folder() + "/new.mdb");
+    EXPECT_EQ(QDir(Folder()).entryList({"*.mdb*"}, QDir::Files), QStringList({"db.mdb", "new.mdb", "other.mdb"}));
 }
 
 /// The journal of a crash, kept while a backup came over the file: rolling it back would put foreign pages into the
@@ -334,24 +323,4 @@ TEST_F(Opening, AReadOnlyFileOpensForReadingAlone)
     Connection connection;
     connection.OpenReadOnly(path);
     EXPECT_EQ(connection.Execute("SELECT id FROM warehouse").Long(0), 1);
-}
-
-TEST_F(Opening, AFileWithoutTheTablesOpensAndItsStatementsFail)
-{
-    Run(QStringLiteral("VACUUM INTO '%1/bare.mdb'").arg(Folder()));
-    Connection connection;
-    connection.Open(Folder() + "/bare.mdb");
-    connection.Private().RunPlain("DROP TABLE settings");
-    EXPECT_THROW(connection.Execute("SELECT * FROM settings"), RuntimeError);
-    EXPECT_EQ(connection.Execute("SELECT id FROM warehouse").Long(0), 1);
-}
-
-TEST_F(Opening, MakingADatabaseNeverOverwritesOne)
-{
-    const QByteArray before = DatabaseBytes();
-    EXPECT_THROW(MakeDatabase(DatabasePath()), RuntimeError);
-    EXPECT_EQ(DatabaseBytes(), before);
-    EXPECT_THROW(MakeDatabase(Folder() + "/no such folder/db.mdb"), RuntimeError);
-    MakeDatabase(Folder() + "/new.mdb");
-    EXPECT_EQ(QDir(Folder()).entryList({"*.mdb*"}, QDir::Files), QStringList({"db.mdb", "new.mdb"}));
 }

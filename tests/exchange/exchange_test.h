@@ -1,11 +1,6 @@
 #pragma once
 
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "support/test.h"
 
 #include <sys/stat.h>
 
@@ -15,38 +10,27 @@ protected:
     void SetUp() override
     {
         DatabaseTest::SetUp();
-        QFile old(File());
-        ASSERT_TRUE(old.open(QFile::WriteOnly));
-        old.write("old file");
+        WriteFile(File(), "old file");
     }
 
     QString File() const { return Folder() + "/written.txt"; }
-    static QByteArray Text(const QString& path)
+    QByteArray Text() const { return ReadFile(File()); }
+
+    /// Lets `fail` write to targets that cannot be written, and holds that none comes or goes.
+    void ForBadTargets(const std::function<void(const QString& path)>& fail) const
     {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : "no file";
+        const QString folder = Folder() + "/folder.txt", pipe = Folder() + "/pipe.txt";
+        QDir().mkpath(folder);
+        mkfifo(qPrintable(pipe), 0600);
+        // Nobody may make files in the second one.
+        for (const QString& path :
+            {Folder() + "/no folder/written.txt", QString("/proc/written.txt"), folder, pipe, DatabasePath()}) {
+            SCOPED_TRACE(path.toStdString());
+            const bool stood = QFileInfo::exists(path);
+            fail(path);
+            EXPECT_EQ(QFileInfo::exists(path), stood);
+        }
     }
-    QByteArray Text() const { return Text(File()); }
 
     ScriptedAnswers answers;
-};
-
-/// A target that cannot be written, and whether it is there afterwards.
-struct BadTarget {
-    const char* path; ///< below the test's folder
-    void (*make)(const QString& path);
-    bool stays;
-};
-inline void PrintTo(const BadTarget& target, std::ostream* out)
-{
-    *out << target.path;
-}
-
-inline const BadTarget BadTargets[] = {
-    {"no folder/written.txt", [](const QString&) {}, false},
-    // Nobody may make files there.
-    {"no rights/written.txt", [](const QString& path) { QFile::link("/proc", QFileInfo(path).path()); }, false},
-    {"folder.txt", [](const QString& path) { QDir().mkpath(path); }, true},
-    {"pipe.txt", [](const QString& path) { mkfifo(qPrintable(path), 0600); }, true},
-    {"db.mdb", [](const QString&) {}, true},
 };

@@ -1,8 +1,5 @@
 #include "exchange/import_records.h"
-#include "support/file_size_limit.h"
-#include "support/temporary_database.h"
-
-#include <QFileInfo>
+#include "support/test.h"
 
 namespace {
 
@@ -95,33 +92,18 @@ TEST_F(ImportRecordsTest, NumbersAreTakenFromFourCharactersAndTextsCut)
         Table({{name, "25", "127", "25"}}));
 }
 
-namespace {
-
-/// The cells of the price lists 1 and 2, and the lists and prices that they become.
-struct PriceCells {
-    QString first, second;
-    Table prices;
-};
-void PrintTo(const PriceCells& cells, std::ostream* out)
+TEST_F(ImportRecordsTest, EveryPriceListGetsAPrice)
 {
-    *out << qPrintable(cells.first) << ", " << qPrintable(cells.second);
-}
-
-class ImportPricesTest : public ImportRecordsTest, public ::testing::WithParamInterface<PriceCells> { };
-
-} // namespace
-
-TEST_P(ImportPricesTest, EveryListGetsOne)
-{
-    EXPECT_EQ(Import({"PriceList.Sale Price", "PriceList.Trade"}, {{GetParam().first, GetParam().second}}), "");
-    EXPECT_EQ(Rows("SELECT PriceListID, Price FROM ItemPriceList ORDER BY id"), GetParam().prices);
-}
-
-INSTANTIATE_TEST_SUITE_P(Cells, ImportPricesTest,
-    ::testing::Values(PriceCells{"$1,234.50", "0", {{"1", "1234.5"}, {"2", "0"}}},
-        PriceCells{"1.5e3", "-0", {{"1", "1500"}, {"2", "0"}}}, PriceCells{"", "(2)", {{"1", "0"}, {"2", "-2"}}},
+    const std::tuple<const char*, const char*, Table> cells[] = {{"$1,234.50", "0", {{"1", "1234.5"}, {"2", "0"}}},
+        {"1.5e3", "-0", {{"1", "1500"}, {"2", "0"}}}, {"", "(2)", {{"1", "0"}, {"2", "-2"}}},
         // What is no number goes to the first list, whichever it was for.
-        PriceCells{"abc", "", {{"1", "0"}, {"2", "0"}}}, PriceCells{"3", "abc", {{"1", "3"}, {"1", "0"}}}));
+        {"abc", "", {{"1", "0"}, {"2", "0"}}}, {"3", "abc", {{"1", "3"}, {"1", "0"}}}};
+    for (const auto& [first, second, prices] : cells) {
+        Run("DELETE FROM ItemPriceList");
+        EXPECT_EQ(Import({"PriceList.Sale Price", "PriceList.Trade"}, {{first, second}}), "");
+        EXPECT_EQ(Rows("SELECT PriceListID, Price FROM ItemPriceList ORDER BY id"), prices) << first << ", " << second;
+    }
+}
 
 TEST_F(ImportRecordsTest, TheFirstFailureEndsItAndWhatWasWrittenStays)
 {

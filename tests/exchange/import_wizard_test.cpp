@@ -2,12 +2,6 @@
 #include "exchange/import_pages.h"
 #include "exchange/import_preview.h"
 #include "exchange/import_wizard.h"
-#include "support/files.h"
-#include "support/form_check.h"
-#include "support/golden.h"
-#include "support/wizard_walk.h"
-
-#include <QTest>
 
 #include <map>
 
@@ -100,51 +94,39 @@ TEST_F(ImportWizardTest, AsksWordForWordAndImportsWhatWasChosen)
         Table({{"Nut", "Ann", "1.5"}, {"Bolt", "O'Hara", "2"}}));
 }
 
-namespace {
-
-/// What the preview shows of a text: the titles, the rows, and how many there are.
-struct Preview {
-    const char* separator;
-    bool titles;
-    QByteArray text;
-    QStringList shownTitles;
-    QList<QStringList> rows;
-    const char* count;
-};
-void PrintTo(const Preview& shown, std::ostream* out)
+TEST_F(ImportWizardTest, ThePreviewShowsTheFile)
 {
-    *out << shown.separator << ' ' << shown.text.constData();
+    const struct {
+        const char* separator;
+        bool firstLineHasTitles;
+        QByteArray text;
+        QStringList titles;
+        QList<QStringList> rows;
+        const char* count;
+    } previews[] = {{"(none)", true, "A, ,B\r\n1,2,3,4\r\n\r\n5\r\n", {"A", "Field0", "B", "Field1"},
+                        {{"1", "2", "3", "4"}, {"", "", "", ""}, {"5", "", "", ""}}, "4 records."},
+        {"(none)", false, "A,B\r\n1,2\r\n", {"Field0", "Field1"}, {{"A", "B"}, {"1", "2"}}, "3 records."},
+        {"(none)", true, "A,B\r\n", {"A", "B"}, {}, "1 records."},
+        {"\"", true, "\"A\",B\r\n\"1\", 2\r\n", {"\"A\"", "B"}, {{"1", "2"}}, "2 records."},
+        {"'", false, "'1', 2\r\n", {"Field0", "Field1"}, {{"1", "2"}}, "2 records."},
+        {"#", true, "A\r\n#1#, 2\r\n", {"A", "Field0"}, {{"1", "2"}}, "2 records."}};
+    for (const auto& preview : previews) {
+        SCOPED_TRACE(preview.text.constData());
+        Write(preview.text);
+        NextOn<frmWizImport_Welcome, frmWizImport_File>();
+        AtPreview([&preview](frmWizImport_Preview& page) {
+            page.chkFirstLine->setChecked(preview.firstLineHasTitles);
+            Pick(page.cboSep, preview.separator);
+            AwaitReading(page);
+            EXPECT_TRUE(page.g->isVisible());
+            EXPECT_EQ(GridTitles(page.g), preview.titles);
+            EXPECT_EQ(GridRows(page.g), preview.rows);
+            EXPECT_EQ(page.lblRows->text(), preview.count);
+            Click(page.cmdCancel);
+        });
+        EXPECT_FALSE(RunImportWizard(nullptr));
+    }
 }
-
-class ImportPreviewTest : public ImportWizardTest, public ::testing::WithParamInterface<Preview> { };
-
-} // namespace
-
-TEST_P(ImportPreviewTest, ShowsTheFile)
-{
-    Write(GetParam().text);
-    NextOn<frmWizImport_Welcome, frmWizImport_File>();
-    AtPreview([](frmWizImport_Preview& page) {
-        page.chkFirstLine->setChecked(GetParam().titles);
-        Pick(page.cboSep, GetParam().separator);
-        AwaitReading(page);
-        EXPECT_TRUE(page.g->isVisible());
-        EXPECT_EQ(GridTitles(page.g), GetParam().shownTitles);
-        EXPECT_EQ(GridRows(page.g), GetParam().rows);
-        EXPECT_EQ(page.lblRows->text(), GetParam().count);
-        Click(page.cmdCancel);
-    });
-    EXPECT_FALSE(RunImportWizard(nullptr));
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, ImportPreviewTest,
-    ::testing::Values(Preview{"(none)", true, "A, ,B\r\n1,2,3,4\r\n\r\n5\r\n", {"A", "Field0", "B", "Field1"},
-                          {{"1", "2", "3", "4"}, {"", "", "", ""}, {"5", "", "", ""}}, "4 records."},
-        Preview{"(none)", false, "A,B\r\n1,2\r\n", {"Field0", "Field1"}, {{"A", "B"}, {"1", "2"}}, "3 records."},
-        Preview{"(none)", true, "A,B\r\n", {"A", "B"}, {}, "1 records."},
-        Preview{"\"", true, "\"A\",B\r\n\"1\", 2\r\n", {"\"A\"", "B"}, {{"1", "2"}}, "2 records."},
-        Preview{"'", false, "'1', 2\r\n", {"Field0", "Field1"}, {{"1", "2"}}, "2 records."},
-        Preview{"#", true, "A\r\n#1#, 2\r\n", {"A", "Field0"}, {{"1", "2"}}, "2 records."}));
 
 TEST_F(ImportWizardTest, TheMappingOutlivesNextAlone)
 {
@@ -202,46 +184,34 @@ TEST_F(ImportWizardTest, AFailingRecordIsNamedAndTheWizardGoesOn)
     EXPECT_EQ(Count("item"), 1);
 }
 
-namespace {
-
-/// A file that cannot be read, made at the path, and the reason that is given.
-struct BadFile {
-    void (*make)(const QString& path);
-    const char* reason;
-};
-void PrintTo(const BadFile& file, std::ostream* out)
+TEST_F(ImportWizardTest, ABadFileIsToldAndNotImported)
 {
-    *out << file.reason;
-}
-
-class BadImportFileTest : public ImportWizardTest, public ::testing::WithParamInterface<BadFile> { };
-
-} // namespace
-
-TEST_P(BadImportFileTest, IsToldAndNotImported)
-{
-    NextOn<frmWizImport_Welcome, frmWizImport_File>();
-    AtPage<frmWizImport_Preview>([this](frmWizImport_Preview& page) {
-        AwaitReading(page);
-        QFile::remove(File());
-        GetParam().make(File());
-        answers.ExpectMessage(QString("Unable to to import CSV file.\n") + GetParam().reason, Icon::Critical);
-        Pick(page.cboSep, "#");
-        EXPECT_TRUE(QTest::qWaitFor([this] { return answers.Done(); }));
-        EXPECT_FALSE(page.cmdNext->isEnabled());
-        Click(page.cmdCancel);
-    });
-    EXPECT_FALSE(RunImportWizard(nullptr));
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, BadImportFileTest,
-    ::testing::Values(BadFile{[](const QString& path) { WriteFile(path, ""); }, ""},
-        BadFile{[](const QString& path) { WriteFile(path, "a,b\nc,d\n"); },
+    const std::pair<std::function<void(const QString&)>, const char*> files[] = {
+        {[](const QString& path) { WriteFile(path, ""); }, ""},
+        {[](const QString& path) { WriteFile(path, "a,b\nc,d\n"); },
             "The first line has no end. Lines must end with CR LF."},
-        BadFile{[](const QString& path) { WriteFile(path, QByteArray(40'000, ',') + "\r\n"); }, "Overflow"},
-        BadFile{[](const QString&) {}, "No such file or directory"},
-        BadFile{[](const QString& path) { QDir().mkpath(path); }, "Path/File access error"},
-        BadFile{[](const QString& path) { mkfifo(qPrintable(path), 0600); }, "Path/File access error"}));
+        {[](const QString& path) { WriteFile(path, QByteArray(40'000, ',') + "\r\n"); }, "Overflow"},
+        {[](const QString&) {}, "No such file or directory"},
+        {[](const QString& path) { QDir().mkpath(path); }, "Path/File access error"},
+        {[](const QString& path) { mkfifo(qPrintable(path), 0600); }, "Path/File access error"}};
+    for (const auto& [make, reason] : files) {
+        SCOPED_TRACE(reason);
+        Write(Goods);
+        NextOn<frmWizImport_Welcome, frmWizImport_File>();
+        AtPage<frmWizImport_Preview>([&, make = make, reason = reason](frmWizImport_Preview& page) {
+            AwaitReading(page);
+            QFile::remove(File());
+            make(File());
+            answers.ExpectMessage(QString("Unable to to import CSV file.\n") + reason, Icon::Critical);
+            Pick(page.cboSep, "#");
+            EXPECT_TRUE(QTest::qWaitFor([this] { return answers.Done(); }));
+            EXPECT_FALSE(page.cmdNext->isEnabled());
+            Click(page.cmdCancel);
+        });
+        EXPECT_FALSE(RunImportWizard(nullptr));
+        QDir().rmdir(File());
+    }
+}
 
 TEST_F(ImportWizardTest, AReadingThatIsLeftOrStartedAnewStops)
 {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "db/new_row.h"
 #include "inventory/item_details.h"
-#include "support/form_test.h"
+#include "support/test.h"
 
 class ItemFormTest : public FormTest<frmItemDetails> {
 protected:

@@ -1,5 +1,4 @@
 #include "inventory_test.h"
-#include "support/golden.h"
 
 #include <QScreen>
 #include <QScrollArea>

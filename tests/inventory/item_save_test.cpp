@@ -1,4 +1,3 @@
-#include "base/regional.h"
 #include "inventory_test.h"
 
 namespace {

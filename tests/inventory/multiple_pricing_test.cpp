@@ -2,7 +2,6 @@
 #include "inventory/multiple_pricing.h"
 #include "inventory_test.h"
 
-#include <QApplication>
 #include <QProgressBar>
 
 namespace {

@@ -1,7 +1,5 @@
-#include "invoicing/customer_search.h"
-
 #include "invoice_page_fixture.h"
-#include "support/form_check.h"
+#include "invoicing/customer_search.h"
 
 namespace {
 

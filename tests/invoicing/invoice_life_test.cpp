@@ -1,10 +1,6 @@
 #include "invoice_page_fixture.h"
-
-#include "controls/status_line.h"
 #include "invoicing/customer_search.h"
 #include "invoicing/item_quantity.h"
-#include "support/files.h"
-#include "support/previews.h"
 
 #include <QtEndian>
 

@@ -3,12 +3,7 @@
 #include "config/secondary_tax.h"
 #include "invoicing/invoice_page.h"
 #include "invoicing/open_invoice.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
-
-#include <QCoreApplication>
-#include <QVBoxLayout>
+#include "support/test.h"
 
 /// The invoice page in a window, set up as the main window does it.
 class InvoicePageTest : public DatabaseTest {

@@ -1,11 +1,5 @@
-#include "invoicing/invoice_page.h"
-
 #include "invoice_page_fixture.h"
-#include "support/form_check.h"
-#include "support/golden.h"
-
-#include <QMenuBar>
-#include <QTest>
+#include "invoicing/invoice_page.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
 #include "invoicing/config_invoice.h"
-
-#include "base/settings_store.h"
 #include "invoicing/invoice_report_style.h"
-#include "support/form_test.h"
+#include "support/test.h"
 
 namespace {
 using InvoiceStyleForm = DatabaseTest;

@@ -1,12 +1,7 @@
-#include "invoicing/invoice_totals.h"
-
 #include "base/numbers.h"
-#include "base/regional.h"
-#include "base/runtime_error.h"
 #include "config/secondary_tax.h"
-#include "support/temporary_database.h"
-
-#include <random>
+#include "invoicing/invoice_totals.h"
+#include "support/test.h"
 
 namespace {
 

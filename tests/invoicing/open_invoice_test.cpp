@@ -1,8 +1,6 @@
-#include "invoicing/open_invoice.h"
-
-#include "base/clock.h"
 #include "invoicing/add_order_line.h"
-#include "support/temporary_database.h"
+#include "invoicing/open_invoice.h"
+#include "support/test.h"
 
 namespace {
 

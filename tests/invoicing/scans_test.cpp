@@ -1,13 +1,9 @@
-#include "controls/status_line.h"
 #include "invoice_page_fixture.h"
 #include "invoicing/add_order_item.h"
 #include "invoicing/customer_search.h"
 #include "invoicing/item_quantity.h"
-#include "support/keyboard.h"
 
-#include <QMessageBox>
 #include <QPaintEvent>
-#include <QTest>
 
 #include <utility>
 

@@ -1,9 +1,8 @@
 #include "paper/report_layout.h"
-
+#include "paper/report_rows.h"
 #include "paper/report_text.h"
 #include "support/report_designs.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 #include <QPainter>
 
@@ -63,17 +62,15 @@ TEST(ReportLayout, BreaksBetweenLinesAndRepeatsThePageHeader)
 
     EXPECT_EQ(names, Numbered(130)) << "each line on one page, none twice";
     EXPECT_EQ(layout.PageCount(), 3);
-}
 
-TEST(ReportLayout, TheFirstPageNeedsNoMoreThanItsOwnRows)
-{
-    ReportLayout layout(NameList(Numbered(5000)), A4);
-    layout.Page(0);
-    EXPECT_FALSE(layout.KnownPageCount());
-    EXPECT_FALSE(layout.CountOn(10));
-    EXPECT_EQ(LinesOf(layout.Page(3), "Name").size(), 54);
-    EXPECT_EQ(layout.PageCount(), 93);
-    EXPECT_FALSE(layout.HasPage(93));
+    // The first page needs no more than its own rows.
+    ReportLayout large(NameList(Numbered(5000)), A4);
+    large.Page(0);
+    EXPECT_FALSE(large.KnownPageCount());
+    EXPECT_FALSE(large.CountOn(10));
+    EXPECT_EQ(LinesOf(large.Page(3), "Name").size(), 54);
+    EXPECT_EQ(large.PageCount(), 93);
+    EXPECT_FALSE(large.HasPage(93));
 }
 
 TEST(ReportLayout, AReportWithoutRowsPrintsItsHeadersOnOnePage)
@@ -138,15 +135,6 @@ TEST(ReportLayout, LongTextsWrapAndPushDownWhatStandsBelow)
     EXPECT_EQ(lines.mid(7), QStringList({"First", "Second", "", "Last"}));
 }
 
-TEST(ReportLayout, AmountsArePrintedSmallerAndNeverCut)
-{
-    ReportLayout layout(NameList({"Much"}, Currency::FromTenThousandths(std::numeric_limits<qint64>::max())), A4);
-    const ReportPage page = layout.Page(0);
-    CheckPage(page, A4Space);
-    EXPECT_EQ(LinesOf(page, "Amount"), QStringList("$922,337,203,685,477.58"));
-    EXPECT_LT(ItemOf(page, "Amount")->typeface->key.points, 9);
-}
-
 TEST(ReportLayout, RulesAreSeenHoweverSmallThePageIsShown)
 {
     Report report = NameList({});
@@ -167,7 +155,7 @@ TEST(ReportLayout, RulesAreSeenHoweverSmallThePageIsShown)
     EXPECT_GE(dark, 5) << "ten rules, each half a pixel from the next";
 }
 
-TEST(ReportLayout, TextsThatCannotBeShownAreMarkedAndNeverShrinkOutOfSight)
+TEST(ReportLayout, TextsThatCannotBeShownAreMarkedAndNeverShrinkOutOfSightAndAmountsAreNeverCut)
 {
     Report report = NameList({QString("Tea \U000F0000\u0301 caf\u0065\u0301")});
     report.Control("Name").overflow = ReportOverflow::Shrink;
@@ -179,6 +167,12 @@ TEST(ReportLayout, TextsThatCannotBeShownAreMarkedAndNeverShrinkOutOfSight)
     EXPECT_TRUE(name.contains("? caf\u0065\u0301")) << "no font has a character of the private planes";
     EXPECT_GE(ItemOf(page, "Title")->typeface->key.points, 4);
     CheckPage(page, A4Space);
+
+    ReportLayout amounts(NameList({"Much"}, Currency::FromTenThousandths(std::numeric_limits<qint64>::max())), A4);
+    const ReportPage sheet = amounts.Page(0);
+    CheckPage(sheet, A4Space);
+    EXPECT_EQ(LinesOf(sheet, "Amount"), QStringList("$922,337,203,685,477.58"));
+    EXPECT_LT(ItemOf(sheet, "Amount")->typeface->key.points, 9);
 }
 
 TEST(ReportLayout, ColumnsSpreadOverAWiderPageAndShrinkWithANarrowOneAndUseTheWholeWidthOfAnotherPaper)
@@ -210,4 +204,31 @@ TEST(ReportValues, ReadByTheirMask)
         {QString("n/a"), "Currency", "n/a"}};
     for (const auto& [value, mask, text] : values)
         EXPECT_EQ(ReportValueText(value, mask).toStdString(), text);
+}
+
+TEST(ReportRows, EveryKindOfValueComesBackAsItWasAdded)
+{
+    const std::vector<ReportValue> values{{}, -2.5, Currency::FromTenThousandths(-12345),
+        QDateTime(QDate(1899, 12, 30), QTime(23, 59, 59)), QString(), QString("Käse 日本"), QString(255, 'x'),
+        QString(256, 'y'), QString(200'000, 'z')};
+    ReportTable table(QStringList(static_cast<qsizetype>(values.size()), "f"));
+    for (int row = 0; row < 3; ++row) {
+        for (const ReportValue& value : values)
+            table.Add(value);
+        table.EndRow();
+    }
+    ASSERT_EQ(table.Count(), 3);
+    for (int row = 0; row < 3; ++row)
+        for (size_t field = 0; field < values.size(); ++field)
+            EXPECT_TRUE(table.At(row, static_cast<int>(field)) == values[field]) << row << ", " << field;
+    EXPECT_TRUE(table.At(0, -1) == ReportValue());
+}
+
+TEST(ReportRows, AFieldIsFoundWithoutItsTableAndWithoutRegardToCase)
+{
+    const ReportTable table({"Customer.id", "Invoice.id", "InvoiceNo"});
+    EXPECT_EQ(table.Field("invoiceno"), 2);
+    EXPECT_EQ(table.Field("Invoice.ID"), 1);
+    EXPECT_EQ(table.Field("id"), 0);
+    EXPECT_EQ(table.Field("no"), -1);
 }

@@ -1,14 +1,7 @@
 #include "paper/report_output.h"
-
 #include "paper/report_picture.h"
-#include "support/files.h"
 #include "support/report_designs.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QPrinter>
-#include <QTemporaryDir>
+#include "support/test.h"
 
 #include <algorithm>
 

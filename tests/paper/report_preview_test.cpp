@@ -1,18 +1,7 @@
-#include "base/settings_store.h"
-#include "controls/dialogs.h"
-#include "support/previews.h"
-#include "support/printing.h"
 #include "support/report_designs.h"
-#include "support/screen.h"
-#include "support/scripted_answers.h"
+#include "support/test.h"
 
-#include <gtest/gtest.h>
-
-#include <QPointer>
-#include <QPrinter>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 class Preview : public testing::Test {

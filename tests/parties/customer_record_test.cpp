@@ -1,4 +1,5 @@
-#include "parties_test.h"
+#include "parties/customer_record.h"
+#include "support/test.h"
 
 namespace {
 

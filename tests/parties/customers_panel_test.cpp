@@ -1,8 +1,7 @@
-#include "base/guard.h"
+#include "parties/customer_record.h"
 #include "parties/customer_texts.h"
 #include "parties/customers_panel.h"
-#include "parties_test.h"
-#include "support/golden.h"
+#include "support/test.h"
 
 TEST(CustomerNames, HaveBlanksAndBracketsOnlyAroundWhatIsThere)
 {

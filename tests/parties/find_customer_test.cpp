@@ -1,8 +1,6 @@
+#include "parties/customer_record.h"
 #include "parties/find_customer.h"
-
-#include "parties_test.h"
-
-#include <QHeaderView>
+#include "support/test.h"
 
 namespace {
 

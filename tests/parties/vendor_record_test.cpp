@@ -1,5 +1,5 @@
 #include "parties/vendor_record.h"
-#include "parties_test.h"
+#include "support/test.h"
 
 namespace {
 

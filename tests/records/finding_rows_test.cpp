@@ -1,13 +1,5 @@
-#include "controls/layout.h"
 #include "records/record_list.h"
-#include "support/screen.h"
-#include "support/temporary_database.h"
-
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QClipboard>
-#include <QTest>
+#include "support/test.h"
 
 namespace {
 
@@ -18,11 +10,6 @@ struct Typing {
     int row; ///< current afterwards; before it was row 3
     const char* order = DefaultOrder;
 };
-void PrintTo(const Typing& typing, std::ostream* out)
-{
-    *out << typing.keys;
-}
-
 /// A list of six items, sorted by name, in a window with a box to search by.
 class FindingRows : public DatabaseTest {
 protected:
@@ -80,7 +67,7 @@ TEST_P(TypingTest, WhatIsTypedLeavesTheListItself)
     Load(3, 0);
     const QList<QStringList> rows = GridRows(list);
     TypeKeys(QString::fromUtf8(GetParam().keys));
-    EXPECT_EQ(ShownRows(), GetParam().shown);
+    EXPECT_EQ(ShownRows(), GetParam().shown) << GetParam().keys;
     EXPECT_EQ(list->Row(), GetParam().row);
     EXPECT_EQ(GridRows(list), rows);
     EXPECT_EQ(list->currentIndex().data(Qt::UserRole).toLongLong(), list->CurrentRowData()) << "the row that shows";
@@ -148,16 +135,12 @@ TEST_F(FindingRows, RowsThatCodeAddsOrChangesOneByOneLiftTheFilter)
     EXPECT_EQ(ShownRows(), "2");
 }
 
-TEST_F(FindingRows, DownFromASearchBoxGoesIntoTheRows)
+TEST_F(FindingRows, DownFromASearchBoxGoesIntoTheRowsAndARowIsCopiedWithItsColumnsPartedByTabs)
 {
     list->SetRow(0);
     Press(box, Qt::Key_Down);
     EXPECT_TRUE(list->hasFocus());
     EXPECT_EQ(list->Row(), 1);
-}
-
-TEST_F(FindingRows, ARowIsCopiedWithItsColumnsPartedByTabs)
-{
     list->SelectRow(5);
     Press(list, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), "Cleat 1/2\t2");

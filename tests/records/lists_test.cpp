@@ -1,13 +1,6 @@
 #include "records/lists.h"
-
-#include "base/regional.h"
-#include "base/runtime_error.h"
-#include "base/settings_store.h"
 #include "records/record_list.h"
-#include "support/screen.h"
-#include "support/temporary_database.h"
-
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace {
 
@@ -36,22 +29,6 @@ protected:
     RecordList list;
 };
 
-TEST_F(Lists, AFillShowsRowsInOrderWithTheirIds)
-{
-    const qint64 trade = PriceListRow("Trade");
-    const qint64 antique = PriceListRow("antique");
-
-    Load(1, 0);
-
-    EXPECT_EQ(GridRows(&list),
-        (QList<QStringList>{
-            {"antique", QString::number(antique)}, {"Sale Price", "1"}, {"Trade", QString::number(trade)}}));
-    EXPECT_EQ(list.RowData(0), 0);
-    EXPECT_EQ(list.RowData(3), trade);
-    EXPECT_EQ(list.Row(), 1);
-    EXPECT_EQ(list.ColSel(), 1);
-}
-
 TEST_F(Lists, TheRowLookedForIsSelectedAndARowPastTheEndFallsBackToTheLast)
 {
     const qint64 trade = PriceListRow("Trade");
@@ -68,6 +45,8 @@ TEST_F(Lists, TheRowLookedForIsSelectedAndARowPastTheEndFallsBackToTheLast)
     Load(1, 5);
     EXPECT_EQ(list.Row(), 0) << "an empty list leaves the title row";
     EXPECT_EQ(list.CurrentRowData(), 0);
+    EXPECT_THROW(list.Load(Sql("SELECT id FROM nowhere"), 1, 0), RuntimeError);
+    EXPECT_TRUE(list.updatesEnabled()) << "a failing statement leaves the grid painting";
 }
 
 TEST_F(Lists, AReloadReadsOnlyWhatMayHaveChanged)
@@ -95,12 +74,6 @@ TEST_F(Lists, AReloadReadsOnlyWhatMayHaveChanged)
     SetRegional(QLocale("de_DE"));
     EXPECT_TRUE(load("Trade")) << "with other formats";
     EXPECT_FALSE(load("Trade"));
-}
-
-TEST_F(Lists, AFailingStatementLeavesTheGridPainting)
-{
-    EXPECT_THROW(list.Load(Sql("SELECT id FROM nowhere"), 1, 0), RuntimeError);
-    EXPECT_TRUE(list.updatesEnabled());
 }
 
 TEST_F(Lists, ATitleClickSortsUpwardsAndAColumnWithoutAnOrderOnlyRefills)
@@ -153,33 +126,6 @@ TEST_F(Lists, WidthsComeBackUnlessTheyAreNoWidths)
     }
 }
 
-TEST_F(Lists, TheStretchColumnTakesWhatTheOthersAndTheMarginLeave)
-{
-    list.resize(400, 200); // 6000 twips
-    list.SetColWidth(1, 1600);
-    list.Stretch();
-    EXPECT_EQ(list.ColWidth(0), 6000 - 1600 - 400);
-
-    list.SetColWidth(1, 5900);
-    list.Stretch();
-    EXPECT_EQ(list.ColWidth(0), 4000) << "a rest within the margin leaves the column";
-}
-
-TEST_F(Lists, SetUpFillsTheGridExactly)
-{
-    RecordList wide;
-    wide.resize(400, 200);
-    wide.SetColumns({
-        {"a", "A", 800, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder},
-        {"b", "B", 1600, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::AtLoad},
-    });
-    EXPECT_EQ(wide.ColWidth(0), 800);
-    EXPECT_EQ(wide.ColWidth(1), 5200);
-    wide.resize(300, 200);
-    wide.Stretch();
-    EXPECT_EQ(wide.ColWidth(1), 5200) << "at load alone";
-}
-
 TEST_F(Lists, AFoundRowOutOfViewComesToTheTopWhereTheListSaysSo)
 {
     Run("INSERT INTO PriceList (name) WITH RECURSIVE n(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM n WHERE x < 200) "
@@ -194,17 +140,6 @@ TEST_F(Lists, AFoundRowOutOfViewComesToTheTopWhereTheListSaysSo)
     EXPECT_EQ(list.TopRow(), list.Row());
     Load(list.Row() + 1, 0);
     EXPECT_EQ(list.TopRow(), list.Row() - 1) << "in view already";
-}
-
-TEST_F(Lists, AComboFilledFromAStatementSelectsNothing)
-{
-    PriceListRow("Änne's");
-    ComboBox combo;
-    FillPriceLists(&combo);
-    EXPECT_EQ(combo.ListCount(), 2);
-    EXPECT_EQ(combo.ListIndex(), -1);
-    EXPECT_EQ(combo.List(0), "Änne's");
-    EXPECT_EQ(combo.ItemData(1), 1);
 }
 
 } // namespace

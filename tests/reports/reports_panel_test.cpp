@@ -1,8 +1,5 @@
 #include "reports/reports_panel.h"
-
-#include "base/clock.h"
-#include "base/regional.h"
-#include "support/form_test.h"
+#include "support/test.h"
 
 namespace {
 

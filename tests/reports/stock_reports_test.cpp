@@ -1,13 +1,7 @@
-#include "reports/stock_reports.h"
-
-#include "controls/dialogs.h"
 #include "records/data_environment.h"
 #include "reports/reorder_filter.h"
-#include "support/form_test.h"
-#include "support/golden.h"
-#include "support/previews.h"
-
-#include <QPrinter>
+#include "reports/stock_reports.h"
+#include "support/test.h"
 
 namespace {
 class StockReports : public DatabaseTest {

@@ -101,6 +101,31 @@ void CheckTabOrder(QWidget* screen, const QList<QWidget*>& controls)
         walked.append(walked.takeFirst());
     EXPECT_EQ(walked.join(u' ').toStdString(), declared.join(u' ').toStdString()) << "tab order";
 }
+QString ValueOf(const QWidget* control)
+{
+    if (auto* box = qobject_cast<const QLineEdit*>(control))
+        return box->text();
+    if (auto* lines = dynamic_cast<const MultiLineTextBox*>(control))
+        return lines->Text().replace(u'\r', QStringLiteral("\\r")).replace(u'\n', QStringLiteral("\\n"));
+    if (auto* box = qobject_cast<const QAbstractButton*>(control))
+        return box->isChecked() ? QStringLiteral("x") : QStringLiteral("-");
+    if (auto* combo = qobject_cast<const QComboBox*>(control))
+        return combo->currentText() + QStringLiteral(" of ") + Entries(combo).join(QStringLiteral(" | "));
+    if (auto* list = qobject_cast<const QListWidget*>(control))
+        return Entries(list).join(QStringLiteral(" | "));
+    if (auto* date = dynamic_cast<const DatePicker*>(control))
+        return date->Value() ? date->Value()->toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss"))
+                             : QStringLiteral("none");
+    auto* grid = dynamic_cast<const FlexGrid*>(control);
+    if (!grid)
+        return Caption(control);
+    QString text = GridTitles(grid).join(QStringLiteral(" | "));
+    for (int row = 1; row < grid->Rows(); ++row)
+        text += QLatin1String(row == grid->Row() ? "\n  > " : "\n    ")
+            + GridRows(grid)[row - 1].join(QStringLiteral(" | "));
+    return text;
+}
+
 } // namespace
 
 void CheckScreen(
@@ -136,33 +161,6 @@ QStringList ControlNames(const QList<QWidget*>& controls)
         names.append(QStringLiteral("%1 %2").arg(control->objectName(), Caption(control)).trimmed());
     return names;
 }
-
-namespace {
-QString ValueOf(const QWidget* control)
-{
-    if (auto* box = qobject_cast<const QLineEdit*>(control))
-        return box->text();
-    if (auto* lines = dynamic_cast<const MultiLineTextBox*>(control))
-        return lines->Text().replace(u'\r', QStringLiteral("\\r")).replace(u'\n', QStringLiteral("\\n"));
-    if (auto* box = qobject_cast<const QAbstractButton*>(control))
-        return box->isChecked() ? QStringLiteral("x") : QStringLiteral("-");
-    if (auto* combo = qobject_cast<const QComboBox*>(control))
-        return combo->currentText() + QStringLiteral(" of ") + Entries(combo).join(QStringLiteral(" | "));
-    if (auto* list = qobject_cast<const QListWidget*>(control))
-        return Entries(list).join(QStringLiteral(" | "));
-    if (auto* date = dynamic_cast<const DatePicker*>(control))
-        return date->Value() ? date->Value()->toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss"))
-                             : QStringLiteral("none");
-    auto* grid = dynamic_cast<const FlexGrid*>(control);
-    if (!grid)
-        return Caption(control);
-    QString text = GridTitles(grid).join(QStringLiteral(" | "));
-    for (int row = 1; row < grid->Rows(); ++row)
-        text += QLatin1String(row == grid->Row() ? "\n  > " : "\n    ")
-            + GridRows(grid)[row - 1].join(QStringLiteral(" | "));
-    return text;
-}
-} // namespace
 
 QString ScreenValues(const QList<QWidget*>& controls)
 {

@@ -1,5 +1,6 @@
 #include "support/golden.h"
 
+#include "base/regional.h"
 #include "base/runtime_error.h"
 #include "paper/report_text.h"
 #include "support/text_difference.h"
@@ -86,19 +87,22 @@ void ExpectGolden(const QString& text, const char* name)
 void ExpectCases(const char* name, const AnswerTo& answer)
 {
     QStringList lines = GoldenText(name).split(u'\n');
-    QString heading;
+    QString act;
     int cases = 0;
     for (QString& line : lines) {
         const qsizetype arrow = line.lastIndexOf(Arrow);
         if (arrow < 0) {
-            if (line.startsWith(u'['))
-                heading = line.mid(1, line.lastIndexOf(u']') - 1);
+            if (line.startsWith(u'[')) {
+                const QStringList heading = line.mid(1, line.lastIndexOf(u']') - 1).split(u' ');
+                act = heading[0];
+                SetRegional(QLocale(heading.value(1, QStringLiteral("en_US"))));
+            }
             continue;
         }
         ++cases;
         QString answered;
         try {
-            answered = Visible(answer(heading, Given(line.left(arrow))));
+            answered = Visible(answer(act, Given(line.left(arrow))));
         } catch (const RuntimeError& error) {
             answered = QStringLiteral("error %1").arg(error.Number());
         }

@@ -15,9 +15,10 @@ QString GoldenText(const char* name);
 /// Compares a text with that of a golden file. With TAVRIN_WRITE_GOLDEN set the file is written anew.
 void ExpectGolden(const QString& text, const char* name);
 
-/// What is to be answered to a given text, below a heading of the file.
-using AnswerTo = std::function<QString(const QString& heading, const QString& given)>;
+/// What is to be answered to a given text, below a heading of the file that says what is done with it.
+using AnswerTo = std::function<QString(const QString& act, const QString& given)>;
 
-/// Holds the cases of a golden file: "given => answer", a line each, below headings in square brackets; other lines are
-/// remarks. What is given may stand in quotation marks; backslashes write what cannot be seen, as in C.
+/// Holds the cases of a golden file: "given => answer", a line each, below headings "[act locale]", without a locale in
+/// the United States; other lines are remarks. What is given may stand in quotation marks; backslashes write what
+/// cannot be seen, as in C.
 void ExpectCases(const char* name, const AnswerTo& answer);

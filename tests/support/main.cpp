@@ -1,5 +1,7 @@
 #include "base/clock.h"
+#include "base/files.h"
 #include "base/regional.h"
+#include "base/settings_store.h"
 #include "paper/preview_window.h"
 #include "support/screen.h"
 #include "support/scripted_answers.h"
@@ -23,12 +25,15 @@ void Collect(QtMsgType type, const QMessageLogContext& context, const QString& m
     gMessages.append(qFormatLogMessage(type, context, message));
 }
 
-/// What each test starts and ends with: the program alive, United States formats, no form left waited for, no preview
-/// left open.
+/// What each test starts and ends with: the program alive, United States formats, settings of its own, no form left
+/// waited for, no preview left open.
 class EveryTest : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo&) override
     {
         gMessages.clear();
+        m_settings = std::make_unique<QTemporaryDir>();
+        SetSettingsFolder(m_settings->path());
+        SetProgramFolder(QString());
         SetRegional(QLocale(QLocale::English, QLocale::UnitedStates));
         FailOnProgramEnd();
         StartWatchingForms();
@@ -42,6 +47,8 @@ class EveryTest : public testing::EmptyTestEventListener {
         if (test.result()->Failed() && !gMessages.isEmpty())
             std::printf("Qt: %s\n", qPrintable(gMessages.join(QStringLiteral("\nQt: "))));
     }
+
+    std::unique_ptr<QTemporaryDir> m_settings;
 };
 } // namespace
 

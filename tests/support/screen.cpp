@@ -153,6 +153,14 @@ void TypeCharacter(QWidget* control, const QString& character)
     const QString text = first == u'\n' ? QStringLiteral("\r") : character;
     QTest::sendKeyEvent(QTest::Click, control, key, text, Qt::NoModifier);
 }
+QStringList CellsOf(const FlexGrid* grid, int row)
+{
+    QStringList cells;
+    for (int col = 0; col < grid->Cols(); ++col)
+        cells.append(grid->TextMatrix(row, col));
+    return cells;
+}
+
 } // namespace
 
 void FailToFind(const QObject* root, const char* name)
@@ -252,16 +260,6 @@ void ClickTitle(FlexGrid* grid, int col)
     QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, spot);
 }
 
-namespace {
-QStringList CellsOf(const FlexGrid* grid, int row)
-{
-    QStringList cells;
-    for (int col = 0; col < grid->Cols(); ++col)
-        cells.append(grid->TextMatrix(row, col));
-    return cells;
-}
-} // namespace
-
 QList<QStringList> GridRows(const FlexGrid* grid)
 {
     QList<QStringList> rows;
@@ -283,19 +281,11 @@ QStringList GridColumn(const FlexGrid* grid, int col)
     return texts;
 }
 
-QStringList Entries(const QComboBox* combo)
+QStringList Entries(const QAbstractItemModel* list)
 {
     QStringList entries;
-    for (int i = 0; i < combo->count(); ++i)
-        entries.append(combo->itemText(i));
-    return entries;
-}
-
-QStringList Entries(const QListWidget* list)
-{
-    QStringList entries;
-    for (int i = 0; i < list->count(); ++i)
-        entries.append(list->item(i)->text());
+    for (int i = 0; i < list->rowCount(); ++i)
+        entries.append(list->index(i, 0).data().toString());
     return entries;
 }
 

@@ -58,9 +58,13 @@ QList<QStringList> GridRows(const FlexGrid* grid);
 QStringList GridTitles(const FlexGrid* grid);
 /// The texts of one column of the data rows.
 QStringList GridColumn(const FlexGrid* grid, int col = 0);
-/// The texts of a list.
-QStringList Entries(const QComboBox* combo);
-QStringList Entries(const QListWidget* list);
+/// The texts of a list, of a drop-down list or any other.
+QStringList Entries(const QAbstractItemModel* list);
+template <typename List>
+QStringList Entries(const List* list)
+{
+    return Entries(list->model());
+}
 
 /// Queues `visit` for the next modal form that `matches`. Use WhenFormShows.
 void WhenDialogShows(const char* what, std::function<bool(QDialog*)> matches, std::function<void(QDialog*)> visit);

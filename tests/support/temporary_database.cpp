@@ -2,14 +2,11 @@
 
 #include "base/clock.h"
 #include "base/files.h"
-#include "base/regional.h"
-#include "base/settings_store.h"
 #include "db/connection_private.h"
 #include "db/make_database.h"
 
 #include <QDir>
 #include <QFile>
-#include <QLocale>
 
 #include <sqlite3.h>
 
@@ -84,10 +81,8 @@ void DatabaseTest::SetUp()
 {
     ASSERT_TRUE(m_folder.isValid());
     ASSERT_TRUE(QFile::copy(TemplatePath(), DatabasePath()));
-    SetRegional(QLocale(QLocale::English, QLocale::UnitedStates));
     SetClock([] { return QDateTime(QDate(2026, 3, 14), QTime(10, 30)); });
     SetProgramFolder(Folder());
-    SetSettingsFolder(m_folder.filePath(QStringLiteral("settings")));
 
     m_connection.Open(DatabasePath());
     // Nothing is lost with a test that outlives the machine's power.
@@ -105,10 +100,6 @@ void DatabaseTest::TearDown()
     m_plain = nullptr;
     gConnection = nullptr;
     m_connection.Close();
-    SetSettingsFolder(QString());
-    SetProgramFolder(QString());
-    SetClock({});
-    SetRegional(QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
 QString DatabaseTest::Folder() const

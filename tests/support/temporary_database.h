@@ -80,14 +80,14 @@ private:
 Table PlainRows(sqlite3* handle, const QString& sql);
 Table PlainRows(const QString& path, const QString& sql);
 
-/// A fresh db.mdb with its seed rows in a folder of its own, a settings store beside it, United States formats and the
-/// time fixed at 14 March 2026, 10:30. gConnection is open.
+/// A fresh db.mdb with its seed rows in a folder of its own, and the time fixed at 14 March 2026, 10:30. gConnection is
+/// open.
 class DatabaseTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// The folder of the database, the settings and the program, without a trailing separator.
+    /// The folder of the database and the program, without a trailing separator.
     QString Folder() const;
     QString DatabasePath() const;
 

@@ -1,12 +1,7 @@
 #include "make_database/arguments.h"
 #include "make_database/database_maker.h"
 #include "make_database/ean13.h"
-#include "support/files.h"
-#include "support/golden.h"
-#include "support/temporary_database.h"
-
-#include <QDir>
-#include <QTemporaryDir>
+#include "support/test.h"
 
 namespace {
 
@@ -45,7 +40,7 @@ Table ContentsOf(const QString& path)
 
 } // namespace
 
-TEST(MakeDatabaseArguments, AskForSeedRowsOrForALargeFile)
+TEST(MakeDatabaseArguments, AskForSeedRowsOrForALargeFileAndWrongOnesAreToldToTheirAuthor)
 {
     EXPECT_EQ(ReadArguments({"shop/db.mdb"}).file, "shop/db.mdb");
     EXPECT_EQ(ReadArguments({"shop/db.mdb"}).contents, Contents::SeedRows);
@@ -55,24 +50,14 @@ TEST(MakeDatabaseArguments, AskForSeedRowsOrForALargeFile)
     EXPECT_EQ(large.size.items * 100 + large.size.customers * 10 + large.size.invoices, 723);
     EXPECT_EQ(large.seed, 9U);
     EXPECT_EQ(large.today, QDate(2024, 2, 29));
-}
 
-TEST(MakeDatabaseArguments, ThatAreWrongAreToldToTheirAuthor)
-{
     for (const char* line : {"", "one.mdb two.mdb", "--demo", "--demonstration db.mdb", "--items db.mdb",
              "--items many db.mdb", "--items -1 db.mdb", "--items 5 --demo db.mdb", "--invoices 5 db.mdb",
              "--seed x --demo db.mdb", "--today 2023-02-29 --demo db.mdb", "--today yesterday --demo db.mdb"})
         EXPECT_THROW(ReadArguments(Words(line)), UsageError) << line;
 }
 
-TEST(Ean13, CarriesItsCheckDigit)
-{
-    EXPECT_EQ(ShopEan13(0), "2000000000008");
-    EXPECT_EQ(ShopEan13(1), "2000000000015");
-    EXPECT_EQ(ShopEan13(9'999'999'999), "2099999999998");
-}
-
-TEST_F(MakeDatabaseFile, NeverTouchesAFileThatIsThereAndLeavesNothingBehindWhereItCannotWrite)
+TEST_F(MakeDatabaseFile, NeverTouchesAFileThatIsThereAndALargeOneHasTheRowsThatWereAskedFor)
 {
     EXPECT_ANY_THROW(MakeDatabaseWith(Demo(Path("missing/db.mdb"), 1)));
     EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
@@ -80,11 +65,8 @@ TEST_F(MakeDatabaseFile, NeverTouchesAFileThatIsThereAndLeavesNothingBehindWhere
     EXPECT_ANY_THROW(MakeDatabaseWith(Demo(Path("db.mdb"), 1)));
     EXPECT_EQ(ReadFile(Path("db.mdb")), "a year of work");
     EXPECT_EQ(Files(), QStringList("db.mdb"));
-}
 
-TEST_F(MakeDatabaseFile, ALargeOneHasTheRowsThatWereAskedFor)
-{
-    Arguments arguments = Demo(Path("db.mdb"), 1);
+    Arguments arguments = Demo(Path("large.mdb"), 1);
     arguments.contents = Contents::LargeFile;
     arguments.size = {40, 10, 20};
     MakeDatabaseWith(arguments);
@@ -102,6 +84,7 @@ TEST_F(MakeDatabaseFile, ADemoShopIsASoundOneAndTheSameForTheSameSeedOnly)
     MakeDatabaseWith(Demo(shop, 1));
     ExpectCases("demo_shop.txt",
         [&shop](const QString&, const QString& query) { return PlainRows(shop, query).value(0).join(' '); });
+    EXPECT_EQ(ShopEan13(9'999'999'999), "2099999999998");
     for (const QStringList& row : PlainRows(shop, "SELECT barcode FROM item")) {
         int sum = 0;
         for (int i = 0; i < 13; ++i)

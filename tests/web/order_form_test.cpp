@@ -1,5 +1,4 @@
-#include "support/golden.h"
-#include "support/printing.h"
+#include "support/test.h"
 #include "web/order_form.h"
 #include "web/web_order_settings.h"
 

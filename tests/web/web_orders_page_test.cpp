@@ -1,14 +1,11 @@
-#include "support/file_size_limit.h"
-#include "support/files.h"
-#include "support/scripted_answers.h"
-#include "support/temporary_database.h"
+#include "support/test.h"
 #include "web/order_form.h"
 #include "web/web_order_settings.h"
 #include "web/web_orders_page.h"
 
-#include <QDir>
-
 namespace {
+
+const QByteArray Old(9000, 'x');
 
 class WebOrdersPage : public DatabaseTest {
 protected:
@@ -21,23 +18,12 @@ protected:
     }
 
     QString PagePath() const { return Folder() + "/orders.html"; }
-    void WriteOld() const { WriteFile(PagePath(), Old()); }
-    static QByteArray Old() { return QByteArray(9000, 'x'); }
+    void WriteOld() const { WriteFile(PagePath(), Old); }
     QByteArray PageFile() const { return ReadFile(PagePath()); }
-    static QByteArray NewPage()
-    {
-        return OrderFormPage({"bücher@harbour.example", CustomProvider, "https://own.example/send"}, FormMailService())
-            .toUtf8();
-    }
     int CreateInto(const QString& path)
     {
         answers.ExpectSaveFile(path);
-        try {
-            CreateWebOrdersPage();
-        } catch (const RuntimeError& error) {
-            return error.Number();
-        }
-        return 0;
+        return ErrorOf(CreateWebOrdersPage);
     }
 
     ScriptedAnswers answers;
@@ -45,16 +31,14 @@ protected:
 
 } // namespace
 
-TEST_F(WebOrdersPage, ReplacesTheChosenFileWithoutAWordAndLeavesItWhenNoneIsChosen)
+TEST_F(WebOrdersPage, ReplacesTheChosenFileWithoutAWordAndBeforeItReadsTheSettings)
 {
     EXPECT_EQ(CreateInto(QString()), 0);
-    EXPECT_EQ(PageFile(), Old());
+    EXPECT_EQ(PageFile(), Old);
     EXPECT_EQ(CreateInto(PagePath()), 0);
-    EXPECT_EQ(PageFile(), NewPage());
-}
+    EXPECT_EQ(PageFile(),
+        OrderFormPage({"bücher@harbour.example", CustomProvider, "https://own.example/send"}, FormMailService()));
 
-TEST_F(WebOrdersPage, HasDeletedTheOldFileBeforeItReadsTheSettings)
-{
     Run("DELETE FROM settings");
     EXPECT_EQ(CreateInto(PagePath()), 0);
     EXPECT_EQ(PageFile(), "no file");
@@ -70,7 +54,7 @@ TEST_F(WebOrdersPage, AFileThatCannotBeWrittenIsARunTimeErrorAndNotHalfAPage)
     EXPECT_EQ(CreateInto(Folder() + "/gone/orders.html"), 75);
     QDir(Folder()).mkdir("folder.html");
     EXPECT_EQ(CreateInto(Folder() + "/folder.html"), 75);
-    EXPECT_EQ(PageFile(), Old());
+    EXPECT_EQ(PageFile(), Old);
     {
         const FileSizeLimit limit(1000);
         EXPECT_EQ(CreateInto(PagePath()), 75);

@@ -1,6 +1,4 @@
-#include "support/form_test.h"
-#include "support/golden.h"
-#include "support/wizard_walk.h"
+#include "support/test.h"
 #include "web/web_orders_wizard.h"
 
 namespace {
@@ -68,18 +66,7 @@ TEST_F(WebOrdersWizardTest, ItsPagesSayWhatTheyAreFor)
     ExpectGolden(texts, "web_orders_wizard.txt");
 }
 
-TEST_F(WebOrdersWizardTest, StoresItsAnswersAndCreatesThePageOnYes)
-{
-    const QString page = Folder() + "/orders.html";
-    Enter("orders@harbour.example", "https://own.example");
-    answers.Expect(Offer, Answer::Yes);
-    answers.ExpectSaveFile(page);
-    Start();
-    EXPECT_EQ(Stored(), Table({{"orders@harbour.example", "1", "https://own.example"}}));
-    EXPECT_TRUE(QFile::exists(page));
-}
-
-TEST_F(WebOrdersWizardTest, CancelOnTheLastPageStoresNothing)
+TEST_F(WebOrdersWizardTest, StoresItsAnswersOnFinishAloneAndCreatesThePageOnYes)
 {
     NextOn<frmWizOConfig_Welcome>();
     AtPage<frmWizOConfig_Email>([](auto& page) { Type(page.txtName, "other@harbour.example"); });
@@ -87,6 +74,14 @@ TEST_F(WebOrdersWizardTest, CancelOnTheLastPageStoresNothing)
     AtPage<frmWizOConfig_Complete>([](auto& page) { Click(page.cmdCancel); });
     Start();
     EXPECT_EQ(Stored(), Table({{"shop@harbour.example", "0", ""}}));
+
+    const QString page = Folder() + "/orders.html";
+    Enter("orders@harbour.example", "https://own.example");
+    answers.Expect(Offer, Answer::Yes);
+    answers.ExpectSaveFile(page);
+    Start();
+    EXPECT_EQ(Stored(), Table({{"orders@harbour.example", "1", "https://own.example"}}));
+    EXPECT_TRUE(QFile::exists(page));
 }
 
 TEST_F(WebOrdersWizardTest, AsksForWhatIsMissing)

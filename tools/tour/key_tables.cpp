@@ -63,20 +63,6 @@ void AddACategory(MainWindow& window, Album& album)
     ChooseFromMenu(window, "mnuConfigure", "mnuInvCats", album, "categories-in-the-configure-menu");
 }
 
-void StyleInvoices(MainWindow& window, Album& album)
-{
-    At("frmConfigInvoice", [&album](QDialog& form) {
-        album.Take("invoice-style");
-        Click(Find<QPushButton>(&form, "cmdCancel"));
-    });
-    ChooseFromMenu(window, "mnuConfigure", "mnuConfigInvoiceStyle", album, "invoice-style-in-the-configure-menu");
-    At("frmSetNextInvoiceNo", [&album](QDialog& form) {
-        album.Take("set-next-invoice-number");
-        Click(Find<QPushButton>(&form, "cmdCancel"));
-    });
-    ChooseFromMenu(window, "mnuReservations", "mnuInvoiceSetInvoiceNo", album, "next-number-in-the-invoices-menu");
-}
-
 } // namespace
 
 void ConfigureKeyTables(Program& program, Album& album)
@@ -85,5 +71,4 @@ void ConfigureKeyTables(Program& program, Album& album)
     SetTaxes(window, album);
     AddALocation(window, album);
     AddACategory(window, album);
-    StyleInvoices(window, album);
 }

@@ -2,6 +2,7 @@
 #include "key_tables.h"
 #include "people.h"
 #include "road.h"
+#include "steps.h"
 #include "stockroom.h"
 #include "wizards.h"
 
@@ -98,6 +99,8 @@ void Walk(const QString& folder, const QString& pictureFolder, const QString& la
     KeepTheStock(program, album, barCode);
     album.Chapter("Taxes, locations and categories");
     ConfigureKeyTables(program, album);
+    album.Chapter("Dialogs by themselves");
+    Look::TakeAll(*program.Window(), album);
     album.Chapter("Customers and vendors");
     KeepPeople(program, album);
     album.Chapter("The wizards");

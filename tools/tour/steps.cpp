@@ -7,6 +7,9 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <map>
+#include <string>
+
 namespace {
 
 /// The number of the first row that shows `text` in column `col`, 0 for none.
@@ -16,6 +19,18 @@ int RowOf(const FlexGrid* grid, int col, const QString& text)
         if (grid->TextMatrix(row, col) == text)
             return row;
     return 0;
+}
+
+struct MenuPlace {
+    const char* menu;
+    const char* entry;
+};
+
+/// By the names of their pictures. Each look enters itself before main begins.
+std::map<std::string, MenuPlace>& Looks()
+{
+    static std::map<std::string, MenuPlace> looks;
+    return looks;
 }
 
 } // namespace
@@ -53,4 +68,22 @@ void ChooseFromMenu(MainWindow& window, const char* menuName, const char* entryN
 void ClickRowOf(FlexGrid* grid, int col, const char* text)
 {
     ClickRow(grid, RowOf(grid, col, QString::fromUtf8(text)));
+}
+
+Look::Look(const char* picture, const char* menuName, const char* entryName)
+{
+    Looks().insert({picture, {menuName, entryName}});
+}
+
+void Look::TakeAll(MainWindow& window, Album& album)
+{
+    for (const auto& [picture, place] : Looks()) {
+        WhenDialogShows(
+            place.entry, [](QDialog*) { return true; },
+            [&album, name = picture](QDialog* dialog) {
+                album.Take(name.c_str());
+                Press(dialog, Qt::Key_Escape);
+            });
+        ChooseFromMenu(window, place.menu, place.entry, album, (picture + "-in-the-menu").c_str());
+    }
 }

@@ -20,3 +20,13 @@ void ClickToolbar(MainWindow& window, const char* key);
 void ChooseFromMenu(MainWindow& window, const char* menuName, const char* entryName, Album& album, const char* picture);
 /// Clicks the first row that shows `text` in column `col`.
 void ClickRowOf(FlexGrid* grid, int col, const char* text);
+
+/// A look at a dialog, in a source of its own that no other names: opened from the menu, and closed by Esc once its
+/// picture is taken.
+class Look {
+public:
+    Look(const char* picture, const char* menuName, const char* entryName);
+
+    /// Takes all that there are, in the order of their names.
+    static void TakeAll(MainWindow& window, Album& album);
+};

@@ -1,0 +1,3 @@
+#include "steps.h"
+
+static const Look InvoiceStyle("invoice-style", "mnuConfigure", "mnuConfigInvoiceStyle");

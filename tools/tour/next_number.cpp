@@ -1,0 +1,3 @@
+#include "steps.h"
+
+static const Look NextNumber("set-next-invoice-number", "mnuReservations", "mnuInvoiceSetInvoiceNo");
