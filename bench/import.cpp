@@ -11,8 +11,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <malloc.h>
-
 namespace {
 
 constexpr int Rounds = 5;
@@ -35,17 +33,6 @@ QByteArray TextOf(qsizetype bytes)
 {
     const QByteArray lines = ItemLines(10'000);
     return lines.repeated(bytes / lines.size() + 1);
-}
-
-/// Of what the program holds, without what it has only reserved.
-double MegabytesInUse()
-{
-    malloc_trim(0);
-    QFile status(QStringLiteral("/proc/self/statm"));
-    if (!status.open(QFile::ReadOnly))
-        return 0;
-    constexpr double Page = 4096;
-    return status.readAll().split(' ').at(1).toDouble() * Page / Megabyte;
 }
 
 void MeasureReader(const QByteArray& text)

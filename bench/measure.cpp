@@ -1,8 +1,13 @@
 #include "measure.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+
+#include <malloc.h>
+#include <unistd.h>
 
 namespace {
 bool gAllWithinLimits = true;
@@ -31,6 +36,15 @@ Pair MeasureInTurn(int rounds, const std::function<void()>& program, const std::
         pair.program.Add(MillisecondsOf(program));
     }
     return pair;
+}
+
+double MegabytesInUse()
+{
+    malloc_trim(0);
+    QFile status(QStringLiteral("/proc/self/statm"));
+    if (!status.open(QFile::ReadOnly))
+        return 0;
+    return status.readAll().split(' ').at(1).toDouble() * double(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
 void PrintFigure(const char* subject, double measured, double floor, double limit, const char* unit)

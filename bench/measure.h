@@ -24,6 +24,9 @@ struct Pair {
 };
 Pair MeasureInTurn(int rounds, const std::function<void()>& program, const std::function<void()>& floor);
 
+/// Of memory that the program holds, without what it has only reserved.
+double MegabytesInUse();
+
 /// One line of the table: what was measured, what the floor took, and the most that is allowed for that floor.
 /// Remembers whether any line was above its limit.
 void PrintFigure(const char* subject, double measured, double floor, double limit, const char* unit);

@@ -12,14 +12,10 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QFile>
 #include <QTemporaryDir>
 
 // After the reports: its routine has the name of their class.
 #include "measure.h"
-
-#include <malloc.h>
-#include <unistd.h>
 
 namespace {
 constexpr int Rounds = 7;
@@ -28,16 +24,6 @@ void CloseAllPreviews()
 {
     ClosePreviews();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-/// What the program holds, without what the query's sorting left to be used again.
-double ResidentBytes()
-{
-    malloc_trim(0);
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').at(1).toDouble() * double(sysconf(_SC_PAGESIZE));
 }
 
 /// The bytes of the fields that the stock level report shows: texts as UTF-8, eight a number.
@@ -73,10 +59,10 @@ void MeasurePdf()
     constexpr double BytesARow = 100;
     const QTemporaryDir folder;
     const double rowBytes = BytesOfTheRows();
-    const double before = ResidentBytes();
+    const double before = MegabytesInUse();
     ReportLayout layout(PrepareStockLevelReport(), {});
     const double time = MillisecondsOf([&] { SaveReportAsPdf(layout, folder.filePath(QStringLiteral("stock.pdf"))); });
-    const double grown = ResidentBytes() - before;
+    const double grown = (MegabytesInUse() - before) * 1e6;
     const int rows = layout.Design().rows->parents.Count();
     PrintFigure("stock level report to PDF, per page", time / layout.PageCount(), 0, MillisecondsAPage, "ms");
     PrintFigure("  memory beyond the rows themselves, per row", (grown - rowBytes) / rows, 0, BytesARow, "bytes");
