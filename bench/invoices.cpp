@@ -129,7 +129,7 @@ public:
         m_addCustomer.Run(Surname.toStdString());
         m_saveInvoice.Run(Customer, invoice);
         m_commit.Run();
-        m_search.Run("%" + Surname.toStdString() + "%");
+        m_search.Run(std::string("%").append(Surname.toStdString()).append("%"));
         m_customer.Run(Customer);
         m_begin.Run();
         m_saveCustomer.Run(Surname.toStdString(), Customer);
