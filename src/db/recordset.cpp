@@ -1,5 +1,6 @@
 #include "db/recordset.h"
 
+#include "base/numbers.h"
 #include "base/runtime_error.h"
 #include "db/engine_errors.h"
 #include "db/recordset_private.h"
@@ -248,6 +249,8 @@ std::string_view Recordset::Text(int ordinal) const
         kind == Value::Kind::Date || kind == Value::Kind::Boolean ? std::nan("") : sqlite3_column_double(row, ordinal);
     if (IsWhole(number))
         return WholeText(buffer, qint64(number));
-    buffer = ReadValue(row, ordinal, kind).ToText().toStdString();
+    buffer = (kind == Value::Kind::Money && type == SQLITE_FLOAT ? CStr(MoneyOf(row, ordinal))
+                                                                 : ReadValue(row, ordinal, kind).ToText())
+                 .toStdString();
     return buffer;
 }

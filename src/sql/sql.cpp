@@ -1,5 +1,6 @@
 #include "sql/sql.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {
@@ -88,18 +89,23 @@ Sql& Sql::Append(const QString& clause)
 
 const QString& Sql::Filled() const
 {
-    // Its memory stays for the next filling.
-    m_filled.resize(0);
-    m_filled.reserve(m_statement.size() * 2);
-    qsizetype done = 0;
+    qsizetype size = m_statement.size();
     for (const Marker& marker : m_markers) {
         if (marker.value < 0)
             throw std::logic_error("A marker is not filled in: " + m_statement.toStdString());
-        m_filled.append(QStringView(m_statement).mid(done, marker.start - done));
-        m_filled.append(m_values[marker.value]);
-        done = marker.start + marker.length;
+        size += m_values[marker.value].size() - marker.length;
     }
-    m_filled.append(QStringView(m_statement).mid(done));
+    // Its memory stays for the next filling.
+    m_filled.resize(size);
+    QChar* at = m_filled.data();
+    const QChar* from = m_statement.cbegin();
+    for (const Marker& marker : m_markers) {
+        const QString& value = m_values[marker.value];
+        at = std::copy(from, m_statement.cbegin() + marker.start, at);
+        at = std::copy(value.cbegin(), value.cend(), at);
+        from = m_statement.cbegin() + marker.start + marker.length;
+    }
+    std::copy(from, m_statement.cend(), at);
     return m_filled;
 }
 

@@ -59,6 +59,8 @@ inline const char16_t* AppendUtf8(std::string& out, const char16_t* at, const ch
 
 class Reader {
 public:
+    static constexpr size_t UsualLiterals = 4;
+
     Reader(const QString& statement, StatementShape& shape)
         : m_statement(statement)
         , m_begin(reinterpret_cast<const char16_t*>(statement.utf16()))
@@ -68,6 +70,8 @@ public:
     {
         m_shape.text.clear();
         m_shape.literals.clear();
+        // A cursor takes the literals with it: one piece of memory for them instead of one after the other.
+        m_shape.literals.reserve(UsualLiterals);
     }
 
     void Read()
