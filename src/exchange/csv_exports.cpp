@@ -13,8 +13,8 @@ namespace {
 constexpr const char* LineEnd = "\r\n";
 
 struct PriceList {
-    qint64 id;
     std::string name;
+    Sql priceOf; ///< an item's price in it
 };
 
 void AddField(std::string_view value, std::string& csv)
@@ -61,17 +61,18 @@ std::string TableCsv(const std::string& header, const char* statement, FieldText
 std::vector<PriceList> PriceLists()
 {
     std::vector<PriceList> lists;
+    const Sql priceOf("SELECT price FROM itemPriceList WHERE priceListID = {listId} AND itemID = {itemId}");
     for (Recordset list = gConnection->Execute("SELECT id, name FROM PriceList"); !list.Eof(); list.MoveNext())
-        lists.push_back({list.Long(0), std::string(list.Text(1))});
+        lists.push_back({std::string(list.Text(1)), Sql(priceOf).Number("listId", list.Long(0))});
     return lists;
 }
 
 /// Adds the item's price in each list that has one.
-void AddPrices(Sql& priceOf, qint64 itemId, const std::vector<PriceList>& lists, std::string& csv)
+void AddPrices(qint64 itemId, std::vector<PriceList>& lists, std::string& csv)
 {
-    priceOf.Number("itemId", itemId);
-    for (const PriceList& list : lists) {
-        const Recordset price = gConnection->Execute(priceOf.Number("listId", list.id));
+    const QString id = QString::number(itemId);
+    for (PriceList& list : lists) {
+        const Recordset price = gConnection->Execute(list.priceOf.Raw("itemId", id));
         if (price.Eof())
             continue;
         csv += ',';
@@ -99,16 +100,15 @@ std::string InventoryCsv()
     Recordset item = gConnection->Execute(
         "SELECT id, MinStockLevel, ReorderLevel, Barcode, LocationID, SubCategoryID, VendorID, NoInStock, name, "
         "description, TaxRateID FROM item");
-    const std::vector<PriceList> lists = PriceLists();
+    std::vector<PriceList> lists = PriceLists();
     std::string csv = "id, MinStockLevel, ReorderLevel, Barcode, LocationID, SubCategoryID, VendorID, NoInStock, name, "
                       "description, TaxRateID";
     for (const PriceList& list : lists)
         csv += ", " + list.name;
     csv += LineEnd;
-    Sql priceOf("SELECT price FROM itemPriceList WHERE priceListID = {listId} AND itemID = {itemId}");
     for (; !item.Eof(); item.MoveNext()) {
         AddFields(item, PlainText, csv);
-        AddPrices(priceOf, item.Long(0), lists, csv);
+        AddPrices(item.Long(0), lists, csv);
         csv += LineEnd;
     }
     return csv;
