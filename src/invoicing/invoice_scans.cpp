@@ -41,7 +41,8 @@ void InvoicePage::AddBarCodeItem()
             scanned->itemId, scanned->quantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
     });
 
-    txtBarcode->clear();
+    // Not cleared, which could be undone: a day's scans would never be forgotten.
+    txtBarcode->setText(QString());
     txtBarcode->setFocus();
     ShowScanned(code, scanned->itemId, isAdded);
 }

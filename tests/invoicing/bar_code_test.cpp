@@ -16,6 +16,7 @@ TEST_F(BarCode, EveryScanAddsOneAtTheListPriceNetOfDiscount)
     Scan("4006381333931");
     EXPECT_EQ(Lines(), Table({{"1", "8.991"}}));
     EXPECT_EQ(page->txtBarcode->text(), "");
+    EXPECT_FALSE(page->txtBarcode->isUndoAvailable()) << "the scans of a day gather";
     EXPECT_TRUE(page->txtBarcode->hasFocus());
     Scan("4006381333931");
     EXPECT_EQ(Lines(), Table({{"2", "8.991"}}));
