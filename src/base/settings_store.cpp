@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QSettings>
 
 namespace {
@@ -14,10 +15,20 @@ const QString OptionSection = QStringLiteral("Options");
 
 QString gFolder;
 
-/// A section's or key's name without the escapes of the file.
+/// A section's or key's name as QSettings reads it: %XX and %UXXXX stand for one character, a backslash for a slash.
 QString NameOf(const QByteArray& written)
 {
-    return QString::fromUtf8(QByteArray::fromPercentEncoding(written.trimmed()));
+    static const QRegularExpression escape(QStringLiteral("%(?:U([0-9A-Fa-f]{4})|([0-9A-Fa-f]{2}))"));
+    const QString text = QString::fromUtf8(written.trimmed()).replace(u'\\', u'/');
+    QString name;
+    qsizetype behind = 0;
+    for (const QRegularExpressionMatch& match : escape.globalMatch(text)) {
+        name += QStringView(text).sliced(behind, match.capturedStart() - behind);
+        name += QChar((match.captured(1) + match.captured(2)).toUShort(nullptr, 16));
+        behind = match.capturedEnd();
+    }
+    name += QStringView(text).sliced(behind);
+    return name;
 }
 
 /// True for one text in quotes, as the store itself writes it, with a remark behind it or none.
