@@ -63,7 +63,7 @@ void PutFiles(const QString& folder)
         items += "\"Lamp, " + QByteArray::number(i) + "\",L" + QByteArray::number(i) + ",50123456789"
             + QByteArray::number(i) + ",7,\"1,234.50\",Standard\r\n";
     Put(path("items.csv"), items);
-    Put(path("broken.csv"), QByteArray("a,\"b\nc,d\"\"e\r\r\n\"\0\xff\xfe,;\t'\",,\n", 28) + QByteArray(3000, '"'));
+    Put(path("broken.csv"), QByteArrayLiteral("a,\"b\nc,d\"\"e\r\r\n\"\0\xff\xfe,;\t'\",,\n") + QByteArray(3000, '"'));
     Put(path("empty.csv"), {});
     Put(path("wide.csv"), QByteArray(4000, ',') + "\n'1','2'\n");
     Put(path("no-picture.png"), "this is no picture");
