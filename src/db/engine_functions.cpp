@@ -7,7 +7,11 @@
 #include "sql/function_names.h"
 #include "sql/like_pattern.h"
 #include "sql/locale_order.h"
+#include "sql/spellings.h"
 #include "sql/value.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
 
 #include <memory>
 #include <new>
@@ -20,6 +24,11 @@ std::string_view TextOf(sqlite3_value* value)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
     return {text, size_t(sqlite3_value_bytes(value))};
+}
+
+QString Decoded(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
 bool IsNull(sqlite3_value* value)
@@ -52,9 +61,51 @@ void Fold(sqlite3_context* context, sqlite3_value** arguments)
 {
     if (IsNull(arguments[0]))
         return;
-    const std::string_view text = TextOf(arguments[0]);
-    const QByteArray folded = QString::fromUtf8(text.data(), qsizetype(text.size())).toCaseFolded().toUtf8();
+    const QByteArray folded = Decoded(TextOf(arguments[0])).toCaseFolded().toUtf8();
     sqlite3_result_text(context, folded.constData(), int(folded.size()), SQLITE_TRANSIENT);
+}
+
+/// Asks a column whether a text of it begins so: its index leads to the first that may.
+class BeginningQuery {
+public:
+    BeginningQuery(sqlite3* handle, std::string_view table, std::string_view column)
+    {
+        const QByteArray sql = QStringLiteral("SELECT [%2] FROM [%1] WHERE [%2] >= ? ORDER BY [%2] LIMIT 1")
+                                   .arg(Decoded(table), Decoded(column))
+                                   .toUtf8();
+        if (sqlite3_prepare_v2(handle, sql.constData(), int(sql.size()), &m_statement, nullptr) != SQLITE_OK)
+            throw EngineError(handle);
+    }
+    ~BeginningQuery() { sqlite3_finalize(m_statement); }
+    BeginningQuery(const BeginningQuery&) = delete;
+    BeginningQuery& operator=(const BeginningQuery&) = delete;
+
+    bool Answer(const std::string& beginning) const
+    {
+        sqlite3_bind_text(m_statement, 1, beginning.data(), int(beginning.size()), SQLITE_STATIC);
+        const int code = sqlite3_step(m_statement);
+        const auto* first = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, 0));
+        const bool begins = first != nullptr && sqlite3_strnicmp(first, beginning.c_str(), int(beginning.size())) == 0;
+        if (sqlite3_reset(m_statement) != SQLITE_OK || (code != SQLITE_ROW && code != SQLITE_DONE))
+            throw EngineError(sqlite3_db_handle(m_statement));
+        return begins;
+    }
+
+private:
+    sqlite3_stmt* m_statement = nullptr;
+};
+
+/// The spellings of a text that a column may hold. The text itself is always among them: a comparison with none at all
+/// would be false for a Null, too.
+void FindSpellings(sqlite3_context* context, sqlite3_value** arguments)
+{
+    const std::string_view text = TextOf(arguments[2]);
+    const BeginningQuery query(sqlite3_context_db_handle(context), TextOf(arguments[0]), TextOf(arguments[1]));
+    QJsonArray spellings{Decoded(text)};
+    for (const std::string& spelling : Spellings(text, [&](const std::string& start) { return query.Answer(start); }))
+        spellings.append(Decoded(spelling));
+    const QByteArray json = QJsonDocument(spellings).toJson(QJsonDocument::Compact);
+    sqlite3_result_text(context, json.constData(), int(json.size()), SQLITE_TRANSIENT);
 }
 
 void ConvertNumber(sqlite3_context* context, Value::Kind kind, double number)
@@ -84,8 +135,7 @@ void Convert(sqlite3_context* context, sqlite3_value** arguments)
         return;
     if (sqlite3_value_type(value) != SQLITE_TEXT)
         return ConvertNumber(context, kind, sqlite3_value_double(value));
-    const std::string_view text = TextOf(value);
-    ConvertNumber(context, kind, CDbl(QString::fromUtf8(text.data(), qsizetype(text.size()))));
+    ConvertNumber(context, kind, CDbl(Decoded(TextOf(value))));
 }
 
 /// Nothing comes before the empty key that Null has; as a key it keeps the engine's sorter on its short way, which a
@@ -133,16 +183,18 @@ int CompareTexts(void* order, int leftSize, const void* left, int rightSize, con
 void RegisterEngineFunctions(sqlite3* handle)
 {
     constexpr int Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+    constexpr int ReadsTheFile = SQLITE_UTF8;
     const auto check = [handle](int result) {
         if (result != SQLITE_OK)
             throw EngineError(handle);
     };
-    const auto add = [&](const char* name, int arguments, auto* function) {
-        check(sqlite3_create_function_v2(handle, name, arguments, Flags, nullptr, function, nullptr, nullptr, nullptr));
+    const auto add = [&](const char* name, int arguments, int flags, auto* function) {
+        check(sqlite3_create_function_v2(handle, name, arguments, flags, nullptr, function, nullptr, nullptr, nullptr));
     };
-    add(LikeFunction, 2, Guarded<Like>);
-    add(FoldFunction, 1, Guarded<Fold>);
-    add(ConvertFunction, 2, Guarded<Convert>);
+    add(LikeFunction, 2, Flags, Guarded<Like>);
+    add(FoldFunction, 1, Flags, Guarded<Fold>);
+    add(ConvertFunction, 2, Flags, Guarded<Convert>);
+    add(SpellingsFunction, 3, ReadsTheFile, Guarded<FindSpellings>);
     // The engine owns the order, and lets it go with the function or when it cannot take it.
     LocaleOrder* order = std::make_unique<LocaleOrder>(Regional()).release();
     check(sqlite3_create_function_v2(handle, SortKeyFunction, 1, Flags, order, Guarded<SortKey>, nullptr, nullptr,

@@ -161,6 +161,20 @@ bool ExpressionReader::HasOtherLetters(const Expression& expression) const
     return expression.literal >= 0 && m_marks[size_t(expression.literal)] == LiteralMark::OtherText;
 }
 
+bool ExpressionReader::IsIndexed(const ColumnReference& column) const
+{
+    return column && ::IsIndexed(*m_scope.Sources()[column.source].table, *column.column);
+}
+
+/// A condition that the index can answer: it holds for each row whose text is the literal's.
+std::string ExpressionReader::AmongSpellings(const Expression& column, const Expression& text) const
+{
+    const QString names = QStringLiteral("'%1', '%2'")
+                              .arg(m_scope.Sources()[column.column.source].table->name, column.column.column->name);
+    return column.sql + " IN (SELECT value FROM json_each(" + SpellingsFunction + "(" + names.toStdString() + ", "
+        + text.sql + ")))";
+}
+
 Expression ExpressionReader::Compare(Expression left, const std::string& sign, Expression right) const
 {
     RefuseMismatch(left, right);
@@ -175,8 +189,14 @@ Expression ExpressionReader::Compare(Expression left, const std::string& sign, E
     if (sign != "=" && sign != "<>")
         return Truth(left.sql + " " + sign + " " + right.sql + " COLLATE " + LocaleCollation);
     // The columns' own collation folds the plain alphabet and keeps the index; other letters need the whole rule.
-    if (HasOtherLetters(left) || HasOtherLetters(right))
-        return Truth(Folded(left.sql) + " " + sign + " " + Folded(right.sql));
+    if (HasOtherLetters(left) || HasOtherLetters(right)) {
+        const std::string whole = Folded(left.sql) + " " + sign + " " + Folded(right.sql);
+        if (sign == "=" && IsIndexed(left.column))
+            return Truth("(" + AmongSpellings(left, right) + " AND " + whole + ")");
+        if (sign == "=" && IsIndexed(right.column))
+            return Truth("(" + AmongSpellings(right, left) + " AND " + whole + ")");
+        return Truth(whole);
+    }
     const char* collation = left.column || right.column ? "" : " COLLATE NOCASE";
     return Truth(left.sql + " " + sign + " " + right.sql + collation);
 }

@@ -50,6 +50,8 @@ private:
     Expression Arithmetic(Expression left, const std::string& sign, Expression right);
     Expression AsNumber(Expression operand);
     bool HasOtherLetters(const Expression& expression) const;
+    bool IsIndexed(const ColumnReference& column) const;
+    std::string AmongSpellings(const Expression& column, const Expression& text) const;
 
     TokenStream& m_tokens;
     const NameScope& m_scope;

@@ -1,5 +1,7 @@
 #include "sql/schema.h"
 
+#include <algorithm>
+
 namespace {
 
 using enum ColumnKind;
@@ -170,44 +172,48 @@ QString CreateTable(const TableDefinition& table)
     return QStringLiteral("CREATE TABLE [%1] (%2)").arg(table.name, columns.join(QStringLiteral(", ")));
 }
 
+IndexDefinition Index(const char* name, const char* table, const char* columns)
+{
+    return {QString::fromLatin1(name), QString::fromLatin1(table), QString::fromLatin1(columns)};
+}
+
 /// One for each lookup and join of the screens.
-QStringList Indexes()
+QList<IndexDefinition> MakeIndexes()
 {
     return {
-        QStringLiteral("CREATE INDEX item_number ON item(Number)"),
-        QStringLiteral("CREATE INDEX item_name ON item(Name)"),
-        QStringLiteral("CREATE INDEX item_barcode ON item(Barcode)"),
-        QStringLiteral("CREATE INDEX item_taxrate ON item(TaxRateID)"),
-        QStringLiteral("CREATE INDEX item_location ON item(LocationID)"),
-        QStringLiteral("CREATE INDEX item_subcategory ON item(SubCategoryID)"),
-        QStringLiteral("CREATE INDEX item_vendor ON item(VendorID)"),
+        Index("item_number", "item", "Number"),
+        Index("item_name", "item", "Name"),
+        Index("item_barcode", "item", "Barcode"),
+        Index("item_taxrate", "item", "TaxRateID"),
+        Index("item_location", "item", "LocationID"),
+        Index("item_subcategory", "item", "SubCategoryID"),
+        Index("item_vendor", "item", "VendorID"),
         // With the price the inventory list need not touch the table.
-        QStringLiteral("CREATE INDEX itempricelist_item ON ItemPriceList(ItemID, PriceListID, Price)"),
-        QStringLiteral("CREATE INDEX itempricelist_pricelist ON ItemPriceList(PriceListID)"),
+        Index("itempricelist_item", "ItemPriceList", "ItemID, PriceListID, Price"),
+        Index("itempricelist_pricelist", "ItemPriceList", "PriceListID"),
         // An invoice's lines come in the order in which they were added, so this one may not sort by item.
-        QStringLiteral("CREATE INDEX invoiceline_invoice ON invoiceline(InvoiceID)"),
+        Index("invoiceline_invoice", "invoiceline", "InvoiceID"),
         // With the quantity the sums of an item's sales need not touch the table.
-        QStringLiteral("CREATE INDEX invoiceline_item ON invoiceline(ItemID, InvoiceID, Quantity)"),
-        QStringLiteral("CREATE INDEX invoice_customer ON invoice(CustomerID)"),
-        QStringLiteral("CREATE INDEX invoice_submitteddate ON invoice(SubmittedDate)"),
+        Index("invoiceline_item", "invoiceline", "ItemID, InvoiceID, Quantity"),
+        Index("invoice_customer", "invoice", "CustomerID"),
+        Index("invoice_submitteddate", "invoice", "SubmittedDate"),
         // month(SubmittedDate) as the dialect writes it: the popular months are counted in order. The date is there so
         // that the engine finds all it needs in the index.
-        QStringLiteral("CREATE INDEX invoice_submittedmonth ON invoice(CAST(substr(SubmittedDate, 6, 2) AS INTEGER), "
-                       "SubmittedDate)"),
-        QStringLiteral("CREATE INDEX customer_name ON customer(LastName, FirstName)"),
-        QStringLiteral("CREATE INDEX customer_businessname ON customer(BusinessName)"),
-        QStringLiteral("CREATE INDEX vendor_businessname ON vendor(BusinessName)"),
-        QStringLiteral("CREATE INDEX location_warehouse ON location(WarehouseID)"),
-        QStringLiteral("CREATE INDEX location_name ON location(name)"),
-        QStringLiteral("CREATE INDEX subcategory_category ON subcategory(CategoryID)"),
-        QStringLiteral("CREATE INDEX subcategory_name ON subcategory(name)"),
-        QStringLiteral("CREATE INDEX taxrate_name ON taxrate(name)"),
-        QStringLiteral("CREATE INDEX itemgroup_item_group ON itemgroup_item(itemgroupid)"),
-        QStringLiteral("CREATE INDEX itemgroup_item_item ON itemgroup_item(ItemID)"),
-        QStringLiteral("CREATE INDEX itemcustomfielddata_item ON ItemCustomFieldData(ItemID, ItemCustomFieldID)"),
-        QStringLiteral("CREATE INDEX itemcustomfieldoption_field ON itemCustomFieldOption(itemCustomFieldID)"),
-        QStringLiteral("CREATE INDEX booking_customer ON Booking(customerid)"),
-        QStringLiteral("CREATE INDEX bookingslip_booking ON BookingSlip(bookingid)"),
+        Index("invoice_submittedmonth", "invoice", "CAST(substr(SubmittedDate, 6, 2) AS INTEGER), SubmittedDate"),
+        Index("customer_name", "customer", "LastName, FirstName"),
+        Index("customer_businessname", "customer", "BusinessName"),
+        Index("vendor_businessname", "vendor", "BusinessName"),
+        Index("location_warehouse", "location", "WarehouseID"),
+        Index("location_name", "location", "name"),
+        Index("subcategory_category", "subcategory", "CategoryID"),
+        Index("subcategory_name", "subcategory", "name"),
+        Index("taxrate_name", "taxrate", "name"),
+        Index("itemgroup_item_group", "itemgroup_item", "itemgroupid"),
+        Index("itemgroup_item_item", "itemgroup_item", "ItemID"),
+        Index("itemcustomfielddata_item", "ItemCustomFieldData", "ItemID, ItemCustomFieldID"),
+        Index("itemcustomfieldoption_field", "itemCustomFieldOption", "itemCustomFieldID"),
+        Index("booking_customer", "Booking", "customerid"),
+        Index("bookingslip_booking", "BookingSlip", "bookingid"),
     };
 }
 
@@ -217,6 +223,24 @@ const QList<TableDefinition>& SchemaTables()
 {
     static const QList<TableDefinition> tables = MakeTables();
     return tables;
+}
+
+const QList<IndexDefinition>& SchemaIndexes()
+{
+    static const QList<IndexDefinition> indexes = MakeIndexes();
+    return indexes;
+}
+
+QString IndexDefinition::Statement() const
+{
+    return QStringLiteral("CREATE INDEX %1 ON %2(%3)").arg(name, table, columns);
+}
+
+bool IsIndexed(const TableDefinition& table, const ColumnDefinition& column)
+{
+    return std::any_of(SchemaIndexes().begin(), SchemaIndexes().end(), [&](const IndexDefinition& index) {
+        return index.table == table.name && index.columns.section(u',', 0, 0) == column.name;
+    });
 }
 
 const TableDefinition* FindTable(QStringView name)
@@ -242,5 +266,7 @@ QStringList SchemaStatements()
     QStringList statements;
     for (const TableDefinition& table : SchemaTables())
         statements << CreateTable(table);
-    return statements + Indexes();
+    for (const IndexDefinition& index : SchemaIndexes())
+        statements << index.Statement();
+    return statements;
 }

@@ -23,7 +23,19 @@ struct TableDefinition {
     QList<ColumnDefinition> columns;
 };
 
+struct IndexDefinition {
+    QString name;
+    QString table;
+    QString columns; ///< or expressions, parted by commas
+
+    /// The DDL, as the file keeps it.
+    QString Statement() const;
+};
+
 const QList<TableDefinition>& SchemaTables();
+const QList<IndexDefinition>& SchemaIndexes();
+/// Whether an index finds the rows with a value of the column.
+bool IsIndexed(const TableDefinition& table, const ColumnDefinition& column);
 /// Without regard to case; null when there is none.
 const TableDefinition* FindTable(QStringView name);
 const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name);

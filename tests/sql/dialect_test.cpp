@@ -1,3 +1,4 @@
+#include "db/connection_private.h"
 #include "sql/dialect.h"
 #include "support/test.h"
 
@@ -148,4 +149,37 @@ TEST_F(Dialect, LongAndDeepExpressionsAreAnsweredAtOnce)
                 << nest << depth;
     const auto shown = Failure("SELECT name FROM item WHERE name = ?" + QString(5000000, u'x'));
     EXPECT_LT(shown.size(), 700) << "a box shows it";
+}
+
+/// An index finds the texts that a reading of the whole table finds, whatever letters they are made of.
+TEST_F(Dialect, ATextWithAnyLettersIsFoundThroughTheIndexAsWithoutIt)
+{
+    const QStringList letters{"a", "A", "s", "S", "ſ", "ß", "ẞ", "k", "K", "\u212A", "å", "Å", "\u212B", "σ", "ς", "Σ",
+        "Д", "д", "i", "İ", "i\u0307", "ŉ", "ﬀ", "f", "F", "ΐ", "\u1FD3", "𐐀", "𐐨", "語", "-", "\uFFFF"};
+    std::mt19937 random(20260314);
+    const auto text = [&] {
+        QString made;
+        for (unsigned length = 1 + random() % 4; length > 0; --length)
+            made += letters[qsizetype(random() % size_t(letters.size()))];
+        return made;
+    };
+    Run("INSERT INTO item (Name) VALUES (NULL)");
+    for (int i = 0; i < 300; ++i)
+        Item(text()).Add();
+    int found = 0;
+    for (int i = 0; i < 300; ++i) {
+        const auto rows = [name = text()](const char* condition) {
+            return Select(Sql("SELECT name FROM item WHERE ").Append(condition).Text("name", name).Filled());
+        };
+        const Table plain = rows("name & '' = '{name}' ORDER BY id");
+        EXPECT_EQ(rows("'{name}' = item.name ORDER BY id"), plain);
+        EXPECT_EQ(rows("NOT (item.name = '{name}')").size() + plain.size(), 300);
+        found += int(plain.size());
+    }
+    EXPECT_GT(found, 300);
+    StatementShape shape;
+    ReadStatement("SELECT id FROM item WHERE name = 'Größe'", shape);
+    const Table plan =
+        PlainRows(gConnection->Private().handle, "EXPLAIN QUERY PLAN " + QString::fromStdString(Translate(shape).sql));
+    EXPECT_EQ(plan.first().last(), "SEARCH item USING COVERING INDEX item_name (Name=?)");
 }
