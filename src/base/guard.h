@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <type_traits>
+#include <utility>
 
 /// True once a run-time error has ended the program: the connection refuses every statement from then on, and guarded
 /// handlers no longer run.
@@ -51,25 +52,30 @@ bool Ignoring(Body&& body)
     }
 }
 
+/// The handler as a function of its own: a member is bound to its object.
+template <typename Receiver, typename Handler>
+auto BoundHandler(Receiver* receiver, Handler handler)
+{
+    if constexpr (std::is_member_function_pointer_v<Handler>)
+        return std::bind_front(handler, receiver);
+    else
+        return handler;
+}
+
 /// Connects a signal to a guarded handler, which may take fewer arguments than the signal gives: a member of the
 /// receiver or any function. The connection lives as long as sender and receiver both do.
 template <typename Sender, typename Owner, typename... Arguments, typename Receiver, typename Handler>
 void On(Sender* sender, void (Owner::*signal)(Arguments...), Receiver* receiver, Handler handler)
 {
-    QObject::connect(sender, signal, receiver, [receiver, handler](Arguments... arguments) mutable {
-        Guarded([&] {
-            if constexpr (std::is_member_function_pointer_v<Handler>) {
-                if constexpr (std::is_invocable_v<Handler, Receiver*, Arguments...>)
-                    (receiver->*handler)(arguments...);
+    QObject::connect(
+        sender, signal, receiver, [call = BoundHandler(receiver, std::move(handler))](Arguments... arguments) mutable {
+            Guarded([&] {
+                if constexpr (std::is_invocable_v<decltype(call)&, Arguments...>)
+                    call(arguments...);
+                else if constexpr (std::is_invocable_v<decltype(call)&>)
+                    call();
                 else
-                    (receiver->*handler)();
-            } else if constexpr (std::is_invocable_v<Handler&, Arguments...>) {
-                handler(arguments...);
-            } else if constexpr (std::is_invocable_v<Handler&>) {
-                handler();
-            } else {
-                [&](auto&& first, auto&&...) { handler(first); }(arguments...);
-            }
+                    [&](auto&& first, auto&&...) { call(first); }(arguments...);
+            });
         });
-    });
 }

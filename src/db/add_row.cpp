@@ -100,14 +100,14 @@ struct AddRow::State {
 
     void Update()
     {
-        ConnectionPrivate& d = owner.Private();
-        d.RequireOpen();
-        PreparedStatement& insert = Statement(d);
+        ConnectionPrivate& connection = owner.Private();
+        connection.RequireOpen();
+        PreparedStatement& insert = Statement(connection);
         for (size_t i = 0; i < fields.size(); ++i)
             BindStored(insert.Handle(), int(i) + 1, fields[i].value);
         insert.Step();
         insert.Release();
-        id = sqlite3_last_insert_rowid(d.handle);
+        id = sqlite3_last_insert_rowid(connection.handle);
         fields.clear();
     }
 
