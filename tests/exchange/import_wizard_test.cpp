@@ -31,7 +31,8 @@ protected:
     }
     static void AwaitReading(const frmWizImport_Preview& page)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&page] { return page.cmdNext->isEnabled(); }));
+        // A machine with much else to do takes its time over a large file.
+        EXPECT_TRUE(QTest::qWaitFor([&page] { return page.cmdNext->isEnabled(); }, 60'000));
     }
     static ComboBox* Source(frmWizImport_Preview& page, int field)
     {
