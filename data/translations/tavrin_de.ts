@@ -134,6 +134,10 @@
         <source>Saved as %1</source>
         <translation>Gespeichert als %1</translation>
     </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation>Datei wird geschrieben...</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -218,6 +222,10 @@
         <source>Instructions - you are currently viewing your customer list. This includes all customers you have invoiced or previously added. To sort by a column click it&apos;s title. For more details press F1 for help.</source>
         <translation>Hinweis - Sie sehen Ihre Kundenliste. Sie enthält alle Kunden, denen Sie Rechnungen gestellt oder die Sie selbst hinzugefügt haben. Klicken Sie auf einen Spaltentitel, um nach dieser Spalte zu sortieren. Mit F1 öffnen Sie die Hilfe.</translation>
     </message>
+    <message>
+        <source>Reading the customers...</source>
+        <translation>Kunden werden gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseBackup</name>
@@ -236,6 +244,10 @@
     <message>
         <source>Successfully backed up database file.</source>
         <translation>Die Datenbankdatei wurde gesichert.</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Datenbank wird kopiert...</translation>
     </message>
 </context>
 <context>
@@ -379,6 +391,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Field%1</source>
         <translation>Feld%1</translation>
     </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Datei wird gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>InventoryList</name>
@@ -450,6 +466,17 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>At or below the reorder level</source>
         <translation>Auf oder unter dem Meldebestand</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Artikel werden gelesen...</translation>
+    </message>
+</context>
+<context>
+    <name>InvoiceDocuments</name>
+    <message>
+        <source>Preparing the document...</source>
+        <translation>Beleg wird vorbereitet...</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceHistory</name>
@@ -516,6 +543,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Invoice %1 deleted</source>
         <translation>Rechnung %1 gelöscht</translation>
+    </message>
+    <message>
+        <source>Reading the invoices...</source>
+        <translation>Rechnungen werden gelesen...</translation>
     </message>
 </context>
 <context>
@@ -1233,6 +1264,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Saved as %1</source>
         <translation>Gespeichert als %1</translation>
     </message>
+    <message>
+        <source>Bringing the database file up to date...</source>
+        <translation>Datenbankdatei wird auf den neuesten Stand gebracht...</translation>
+    </message>
 </context>
 <context>
     <name>NameForm</name>
@@ -1401,6 +1436,18 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Saved as %1</source>
         <translation>Gespeichert als %1</translation>
     </message>
+    <message>
+        <source>Counting the pages...</source>
+        <translation>Seiten werden gezählt...</translation>
+    </message>
+    <message>
+        <source>Printing...</source>
+        <translation>Wird gedruckt...</translation>
+    </message>
+    <message>
+        <source>Writing the PDF...</source>
+        <translation>PDF wird geschrieben...</translation>
+    </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
@@ -1441,6 +1488,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filter</translation>
+    </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Liste wird gelesen...</translation>
     </message>
 </context>
 <context>
@@ -1531,6 +1582,14 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Shrink &gt;&gt;</source>
         <translation>Verkleinern &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>Computing the statistics...</source>
+        <translation>Statistik wird berechnet...</translation>
+    </message>
+    <message>
+        <source>Computing the graph...</source>
+        <translation>Diagramm wird berechnet...</translation>
     </message>
 </context>
 <context>
@@ -1652,6 +1711,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Stock Level Report</source>
         <translation>Bestandsbericht</translation>
+    </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Bericht wird vorbereitet...</translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2094,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>No item matches.</source>
         <translation>Kein Artikel gefunden.</translation>
     </message>
+    <message>
+        <source>Searching the items...</source>
+        <translation>Artikel werden durchsucht...</translation>
+    </message>
 </context>
 <context>
     <name>frmAddPriceList</name>
@@ -2069,6 +2136,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Adding prices</source>
         <translation>Preise werden hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Adding the prices...</source>
+        <translation>Preise werden hinzugefügt...</translation>
     </message>
 </context>
 <context>
@@ -2387,6 +2458,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>No customer matches.</source>
         <translation>Kein Kunde gefunden.</translation>
     </message>
+    <message>
+        <source>Searching the customers...</source>
+        <translation>Kunden werden durchsucht...</translation>
+    </message>
 </context>
 <context>
     <name>frmFindInvoice</name>
@@ -2449,6 +2524,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>No invoice is of these days.</source>
         <translation>An diesen Tagen gibt es keine Rechnung.</translation>
+    </message>
+    <message>
+        <source>Searching the invoices...</source>
+        <translation>Rechnungen werden durchsucht...</translation>
     </message>
 </context>
 <context>
@@ -2604,6 +2683,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
         <translation>Die Gruppe ist leer. Wählen Sie einen Artikel und klicken Sie auf „Artikel hinzufügen“.</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Artikel werden gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>frmItemQuantity</name>
@@ -2676,6 +2759,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Price Lists:</source>
         <translation>Preislisten:</translation>
+    </message>
+    <message>
+        <source>Deleting the prices...</source>
+        <translation>Preise werden gelöscht...</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2886,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>There are no items to receive stock of.</source>
         <translation>Es gibt keine Artikel für einen Wareneingang.</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Artikel werden gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>frmReorderReportFilter</name>
@@ -2837,6 +2928,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Sort by:</source>
         <translation>Sortieren nach:</translation>
+    </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Artikel werden gelesen...</translation>
     </message>
 </context>
 <context>
@@ -2880,6 +2975,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>No customer matches.</source>
         <translation>Kein Kunde gefunden.</translation>
+    </message>
+    <message>
+        <source>Searching the customers...</source>
+        <translation>Kunden werden durchsucht...</translation>
     </message>
 </context>
 <context>
@@ -3333,6 +3432,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Error occured when importing record %1</source>
         <translation>Fehler beim Import von Datensatz %1</translation>
     </message>
+    <message>
+        <source>Importing the records...</source>
+        <translation>Datensätze werden importiert...</translation>
+    </message>
 </context>
 <context>
     <name>frmWizImport_Welcome</name>
@@ -3354,6 +3457,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Unable to write to file </source>
         <translation>Die Datei kann nicht geschrieben werden: </translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation>Datei wird geschrieben...</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,10 @@
         <source>Saved as %1</source>
         <translation>Enregistré sous %1</translation>
     </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation>Écriture du fichier...</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -218,6 +222,10 @@
         <source>Instructions - you are currently viewing your customer list. This includes all customers you have invoiced or previously added. To sort by a column click it&apos;s title. For more details press F1 for help.</source>
         <translation>Instructions - vous consultez la liste de vos clients. Elle comprend tous les clients que vous avez facturés ou ajoutés. Pour trier par une colonne, cliquez sur son titre. Pour en savoir plus, appuyez sur F1.</translation>
     </message>
+    <message>
+        <source>Reading the customers...</source>
+        <translation>Lecture des clients...</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseBackup</name>
@@ -236,6 +244,10 @@
     <message>
         <source>Successfully backed up database file.</source>
         <translation>La base de données a été sauvegardée.</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Copie de la base de données...</translation>
     </message>
 </context>
 <context>
@@ -379,6 +391,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Field%1</source>
         <translation>Champ%1</translation>
     </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Lecture du fichier...</translation>
+    </message>
 </context>
 <context>
     <name>InventoryList</name>
@@ -450,6 +466,17 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>At or below the reorder level</source>
         <translation>Au seuil de commande ou en dessous</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
+</context>
+<context>
+    <name>InvoiceDocuments</name>
+    <message>
+        <source>Preparing the document...</source>
+        <translation>Préparation du document...</translation>
+    </message>
 </context>
 <context>
     <name>InvoiceHistory</name>
@@ -516,6 +543,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Invoice %1 deleted</source>
         <translation>Facture %1 supprimée</translation>
+    </message>
+    <message>
+        <source>Reading the invoices...</source>
+        <translation>Lecture des factures...</translation>
     </message>
 </context>
 <context>
@@ -1233,6 +1264,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Saved as %1</source>
         <translation>Enregistré sous %1</translation>
     </message>
+    <message>
+        <source>Bringing the database file up to date...</source>
+        <translation>Mise à jour du fichier de la base de données...</translation>
+    </message>
 </context>
 <context>
     <name>NameForm</name>
@@ -1401,6 +1436,18 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Saved as %1</source>
         <translation>Enregistré sous %1</translation>
     </message>
+    <message>
+        <source>Counting the pages...</source>
+        <translation>Comptage des pages...</translation>
+    </message>
+    <message>
+        <source>Printing...</source>
+        <translation>Impression en cours...</translation>
+    </message>
+    <message>
+        <source>Writing the PDF...</source>
+        <translation>Écriture du PDF...</translation>
+    </message>
 </context>
 <context>
     <name>QGnomeTheme</name>
@@ -1441,6 +1488,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtre</translation>
+    </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Lecture de la liste...</translation>
     </message>
 </context>
 <context>
@@ -1531,6 +1582,14 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Shrink &gt;&gt;</source>
         <translation>Réduire &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>Computing the statistics...</source>
+        <translation>Calcul des statistiques...</translation>
+    </message>
+    <message>
+        <source>Computing the graph...</source>
+        <translation>Calcul du graphique...</translation>
     </message>
 </context>
 <context>
@@ -1652,6 +1711,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Stock Level Report</source>
         <translation>État des stocks</translation>
+    </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Préparation du rapport...</translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2094,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>No item matches.</source>
         <translation>Aucun article trouvé.</translation>
     </message>
+    <message>
+        <source>Searching the items...</source>
+        <translation>Recherche des articles...</translation>
+    </message>
 </context>
 <context>
     <name>frmAddPriceList</name>
@@ -2069,6 +2136,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Adding prices</source>
         <translation>Ajout des prix</translation>
+    </message>
+    <message>
+        <source>Adding the prices...</source>
+        <translation>Ajout des prix...</translation>
     </message>
 </context>
 <context>
@@ -2387,6 +2458,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>No customer matches.</source>
         <translation>Aucun client trouvé.</translation>
     </message>
+    <message>
+        <source>Searching the customers...</source>
+        <translation>Recherche des clients...</translation>
+    </message>
 </context>
 <context>
     <name>frmFindInvoice</name>
@@ -2449,6 +2524,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No invoice is of these days.</source>
         <translation>Aucune facture à ces dates.</translation>
+    </message>
+    <message>
+        <source>Searching the invoices...</source>
+        <translation>Recherche des factures...</translation>
     </message>
 </context>
 <context>
@@ -2604,6 +2683,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
         <translation>Le groupe est vide. Choisissez un article et cliquez sur « Ajouter un article ».</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
 </context>
 <context>
     <name>frmItemQuantity</name>
@@ -2676,6 +2759,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Price Lists:</source>
         <translation>Tarifs :</translation>
+    </message>
+    <message>
+        <source>Deleting the prices...</source>
+        <translation>Suppression des prix...</translation>
     </message>
 </context>
 <context>
@@ -2799,6 +2886,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>There are no items to receive stock of.</source>
         <translation>Il n&apos;y a aucun article à réceptionner.</translation>
     </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
 </context>
 <context>
     <name>frmReorderReportFilter</name>
@@ -2837,6 +2928,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Sort by:</source>
         <translation>Trier par :</translation>
+    </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
     </message>
 </context>
 <context>
@@ -2880,6 +2975,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No customer matches.</source>
         <translation>Aucun client trouvé.</translation>
+    </message>
+    <message>
+        <source>Searching the customers...</source>
+        <translation>Recherche des clients...</translation>
     </message>
 </context>
 <context>
@@ -3333,6 +3432,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Error occured when importing record %1</source>
         <translation>Erreur lors de l’importation de l’enregistrement %1</translation>
     </message>
+    <message>
+        <source>Importing the records...</source>
+        <translation>Importation des enregistrements...</translation>
+    </message>
 </context>
 <context>
     <name>frmWizImport_Welcome</name>
@@ -3354,6 +3457,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Unable to write to file </source>
         <translation>Impossible d&apos;écrire dans le fichier </translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation>Écriture du fichier...</translation>
     </message>
 </context>
 <context>

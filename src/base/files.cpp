@@ -1,6 +1,7 @@
 #include "base/files.h"
 
 #include "base/runtime_error.h"
+#include "base/sign_of_life.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -125,6 +126,7 @@ bool WriteWholeFile(const QString& path, QIODevice& source)
         const QByteArray bytes = source.read(Piece);
         if (bytes.isEmpty() || file.write(bytes) != bytes.size())
             return false;
+        SignOfLife();
     }
     // The commit does not notice that the disk is full for what lies in the buffer yet.
     return file.flush() && file.commit();

@@ -1,26 +1,119 @@
 #include "controls/hourglass.h"
 
-#include <QApplication>
+#include "base/sign_of_life.h"
 
-Hourglass::Hourglass()
+#include <QApplication>
+#include <QBackingStore>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QStatusBar>
+#include <QWindow>
+
+namespace {
+
+constexpr qint64 UntilTold = 1000;
+constexpr qint64 BetweenPaintings = 250;
+
+struct Wait {
+    int hourglasses = 0;
+    QString doing;
+    QElapsedTimer clock;
+    qint64 nextPainting = UntilTold;
+    QPointer<QStatusBar> note;
+};
+Wait gWait;
+
+QWidget* WindowInFront()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible())
+            return window;
+    return nullptr;
+}
+
+/// Lies over the bottom of the window, so that nothing in it moves and what stood there is there again afterwards.
+void ShowNote()
+{
+    QWidget* window = WindowInFront();
+    if (!window || !window->isVisible())
+        return;
+    gWait.note = new QStatusBar(window);
+    gWait.note->setSizeGripEnabled(false);
+    gWait.note->setAutoFillBackground(true);
+    gWait.note->showMessage(gWait.doing);
+    const int height = gWait.note->sizeHint().height();
+    gWait.note->setGeometry(0, window->height() - height, window->width(), height);
+    gWait.note->show();
+    gWait.note->repaint();
+}
+
+/// Shows once more what was painted last: another window may have wiped it away. Nothing is laid out or painted anew,
+/// and a list that is being filled is not asked for its rows.
+void ShowWindowsAgain()
+{
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->windowHandle() && window->windowHandle()->isExposed() && window->backingStore())
+            window->backingStore()->flush(window->rect());
+}
+
+void ShowWait()
+{
+    if (gWait.clock.elapsed() < gWait.nextPainting)
+        return;
+    if (!gWait.note)
+        ShowNote();
+    ShowWindowsAgain();
+    gWait.nextPainting = gWait.clock.elapsed() + BetweenPaintings;
+}
+
+void StartClock()
+{
+    gWait.clock.start();
+    gWait.nextPainting = UntilTold;
+    SetSignOfLife(ShowWait);
+}
+
+void StopClock()
+{
+    SetSignOfLife(nullptr);
+    delete gWait.note;
+}
+
+} // namespace
+
+Hourglass::Hourglass(const QString& doing)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (gWait.hourglasses++ > 0)
+        return;
+    gWait.doing = doing;
+    StartClock();
 }
 
 Hourglass::~Hourglass()
 {
     QApplication::restoreOverrideCursor();
+    if (--gWait.hourglasses == 0)
+        StopClock();
 }
 
 ArrowOverHourglass::ArrowOverHourglass()
     : m_waiting(QApplication::overrideCursor() != nullptr)
 {
-    if (m_waiting)
-        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    if (!m_waiting)
+        return;
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
+    StopClock();
 }
 
 ArrowOverHourglass::~ArrowOverHourglass()
 {
-    if (m_waiting)
-        QApplication::restoreOverrideCursor();
+    if (!m_waiting)
+        return;
+    QApplication::restoreOverrideCursor();
+    StartClock();
 }

@@ -1,15 +1,21 @@
 #pragma once
 
-/// Shows the hourglass while it lives. Nests.
+#include <QString>
+
+/// Shows the hourglass while it lives. Nests: the outermost one says what is waited for, and of each wait the clock
+/// starts with it. After a second the text stands at the bottom of the window in front, and the windows are painted
+/// again and again, as far as SignOfLife is told. No event is handled meanwhile.
 class Hourglass {
 public:
-    Hourglass();
+    /// `doing` as in "Reading the items...".
+    explicit Hourglass(const QString& doing);
     ~Hourglass();
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
-/// Shows the arrow while it lives where there was an hourglass: over a dialog, which waits for the user.
+/// Shows the arrow while it lives where there was an hourglass: over a dialog, which waits for the user. The clock of
+/// the wait starts anew behind it.
 class ArrowOverHourglass {
 public:
     ArrowOverHourglass();

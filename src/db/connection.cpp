@@ -55,6 +55,7 @@ void ConnectionPrivate::Open(const QString& file, FileUse use)
     path = file;
     opening = ++openings;
     RegisterEngineFunctions(handle);
+    TellSignsOfLife(handle);
 }
 
 void ConnectionPrivate::Close()

@@ -1,5 +1,6 @@
 #include "db/database_file.h"
 
+#include "base/sign_of_life.h"
 #include "db/engine_errors.h"
 #include "db/left_journal.h"
 
@@ -128,4 +129,15 @@ sqlite3* OpenDatabaseFile(const QString& path, FileUse use)
 void SetGiveWay(void (*giveWay)())
 {
     gGiveWay = giveWay;
+}
+
+void TellSignsOfLife(sqlite3* handle)
+{
+    // Of the engine's steps, some hundred times a second; it counts them in any case.
+    constexpr int StepsToASign = 100'000;
+    const auto tell = [](void*) {
+        SignOfLife();
+        return 0;
+    };
+    sqlite3_progress_handler(handle, StepsToASign, tell, nullptr);
 }

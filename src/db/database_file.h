@@ -12,3 +12,6 @@ sqlite3* OpenDatabaseFile(const QString& path, FileUse use);
 
 /// `giveWay` is called, on any thread, when a connection waits for a file that another one holds.
 void SetGiveWay(void (*giveWay)());
+
+/// From now on the engine tells SignOfLife while it runs a statement of the handle. For the screens' thread alone.
+void TellSignsOfLife(sqlite3* handle);

@@ -57,7 +57,7 @@ void ExportTable(std::string (*text)())
     const QString file = AskFile();
     if (file.isEmpty())
         return;
-    const Hourglass hourglass;
+    const Hourglass hourglass(CsvExports::tr("Writing the file..."));
     TellingFailure([&] {
         DeleteOldFile(file);
         Write(file, text());
@@ -78,7 +78,7 @@ void ExportCustomers()
 
 void ExportInventory()
 {
-    const Hourglass hourglass;
+    const Hourglass hourglass(CsvExports::tr("Writing the file..."));
     const QString file = AskFile();
     if (file.isEmpty())
         return;
@@ -94,7 +94,7 @@ void ExportTodaysInvoices()
     const QString file = AskFile();
     if (file.isEmpty())
         return;
-    const Hourglass hourglass;
+    const Hourglass hourglass(CsvExports::tr("Writing the file..."));
     DeleteOldFile(file);
     Write(file, TodaysInvoicesCsv());
 }

@@ -18,7 +18,7 @@ struct DatabaseBackup {
 
 bool Copy(const QString& database, const QString& target)
 {
-    const Hourglass hourglass;
+    const Hourglass hourglass(DatabaseBackup::tr("Copying the database..."));
     return CopyDatabase(database, target);
 }
 

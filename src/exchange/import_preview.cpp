@@ -167,7 +167,7 @@ void frmWizImport_Preview::DoImport()
 {
     m_progress->show();
     const auto failure = [this] {
-        const Hourglass hourglass;
+        const Hourglass hourglass(tr("Importing the records..."));
         return ImportRecords({g->Rows() - 1, [this](int row, int col) { return g->TextMatrix(row, col); }},
             m_wizard.ImportFields, [this](int done, int total) {
                 m_progress->setRange(0, total);

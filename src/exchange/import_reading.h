@@ -31,7 +31,7 @@ private:
     bool ReadRow();
     void ShowRows();
 
-    Hourglass m_hourglass;
+    Hourglass m_hourglass{tr("Reading the file...")};
     FlexGrid* m_grid;
     CsvFile m_file;
     std::optional<char> m_separator;

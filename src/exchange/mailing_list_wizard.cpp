@@ -1,6 +1,7 @@
 #include "exchange/mailing_list_wizard.h"
 
 #include "controls/dialogs.h"
+#include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "exchange/mailing_list.h"
@@ -69,6 +70,7 @@ void RunMailingListWizard(QWidget* parent)
     if (!ShowPages(Pages, wizard, parent))
         return;
     const QString& file = MailingListWizard::MailListFileName;
+    const Hourglass hourglass(frmWizMailList_Complete::tr("Writing the file..."));
     if (!WriteMailingList(file))
         MsgBox(frmWizMailList_Complete::tr("Unable to write to file ") + file + QLatin1Char('.'), Icon::Critical);
 }

@@ -52,7 +52,7 @@ frmAddPriceList::frmAddPriceList(QWidget* parent)
 
 void frmAddPriceList::Add(const QString& name)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Adding the prices..."));
     auto* bar = new QProgressBar;
     bar->setAccessibleName(tr("Adding prices"));
     ShowBesideButtons(bar);

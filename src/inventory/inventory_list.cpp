@@ -86,7 +86,7 @@ InventoryList::InventoryList(QWidget* parent)
 
 void InventoryList::RefreshInventoryList(int row, qint64 selectId)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the items..."));
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
     gInventory->SetTitleOf(PriceField, cboInvoicePriceList->Text());

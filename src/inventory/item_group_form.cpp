@@ -65,7 +65,7 @@ frmItemGroup::frmItemGroup(QWidget* parent)
 
 void frmItemGroup::FillItems()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the items..."));
     FillCombo(cboItems, Sql("SELECT id, name FROM item ORDER BY name;"));
     if (cboItems->ListCount() > 0)
         cboItems->SetListIndex(0);

@@ -21,6 +21,6 @@ void frmMultiplePricing::ShowDetails(qint64 id)
 
 void frmMultiplePricing::DeleteRow(qint64 id)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Deleting the prices..."));
     DeletePriceList(id);
 }

@@ -78,7 +78,7 @@ void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
 
 void frmReceiveStock::LoadItems(int row, qint64 selectId)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the items..."));
     gConnection->Execute("SELECT count(*) FROM item").Close();
 
     gInventory->Load(

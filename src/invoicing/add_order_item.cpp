@@ -130,7 +130,7 @@ void frmAddOrderItem::FillSubCategories()
 
 void frmAddOrderItem::DoSearch()
 {
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Searching the items..."));
     lblItemMatches->setText(tr("Searching..."));
     lblItemMatches->repaint();
 

@@ -71,7 +71,7 @@ void frmResCustSearch::RefreshCustomerScreen()
 
 void frmResCustSearch::ListMatches()
 {
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Searching the customers..."));
     cmdSelect->setEnabled(false);
     gcust->Load(SearchStatement(txtFirstname->text(), txtLastname->text()), 1, 0);
     cmdSelect->setEnabled(gcust->Rows() > 1);

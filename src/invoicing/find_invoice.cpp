@@ -55,7 +55,7 @@ void frmFindInvoice::Search()
             tr("No criteria to search by has been entered. Please enter some details and try again."), Icon::Critical);
         return;
     }
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Searching the invoices..."));
     // One date alone leaves the other one empty, which the statement does not survive.
     const Sql invoices =
         Sql("SELECT invoice.id, businessname, invoice.SubmittedDate as isubmitteddate, firstname, "

@@ -5,14 +5,25 @@
 #include "invoicing/picking_list.h"
 #include "paper/preview_window.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+/// What is said of the documents.
+struct InvoiceDocuments {
+    Q_DECLARE_TR_FUNCTIONS(InvoiceDocuments)
+};
+
+} // namespace
+
 void ShowInvoiceDocument(qint32 invoiceId, bool isWarranty)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(InvoiceDocuments::tr("Preparing the document..."));
     ShowPreview(PrepareInvoice(invoiceId, isWarranty));
 }
 
 void ShowPickingList(qint32 invoiceId)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(InvoiceDocuments::tr("Preparing the document..."));
     ShowPreview(PreparePickingList(invoiceId));
 }

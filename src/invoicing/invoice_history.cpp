@@ -73,7 +73,7 @@ void InvoiceHistory::ShowAllInvoices()
 
 void InvoiceHistory::RefreshInvoiceList(int selectRow, qint64 selectId)
 {
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the invoices..."));
     gConnection->Execute("SELECT count(*) FROM invoice").Close();
 
     QString head = QStringLiteral("SELECT invoice.id, invoiceno, invoice.submitteddate, firstname, lastname, "

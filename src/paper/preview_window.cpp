@@ -219,7 +219,7 @@ void PreviewWindow::NextPage()
 
 void PreviewWindow::LastPage()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Counting the pages..."));
     GoTo(m_layout.PageCount() - 1);
 }
 
@@ -341,7 +341,7 @@ void PreviewWindow::Print()
         return OfferPdf();
     if (!PrintDialog(printer))
         return;
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Printing..."));
     if (PrintReport(m_layout, printer))
         statusBar()->showMessage(tr("The document was handed to the printer."));
     else
@@ -377,7 +377,7 @@ void PreviewWindow::SaveAsPdf()
         path += QLatin1String(".pdf");
     bool saved = false;
     {
-        Hourglass hourglass;
+        const Hourglass hourglass(tr("Writing the PDF..."));
         saved = SaveReportAsPdf(m_layout, path);
     }
     if (!saved)

@@ -1,5 +1,7 @@
 #include "paper/report_layout.h"
 
+#include "base/sign_of_life.h"
+
 #include <QPainter>
 #include <QPen>
 
@@ -244,6 +246,7 @@ ReportLayout::Cursor ReportLayout::AddTop(PageBuilder& page, Cursor cursor, Band
 // Every page takes at least one band, so that a band taller than the page ends too.
 ReportLayout::Cursor ReportLayout::EndOfPage(const Cursor& start)
 {
+    SignOfLife();
     PageBuilder page;
     Cursor cursor = AddTop(page, start, BandPurpose::Height);
     for (bool empty = true; cursor.step != Step::End; cursor = After(cursor), empty = false) {
@@ -257,6 +260,7 @@ ReportLayout::Cursor ReportLayout::EndOfPage(const Cursor& start)
 
 ReportPage ReportLayout::Compose(int index)
 {
+    SignOfLife();
     const auto page = static_cast<size_t>(index);
     PageBuilder builder;
     Cursor cursor = AddTop(builder, m_starts[page], BandPurpose::Items);

@@ -1,5 +1,6 @@
 #include "parties/customers_panel.h"
 
+#include "controls/hourglass.h"
 #include "parties/customer_commands.h"
 #include "parties/customer_record.h"
 #include "parties/customer_texts.h"
@@ -59,6 +60,7 @@ CustomersPanel::CustomersPanel(QWidget* parent)
 
 void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)
 {
+    const Hourglass hourglass(tr("Reading the customers..."));
     gConnection->Execute("SELECT count(*) FROM customer").Close();
     gcust->Load(
         gcust->Ordered(QStringLiteral("SELECT id, firstname, lastname, businessname, address1, address2, postcode, "

@@ -135,7 +135,7 @@ void frmFindCustomer::RefreshCustomerScreen(int row, qint64 selectId)
             tr("No criteria to search by has been entered. Please enter some details and try again."), Icon::Critical);
         return;
     }
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Searching the customers..."));
     gcust->Load(
         Sql("SELECT id, firstname, lastname, address1, address2, postcode, phone FROM customer WHERE {criteria} "
             "ORDER BY lastname, firstname")

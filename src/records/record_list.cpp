@@ -149,7 +149,7 @@ void RecordList::LoadSome(const Sql& sql, int row, qint64 selectId, const RowFil
         FilterAnew();
         return SelectLoaded(row, RowOf(selectId));
     }
-    const Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the list..."));
 
     struct Cell {
         int field;

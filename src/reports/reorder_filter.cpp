@@ -61,7 +61,7 @@ std::array<frmReorderReportFilter::Filter, 3> frmReorderReportFilter::Filters() 
 
 void frmReorderReportFilter::FillLists()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Reading the items..."));
     FillCombo(cboVendor, Sql("SELECT id, businessname FROM [Vendor] WHERE id<>1 ORDER BY businessname"));
     FillCombo(cboItem, Sql("SELECT id, name FROM [Item] ORDER BY name"));
     FillCombo(cboItemLocation, Sql("SELECT id, name FROM [Location] WHERE id<>1 ORDER BY name"));

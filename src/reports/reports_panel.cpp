@@ -111,7 +111,7 @@ void ReportsPanel::SelectFirstGraph()
 
 void ReportsPanel::ShowReports()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Computing the statistics..."));
     for (ComboBox* list : {cboReportFirstProduct, cboReportSecondProduct})
         list->Clear();
     Ignoring([this] { ListItems(); });
@@ -144,7 +144,7 @@ void ReportsPanel::ProductChosen(ComboBox* list)
 
 void ReportsPanel::RefreshGraph(int graphNumber)
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(tr("Computing the graph..."));
     switch (graphNumber) {
     case InvoicesThisMonthGraph:
         return Draw({tr("Invoices")}, InvoicesThisMonth());

@@ -175,7 +175,7 @@ Report PrepareStockLevelReport()
 
 void ShowReorderReport()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(StockReports::tr("Preparing the report..."));
     ShowPreview(PrepareReorderReport());
 }
 
@@ -185,13 +185,13 @@ void ShowFilteredReorderReport(QWidget* parent)
     frmReorderReportFilter(parent).ShowModal();
     if (!frmReorderReportFilter::ReorderFilterConfirmed)
         return;
-    Hourglass hourglass;
+    const Hourglass hourglass(StockReports::tr("Preparing the report..."));
     ShowPreview(PrepareFilteredReorderReport());
     DataEnvironment().Close(QStringLiteral("repFilteredReorder"));
 }
 
 void ShowStockLevelReport()
 {
-    Hourglass hourglass;
+    const Hourglass hourglass(StockReports::tr("Preparing the report..."));
     ShowPreview(PrepareStockLevelReport());
 }

@@ -1,0 +1,31 @@
+#include "base/sign_of_life.h"
+#include "controls/hourglass.h"
+#include "support/test.h"
+
+#include <QStatusBar>
+
+TEST(HourglassTest, AWaitOfASecondSaysWhatIsBeingDoneUntilItEndsOrADialogAsks)
+{
+    QWidget window;
+    Shown(&window);
+    const auto told = [&window] {
+        SignOfLife();
+        const auto* note = window.findChild<QStatusBar*>();
+        return note ? note->currentMessage() : QString();
+    };
+    {
+        const Hourglass hourglass("Reading the items...");
+        const Hourglass inner("Reading the list...");
+        EXPECT_EQ(told(), "");
+        QTest::qSleep(1000);
+        EXPECT_EQ(told(), "Reading the items...");
+        {
+            const ArrowOverHourglass arrow;
+            EXPECT_EQ(told(), "");
+        }
+        EXPECT_EQ(told(), "");
+        QTest::qSleep(1000);
+        EXPECT_EQ(told(), "Reading the items...");
+    }
+    EXPECT_EQ(told(), "");
+}
