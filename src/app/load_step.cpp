@@ -10,7 +10,9 @@
 #include "base/regional.h"
 #include "base/settings_store.h"
 #include "config/secondary_tax.h"
+#include "controls/hourglass.h"
 #include "controls/message_box.h"
+#include "db/index_renewal.h"
 #include "invoicing/open_invoice.h"
 #include "records/wizard_state.h"
 
@@ -26,6 +28,8 @@ bool OpenDatabase(Connection& connection, const QString& folder)
         return false;
     }
     gConnection = &connection;
+    const Hourglass hourglass(MainWindow::tr("Bringing the database file up to date..."));
+    RenewIndexes(connection.Path());
     return true;
 }
 

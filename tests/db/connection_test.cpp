@@ -1,9 +1,11 @@
+#include "base/sign_of_life.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection_private.h"
 #include "db/engine_errors.h"
 #include "db/file_changes.h"
 #include "db/file_check.h"
+#include "db/index_renewal.h"
 #include "db/make_database.h"
 #include "support/test.h"
 
@@ -323,4 +325,33 @@ TEST_F(Opening, AReadOnlyFileOpensForReadingAlone)
     Connection connection;
     connection.OpenReadOnly(path);
     EXPECT_EQ(connection.Execute("SELECT id FROM warehouse").Long(0), 1);
+}
+
+TEST_F(Reading, ALongStatementGivesSignsOfLife)
+{
+    static int signs;
+    for (int i = 0; i < 500; ++i)
+        Item("Screws").Add();
+    SetSignOfLife([] { ++signs; });
+    gConnection->Execute("SELECT count(*) FROM item, item AS other");
+    SetSignOfLife(nullptr);
+    EXPECT_GT(signs, 1);
+}
+
+TEST_F(Reading, TheIndexesOfAnEarlierVersionAreRenewedUnlessSomebodyHoldsTheFile)
+{
+    const QString definitions = "SELECT sql FROM sqlite_schema WHERE name <> 'item_number' ORDER BY name";
+    const Table now = Rows(definitions);
+    Run("DROP INDEX item_name; DROP INDEX itempricelist_item; DROP INDEX item_number;"
+        "CREATE INDEX itempricelist_item ON ItemPriceList(ItemID, PriceListID);"
+        "CREATE UNIQUE INDEX item_number ON item(Number)");
+    const Table old = Rows(definitions);
+    Run("BEGIN IMMEDIATE");
+    RenewIndexes(DatabasePath());
+    EXPECT_EQ(Rows(definitions), old);
+    Run("ROLLBACK");
+    RenewIndexes(DatabasePath());
+    EXPECT_EQ(Rows(definitions), now);
+    EXPECT_EQ(Single("SELECT sql FROM sqlite_schema WHERE name = 'item_number'"),
+        "CREATE UNIQUE INDEX item_number ON item(Number)");
 }

@@ -1,6 +1,9 @@
 #include "acts.h"
 
+#include "base/database_path.h"
 #include "config/configuration_pages.h"
+#include "db/connection_private.h"
+#include "db/index_renewal.h"
 #include "exchange/csv_export_commands.h"
 #include "exchange/database_backup.h"
 #include "exchange/import_pages.h"
@@ -280,6 +283,14 @@ Doing Command(void (*command)())
     return [=](Shop&) { Guarded(command); };
 }
 
+/// As an earlier version made them.
+void MakeIndexesOld(Shop&)
+{
+    for (const char* sql : {"DROP INDEX item_name", "DROP INDEX itempricelist_item",
+             "CREATE INDEX itempricelist_item ON ItemPriceList(ItemID, PriceListID)"})
+        gConnection->Private().RunPlain(sql);
+}
+
 } // namespace
 
 const std::vector<Act>& Acts()
@@ -346,6 +357,7 @@ const std::vector<Act>& Acts()
         {"configuration-wizard", 1, Configure, PaintLogo},
         {"web-orders-wizard", 1, ConfigureWebOrders},
         {"import", 1, Import, WriteGoods, true},
+        {"renew-indexes", 1, [](Shop&) { RenewIndexes(DatabasePath()); }, MakeIndexesOld, false, true},
     };
     return acts;
 }

@@ -14,6 +14,7 @@ struct Act {
     std::function<void(Shop&)> run;
     std::function<void(Shop&)> prepare = Nothing;
     bool movesGoods = false; ///< into the shop or out of it: stock and what is on invoices do not add up as before
+    bool isSilent = false; ///< says nothing of a failure, which costs no more than time
 };
 const std::vector<Act>& Acts();
 
