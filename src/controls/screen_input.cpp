@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QShortcutEvent>
+#include <QTimer>
 
 namespace {
 
@@ -24,10 +25,20 @@ QList<QAbstractButton*> ButtonsOf(const QWidget* window, const QKeySequence& key
     return buttons;
 }
 
+/// The button shows pressed for a moment first. Unlike Qt's own late click, this one is let go where a form or box has
+/// opened or closed meanwhile: it would close a form behind its own box, which then could not be answered any more.
 void FocusAndClick(QAbstractButton* button)
 {
+    constexpr int PressedMs = 100;
     button->setFocus(Qt::ShortcutFocusReason);
-    button->animateClick();
+    if (button->isDown())
+        return;
+    button->setDown(true);
+    QTimer::singleShot(PressedMs, button, [button, modal = QPointer(QApplication::activeModalWidget())] {
+        button->setDown(false);
+        if (button->isVisible() && QApplication::activeModalWidget() == modal)
+            button->click();
+    });
 }
 
 class ScreenInput : public QObject {

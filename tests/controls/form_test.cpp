@@ -1,4 +1,5 @@
 #include "controls/form.h"
+#include "controls/message_box.h"
 #include "support/test.h"
 
 #include <QMainWindow>
@@ -38,6 +39,24 @@ public:
 
     QStringList done;
 };
+
+TEST(Forms, AnAccessKeyClicksAButtonButNotBehindABoxThatOpenedMeanwhile)
+{
+    frmSample form;
+    Shown(&form);
+    const auto strike = [&form] { QTest::keyClick(&form, Qt::Key_O, Qt::AltModifier); };
+    strike();
+    strike();
+    QTest::qWait(200);
+    EXPECT_EQ(form.done, QStringList{"&Other"});
+    WhenFormShows<QMessageBox>([](QMessageBox& box) {
+        QTest::qWait(200);
+        Press(&box, Qt::Key_Return);
+    });
+    strike();
+    MsgBox("Saved.", Icon::None);
+    EXPECT_EQ(form.done, QStringList{"&Other"});
+}
 
 TEST(Forms, AClickThatComesAfterTheFormHasClosedDoesNothing)
 {
