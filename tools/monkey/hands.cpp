@@ -18,8 +18,12 @@ Qt::MouseButton gHeld = Qt::NoButton;
 
 void SendKey(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
-    // The one that has the focus now: what a key does may change it.
-    if (QWindow* window = QGuiApplication::focusWindow())
+    // The one that has the focus now: what a key does may change it. A popup that lost it to one that has closed since
+    // has the keys all the same.
+    QWindow* window = QGuiApplication::focusWindow();
+    if (const QWidget* popup = QApplication::activePopupWidget(); popup && !window)
+        window = popup->windowHandle();
+    if (window)
         qt_handleKeyEvent(window, type, key, modifiers, text);
 }
 
