@@ -12,8 +12,6 @@
 #include "db/connection.h"
 #include "inventory/bar_codes.h"
 
-#include <algorithm>
-
 namespace {
 
 /// While the focus is in `box`, Enter runs `button`.
@@ -70,10 +68,7 @@ void frmReceiveStock::RefreshInventoryList(int row, qint64 selectId)
 {
     if (m_file.Changed(*gConnection) || !gInventory->Filter().isEmpty())
         return LoadItems(row, selectId);
-    const int found = gInventory->RowOf(selectId);
-    gInventory->SelectRow(std::min(found > 0 ? found : row, gInventory->Rows() - 1));
-    if (!gInventory->RowIsVisible(gInventory->Row()))
-        gInventory->SetTopRow(gInventory->Row());
+    gInventory->SelectRecord(row, selectId);
 }
 
 void frmReceiveStock::LoadItems(int row, qint64 selectId)

@@ -214,11 +214,19 @@ void RecordList::SelectLoaded(int row, int foundRow)
     // The record that was just added or edited shows, whatever the filter says.
     if (foundRow > 0)
         Reveal(foundRow);
-    SelectRow(std::min(foundRow > 0 ? foundRow : row, Rows() - 1));
+    const int chosen = std::min(foundRow > 0 ? foundRow : row, Rows() - 1);
+    // To select it may scroll it into view.
+    const bool wasInView = RowIsVisible(chosen);
+    SelectRow(chosen);
     // What an empty list shows a screen reader says.
     setAccessibleDescription(Rows() > 1 ? QString() : EmptyText());
-    if (m_foundRowOnTop && !RowIsVisible(Row()))
+    if (m_foundRowOnTop && !(wasInView && RowIsVisible(Row())))
         SetTopRow(Row());
+}
+
+void RecordList::SelectRecord(int row, qint64 selectId)
+{
+    SelectLoaded(row, RowOf(selectId));
 }
 
 bool RecordList::LoadRow(const Sql& sql, const RowWriter& cells)

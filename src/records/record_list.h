@@ -84,6 +84,9 @@ public:
     using RowWriter = std::function<void(const Recordset& row, GridFill& fill)>;
     void LoadRows(const Sql& sql, int row, qint64 selectId, const RowWriter& cells);
 
+    /// Selects as Load does, in the rows that there are.
+    void SelectRecord(int row, qint64 selectId);
+
     /// Fills anew the row of the one record that `sql` selects, or adds it as the last row, and paints it alone.
     /// Selects nothing. False, having done nothing, while a filter hides rows. Throws RuntimeError when the statement
     /// fails.

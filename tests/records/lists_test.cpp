@@ -138,6 +138,9 @@ TEST_F(Lists, AFoundRowOutOfViewComesToTheTopWhereTheListSaysSo)
     list.ShowFoundRowOnTop();
     Load(1, far);
     EXPECT_EQ(list.TopRow(), list.Row());
+    Load(1, 0);
+    list.SelectRecord(1, far);
+    EXPECT_EQ(list.TopRow(), list.Row());
     Load(list.Row() + 1, 0);
     EXPECT_EQ(list.TopRow(), list.Row() - 1) << "in view already";
 }
