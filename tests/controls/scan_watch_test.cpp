@@ -220,6 +220,24 @@ TEST_F(ScanWatching, AScanClosesTheBoxOfTheLastScanAndGoesOn)
     }
 }
 
+TEST_F(ScanWatching, AFormThatAClickOpensRightBehindAScanIsClosedAsWellAndHoldsNoKeys)
+{
+    WhenFormShows<Form>([this](Form&) {
+        ScannerTypes(Known);
+        // The loop of the form that is closed runs until its next turn.
+        Form late("frmLate", {}, &window);
+        WhenDialogShows(
+            "late", [&](QDialog* dialog) { return dialog == &late; }, nullptr);
+        QTimer::singleShot(2000, &late, [&late] {
+            ADD_FAILURE() << "held up";
+            late.reject();
+        });
+        late.ShowModal();
+    });
+    Form("frmEarly", {}, &window).ShowModal();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return events == QStringList{Known}; }));
+}
+
 TEST_F(ScanWatching, WithAGapOfZeroKeysAreJustKeys)
 {
     SaveConfig("Scan Gap", "0");

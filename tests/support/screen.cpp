@@ -61,7 +61,8 @@ void ModalFormShown(const QPointer<QDialog>& dialog)
             continue;
         const Awaited found = *awaited;
         gAwaited.erase(awaited);
-        QTimer::singleShot(0, dialog, [dialog, found] { Visit(dialog, found); });
+        if (found.visit)
+            QTimer::singleShot(0, dialog, [dialog, found] { Visit(dialog, found); });
         return;
     }
     ADD_FAILURE() << "nobody awaits the form " << qPrintable(dialog->objectName()) << " \""

@@ -66,7 +66,7 @@ QStringList Entries(const List* list)
     return Entries(list->model());
 }
 
-/// Queues `visit` for the next modal form that `matches`. Use WhenFormShows.
+/// Queues `visit` for the next modal form that `matches`; null lets the program itself close it. Use WhenFormShows.
 void WhenDialogShows(const char* what, std::function<bool(QDialog*)> matches, std::function<void(QDialog*)> visit);
 
 /// Runs `visit` once, as soon as a modal form of this class is up. `visit` must close it. The test fails when it is
