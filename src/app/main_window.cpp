@@ -16,6 +16,8 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+#include <stdexcept>
+
 namespace {
 
 constexpr QSize FirstSize(1024, 700);
@@ -118,7 +120,10 @@ void MainWindow::RunResizeRules()
 
 QAction* MainWindow::MenuEntry(const QString& name) const
 {
-    return menuBar()->findChild<QAction*>(name);
+    auto* entry = menuBar()->findChild<QAction*>(name);
+    if (!entry)
+        throw std::logic_error("no menu entry " + name.toStdString());
+    return entry;
 }
 
 void MainWindow::Run(const QString& name)

@@ -38,7 +38,7 @@ public:
     /// Lets the grids' stretch columns take up the width that the window has now.
     void RunResizeRules();
 
-    /// The action of a menu entry by its control's name.
+    /// The action of a menu entry by its control's name. An unknown name throws std::logic_error.
     QAction* MenuEntry(const QString& name) const;
     /// As if the user chose the menu entry: nothing when it is greyed, or `name` is "".
     void Run(const QString& name);

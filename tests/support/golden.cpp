@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -81,7 +82,12 @@ void ExpectGolden(const QString& text, const char* name)
         return;
     }
     const std::string difference = Difference(GoldenText(name), text);
-    EXPECT_TRUE(difference.empty()) << "not as in golden/" << name << ":\n" << difference;
+    const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
+    EXPECT_TRUE(difference.empty()) << "not as in golden/" << name << ":\n"
+                                    << difference << "\nIf that is meant: TAVRIN_WRITE_GOLDEN=1 "
+                                    << qPrintable(QCoreApplication::applicationFilePath())
+                                    << " --gtest_filter=" << test.test_suite_name() << '.' << test.name()
+                                    << "   # then read its diff";
 }
 
 void ExpectCases(const char* name, const AnswerTo& answer)
