@@ -335,6 +335,13 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
 </context>
 <context>
+    <name>HelpDesk</name>
+    <message>
+        <source>The help file %1 is missing or damaged.</source>
+        <translation>Die Hilfedatei %1 fehlt oder ist beschädigt.</translation>
+    </message>
+</context>
+<context>
     <name>ImportFields</name>
     <message>
         <source>Item Name</source>
@@ -1259,10 +1266,6 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Post Code</source>
         <translation>PLZ</translation>
-    </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Gespeichert als %1</translation>
     </message>
     <message>
         <source>Bringing the database file up to date...</source>
@@ -2531,6 +2534,141 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
 </context>
 <context>
+    <name>frmHelp</name>
+    <message>
+        <source>Tavrin Inventory Help</source>
+        <translation>Hilfe zu Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Ways to a page</source>
+        <translation>Wege zu einer Seite</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Hilfeseite</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>Inde&amp;x</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <source>Look for</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>Type the first letters of a word</source>
+        <translation>Die ersten Buchstaben eines Wortes</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Gesuchte Wörter</translation>
+    </message>
+    <message>
+        <source>Type words, then press Enter</source>
+        <translation>Wörter eingeben, dann Eingabetaste</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Gefundene Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Find in page:</source>
+        <translation>In der Seite s&amp;uchen:</translation>
+    </message>
+    <message>
+        <source>Find in page</source>
+        <translation>In der Seite suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Startseite</translation>
+    </message>
+    <message>
+        <source>Find in Page</source>
+        <translation>In der Seite suchen</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 - Tavrin Inventory Help</source>
+        <translation>%1 - Hilfe zu Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Searching...</source>
+        <translation>Suche läuft...</translation>
+    </message>
+    <message>
+        <source>Pages found: %1</source>
+        <translation>Gefundene Seiten: %1</translation>
+    </message>
+    <message>
+        <source>No page has all of these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Not found.</source>
+        <translation>Nicht gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>frmItemDetails</name>
     <message>
         <source>Item Details</source>
@@ -3017,6 +3155,93 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Version %1</source>
         <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmSystemInfo</name>
+    <message>
+        <source> (%1 bytes)</source>
+        <translation> (%1 Bytes)</translation>
+    </message>
+    <message>
+        <source>%1 items, %2 customers, %3 invoices</source>
+        <translation>%1 Artikel, %2 Kunden, %3 Rechnungen</translation>
+    </message>
+    <message>
+        <source>%1 x %2, scaled by %3, %4, style %5</source>
+        <translation>%1 x %2, Skalierung %3, %4, Stil %5</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>Qt</source>
+        <translation>Qt</translation>
+    </message>
+    <message>
+        <source> (built with %1)</source>
+        <translation> (erstellt mit %1)</translation>
+    </message>
+    <message>
+        <source>Database engine</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Language and region</source>
+        <translation>Sprache und Region</translation>
+    </message>
+    <message>
+        <source>Data file</source>
+        <translation>Datendatei</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Program&apos;s folder</source>
+        <translation>Programmordner</translation>
+    </message>
+    <message>
+        <source>Help file</source>
+        <translation>Hilfedatei</translation>
+    </message>
+    <message>
+        <source>System Information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <source>System information</source>
+        <translation>Systeminformationen</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies all of it, for a letter to the support</source>
+        <translation>Kopiert alles, für einen Brief an die Unterstützung</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Instructions - click Copy and paste this into your question to the support.</source>
+        <translation>Hinweis - Klicken Sie auf Kopieren und fügen Sie dies in Ihre Anfrage an die Unterstützung ein.</translation>
     </message>
 </context>
 <context>
@@ -3575,235 +3800,6 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Using this wizard you can configure your website to accept online bookings.</source>
         <translation>Mit diesem Assistenten richten Sie Ihre Website für Onlinebestellungen ein.</translation>
-    </message>
-</context>
-<context>
-    <name>HelpDesk</name>
-    <message>
-        <source>The help file %1 is missing or damaged.</source>
-        <translation>Die Hilfedatei %1 fehlt oder ist beschädigt.</translation>
-    </message>
-</context>
-<context>
-    <name>frmHelp</name>
-    <message>
-        <source>Tavrin Inventory Help</source>
-        <translation>Hilfe zu Tavrin Inventory</translation>
-    </message>
-    <message>
-        <source>Ways to a page</source>
-        <translation>Wege zu einer Seite</translation>
-    </message>
-    <message>
-        <source>Help page</source>
-        <translation>Hilfeseite</translation>
-    </message>
-    <message>
-        <source>&amp;Contents</source>
-        <translation>&amp;Inhalt</translation>
-    </message>
-    <message>
-        <source>&amp;Index</source>
-        <translation>Inde&amp;x</translation>
-    </message>
-    <message>
-        <source>&amp;Search</source>
-        <translation>&amp;Suchen</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Inhalt</translation>
-    </message>
-    <message>
-        <source>Index</source>
-        <translation>Index</translation>
-    </message>
-    <message>
-        <source>Look for</source>
-        <translation>Suchen nach</translation>
-    </message>
-    <message>
-        <source>Type the first letters of a word</source>
-        <translation>Die ersten Buchstaben eines Wortes</translation>
-    </message>
-    <message>
-        <source>Words to search for</source>
-        <translation>Gesuchte Wörter</translation>
-    </message>
-    <message>
-        <source>Type words, then press Enter</source>
-        <translation>Wörter eingeben, dann Eingabetaste</translation>
-    </message>
-    <message>
-        <source>Pages found</source>
-        <translation>Gefundene Seiten</translation>
-    </message>
-    <message>
-        <source>&amp;Find in page:</source>
-        <translation>In der Seite s&amp;uchen:</translation>
-    </message>
-    <message>
-        <source>Find in page</source>
-        <translation>In der Seite suchen</translation>
-    </message>
-    <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Weiter</translation>
-    </message>
-    <message>
-        <source>&amp;Previous</source>
-        <translation>&amp;Zurück</translation>
-    </message>
-    <message>
-        <source>Toolbar</source>
-        <translation>Symbolleiste</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
-    <message>
-        <source>Forward</source>
-        <translation>Vor</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Startseite</translation>
-    </message>
-    <message>
-        <source>Find in Page</source>
-        <translation>In der Seite suchen</translation>
-    </message>
-    <message>
-        <source>Print...</source>
-        <translation>Drucken...</translation>
-    </message>
-    <message>
-        <source>Find Next</source>
-        <translation>Weitersuchen</translation>
-    </message>
-    <message>
-        <source>Find Previous</source>
-        <translation>Rückwärts suchen</translation>
-    </message>
-    <message>
-        <source>Larger</source>
-        <translation>Größer</translation>
-    </message>
-    <message>
-        <source>Smaller</source>
-        <translation>Kleiner</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>%1 - Tavrin Inventory Help</source>
-        <translation>%1 - Hilfe zu Tavrin Inventory</translation>
-    </message>
-    <message>
-        <source>Searching...</source>
-        <translation>Suche läuft...</translation>
-    </message>
-    <message>
-        <source>Pages found: %1</source>
-        <translation>Gefundene Seiten: %1</translation>
-    </message>
-    <message>
-        <source>No page has all of these words.</source>
-        <translation>Keine Seite enthält alle diese Wörter.</translation>
-    </message>
-    <message>
-        <source>Not found.</source>
-        <translation>Nicht gefunden.</translation>
-    </message>
-</context>
-<context>
-    <name>frmSystemInfo</name>
-    <message>
-        <source> (%1 bytes)</source>
-        <translation> (%1 Bytes)</translation>
-    </message>
-    <message>
-        <source>%1 items, %2 customers, %3 invoices</source>
-        <translation>%1 Artikel, %2 Kunden, %3 Rechnungen</translation>
-    </message>
-    <message>
-        <source>%1 x %2, scaled by %3, %4, style %5</source>
-        <translation>%1 x %2, Skalierung %3, %4, Stil %5</translation>
-    </message>
-    <message>
-        <source>Program</source>
-        <translation>Programm</translation>
-    </message>
-    <message>
-        <source>Qt</source>
-        <translation>Qt</translation>
-    </message>
-    <message>
-        <source> (built with %1)</source>
-        <translation> (erstellt mit %1)</translation>
-    </message>
-    <message>
-        <source>Database engine</source>
-        <translation>Datenbank</translation>
-    </message>
-    <message>
-        <source>System</source>
-        <translation>System</translation>
-    </message>
-    <message>
-        <source>Screen</source>
-        <translation>Bildschirm</translation>
-    </message>
-    <message>
-        <source>Language and region</source>
-        <translation>Sprache und Region</translation>
-    </message>
-    <message>
-        <source>Data file</source>
-        <translation>Datendatei</translation>
-    </message>
-    <message>
-        <source>Data</source>
-        <translation>Daten</translation>
-    </message>
-    <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Program&apos;s folder</source>
-        <translation>Programmordner</translation>
-    </message>
-    <message>
-        <source>Help file</source>
-        <translation>Hilfedatei</translation>
-    </message>
-    <message>
-        <source>System Information</source>
-        <translation>Systeminformationen</translation>
-    </message>
-    <message>
-        <source>System information</source>
-        <translation>Systeminformationen</translation>
-    </message>
-    <message>
-        <source>C&amp;opy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>Copies all of it, for a letter to the support</source>
-        <translation>Kopiert alles, für einen Brief an die Unterstützung</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
-        <source>Instructions - click Copy and paste this into your question to the support.</source>
-        <translation>Hinweis - Klicken Sie auf Kopieren und fügen Sie dies in Ihre Anfrage an die Unterstützung ein.</translation>
     </message>
 </context>
 </TS>

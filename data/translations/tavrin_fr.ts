@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation>%1, %2 : %3</translation>
+        <translation>%1, %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>3D bar chart</source>
@@ -158,7 +158,7 @@
     </message>
     <message>
         <source>Delete customer?</source>
-        <translation>Supprimer le client ?</translation>
+        <translation>Supprimer le client&#xa0;?</translation>
     </message>
     <message>
         <source>Customer %1 deleted</source>
@@ -293,7 +293,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation>Filtre :</translation>
+        <translation>Filtre&#xa0;:</translation>
     </message>
     <message>
         <source>Close the filter (Esc)</source>
@@ -332,6 +332,13 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>No row has all of these words. Press Esc to show all rows.</source>
         <translation>Aucune ligne ne contient tous ces mots. Appuyez sur Échap pour afficher toutes les lignes.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpDesk</name>
+    <message>
+        <source>The help file %1 is missing or damaged.</source>
+        <translation>Le fichier d&apos;aide %1 manque ou est endommagé.</translation>
     </message>
 </context>
 <context>
@@ -400,7 +407,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <name>InventoryList</name>
     <message>
         <source>Price List:</source>
-        <translation>Tarif :</translation>
+        <translation>Tarif&#xa0;:</translation>
     </message>
     <message>
         <source>New Item</source>
@@ -456,7 +463,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Delete item?</source>
-        <translation>Supprimer l&apos;article ?</translation>
+        <translation>Supprimer l&apos;article&#xa0;?</translation>
     </message>
     <message>
         <source>Item %1 deleted</source>
@@ -498,7 +505,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Show invoices:</source>
-        <translation>Afficher les factures :</translation>
+        <translation>Afficher les factures&#xa0;:</translation>
     </message>
     <message>
         <source>Number</source>
@@ -538,7 +545,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this invoice?</source>
-        <translation>Voulez-vous vraiment supprimer cette facture ?</translation>
+        <translation>Voulez-vous vraiment supprimer cette facture&#xa0;?</translation>
     </message>
     <message>
         <source>Invoice %1 deleted</source>
@@ -553,7 +560,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <name>InvoicePage</name>
     <message>
         <source>Clear customer details?</source>
-        <translation>Effacer les coordonnées du client ?</translation>
+        <translation>Effacer les coordonnées du client&#xa0;?</translation>
     </message>
     <message>
         <source>Item not found.</source>
@@ -565,19 +572,19 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Delete item from invoice?</source>
-        <translation>Supprimer la ligne de la facture ?</translation>
+        <translation>Supprimer la ligne de la facture&#xa0;?</translation>
     </message>
     <message>
         <source>Cancel invoice?</source>
-        <translation>Annuler la facture ?</translation>
+        <translation>Annuler la facture&#xa0;?</translation>
     </message>
     <message>
         <source>Print Invoice?</source>
-        <translation>Imprimer la facture ?</translation>
+        <translation>Imprimer la facture&#xa0;?</translation>
     </message>
     <message>
         <source>Invoice number %1 was given twice: another invoice went out under it meanwhile.</source>
-        <translation>Le numéro de facture %1 a été attribué deux fois : une autre facture l&apos;a pris entre-temps.</translation>
+        <translation>Le numéro de facture %1 a été attribué deux fois&#xa0;: une autre facture l&apos;a pris entre-temps.</translation>
     </message>
     <message>
         <source>Edit Invoice</source>
@@ -589,11 +596,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Bar Code:</source>
-        <translation>Code-barres :</translation>
+        <translation>Code-barres&#xa0;:</translation>
     </message>
     <message>
         <source>This invoice no longer exists: it has been deleted. What you enter here belongs to no invoice.</source>
-        <translation>Cette facture n&apos;existe plus : elle a été supprimée. Ce que vous saisissez ici n&apos;appartient à aucune facture.</translation>
+        <translation>Cette facture n&apos;existe plus&#xa0;: elle a été supprimée. Ce que vous saisissez ici n&apos;appartient à aucune facture.</translation>
     </message>
     <message>
         <source>Instructions -  Enter your customer&apos;s details and/or click Customer Search to locate an existing customer. Add your invoice items and then click Complete Invoice.</source>
@@ -601,11 +608,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Enter your customer&apos;s details:</source>
-        <translation>Saisissez les coordonnées du client :</translation>
+        <translation>Saisissez les coordonnées du client&#xa0;:</translation>
     </message>
     <message>
         <source>Zip/Post Code:</source>
-        <translation>Code postal :</translation>
+        <translation>Code postal&#xa0;:</translation>
     </message>
     <message>
         <source>Customer &amp;Search</source>
@@ -645,7 +652,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Secondary Tax:</source>
-        <translation>Seconde taxe :</translation>
+        <translation>Seconde taxe&#xa0;:</translation>
     </message>
     <message>
         <source>Complete Invoice</source>
@@ -665,63 +672,63 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>First Name:</source>
-        <translation>Prénom :</translation>
+        <translation>Prénom&#xa0;:</translation>
     </message>
     <message>
         <source>Last Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Business Name:</source>
-        <translation>Entreprise :</translation>
+        <translation>Entreprise&#xa0;:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation>Adresse :</translation>
+        <translation>Adresse&#xa0;:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation>Ville :</translation>
+        <translation>Ville&#xa0;:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation>Région :</translation>
+        <translation>Région&#xa0;:</translation>
     </message>
     <message>
         <source>Country:</source>
-        <translation>Pays :</translation>
+        <translation>Pays&#xa0;:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation>Téléphone :</translation>
+        <translation>Téléphone&#xa0;:</translation>
     </message>
     <message>
         <source>Fax:</source>
-        <translation>Fax :</translation>
+        <translation>Fax&#xa0;:</translation>
     </message>
     <message>
         <source>Email:</source>
-        <translation>E-mail :</translation>
+        <translation>E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>Discount:</source>
-        <translation>Remise :</translation>
+        <translation>Remise&#xa0;:</translation>
     </message>
     <message>
         <source>Price List:</source>
-        <translation>Tarif :</translation>
+        <translation>Tarif&#xa0;:</translation>
     </message>
     <message>
         <source>Invoice No:</source>
-        <translation>N° de facture :</translation>
+        <translation>N° de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Invoice Date:</source>
-        <translation>Date de facture :</translation>
+        <translation>Date de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Shipped Date:</source>
-        <translation>Date d&apos;envoi :</translation>
+        <translation>Date d&apos;envoi&#xa0;:</translation>
     </message>
     <message>
         <source>Qty</source>
@@ -749,23 +756,23 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Items Ordered:</source>
-        <translation>Articles commandés :</translation>
+        <translation>Articles commandés&#xa0;:</translation>
     </message>
     <message>
         <source>Payment Method:</source>
-        <translation>Mode de paiement :</translation>
+        <translation>Mode de paiement&#xa0;:</translation>
     </message>
     <message>
         <source>Amount Payed:</source>
-        <translation>Montant payé :</translation>
+        <translation>Montant payé&#xa0;:</translation>
     </message>
     <message>
         <source>Invoice Notes:</source>
-        <translation>Notes de la facture :</translation>
+        <translation>Notes de la facture&#xa0;:</translation>
     </message>
     <message>
         <source>Total:</source>
-        <translation>Total :</translation>
+        <translation>Total&#xa0;:</translation>
     </message>
     <message>
         <source>Total</source>
@@ -773,7 +780,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Customer Payments:</source>
-        <translation>Paiements du client :</translation>
+        <translation>Paiements du client&#xa0;:</translation>
     </message>
     <message>
         <source>N/A</source>
@@ -817,18 +824,18 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Lines: %1   Pieces: %2   Last code: %3</source>
-        <translation>Lignes : %1   Pièces : %2   Dernier code : %3</translation>
+        <translation>Lignes&#xa0;: %1   Pièces&#xa0;: %2   Dernier code&#xa0;: %3</translation>
     </message>
     <message>
         <source>Nothing is ordered yet. Scan a bar code or press &quot;%1&quot;.</source>
-        <translation>Rien n&apos;est encore commandé. Scannez un code-barres ou cliquez sur « %1 ».</translation>
+        <translation>Rien n&apos;est encore commandé. Scannez un code-barres ou cliquez sur «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>InvoiceReport</name>
     <message>
         <source>Phone: </source>
-        <translation>Téléphone : </translation>
+        <translation>Téléphone&#xa0;: </translation>
     </message>
     <message>
         <source>Warranty Invoice</source>
@@ -840,7 +847,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Invoice Number:</source>
-        <translation>Numéro de facture :</translation>
+        <translation>Numéro de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Your order of</source>
@@ -927,7 +934,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Delete Item Group?</source>
-        <translation>Supprimer le groupe d&apos;articles ?</translation>
+        <translation>Supprimer le groupe d&apos;articles&#xa0;?</translation>
     </message>
     <message>
         <source>Item Group %1 deleted</source>
@@ -954,7 +961,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
-        <translation>Il n&apos;y a rien à afficher. Cliquez sur « %1 » pour commencer.</translation>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur «&#xa0;%1&#xa0;» pour commencer.</translation>
     </message>
 </context>
 <context>
@@ -977,14 +984,14 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>There is nothing to show. Press &quot;Add&quot; to begin.</source>
-        <translation>Il n&apos;y a rien à afficher. Cliquez sur « Ajouter » pour commencer.</translation>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur «&#xa0;Ajouter&#xa0;» pour commencer.</translation>
     </message>
 </context>
 <context>
     <name>ListPanel</name>
     <message>
         <source>There is nothing to show. Press &quot;%1&quot; to begin.</source>
-        <translation>Il n&apos;y a rien à afficher. Cliquez sur « %1 » pour commencer.</translation>
+        <translation>Il n&apos;y a rien à afficher. Cliquez sur «&#xa0;%1&#xa0;» pour commencer.</translation>
     </message>
 </context>
 <context>
@@ -1246,23 +1253,19 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>We&apos;ve noticed that this is the first time you have launched Tavrin Inventory. You may find it useful to follow the getting started tutorial. Would you like to view it now?</source>
-        <translation>C&apos;est la première fois que vous lancez Tavrin Inventory. Le didacticiel de prise en main peut vous être utile. Voulez-vous l&apos;afficher maintenant ?</translation>
+        <translation>C&apos;est la première fois que vous lancez Tavrin Inventory. Le didacticiel de prise en main peut vous être utile. Voulez-vous l&apos;afficher maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Would you like to run the &apos;Configuration Wizard&apos; now?</source>
-        <translation>Voulez-vous lancer l&apos;assistant de configuration maintenant ?</translation>
+        <translation>Voulez-vous lancer l&apos;assistant de configuration maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>The database file %1 is damaged. Close the program and restore a backup of the file: what is entered from now on may be lost.</source>
-        <translation>Le fichier de base de données %1 est endommagé. Fermez le programme et restaurez une sauvegarde du fichier : ce qui est saisi à partir de maintenant peut être perdu.</translation>
+        <translation>Le fichier de base de données %1 est endommagé. Fermez le programme et restaurez une sauvegarde du fichier&#xa0;: ce qui est saisi à partir de maintenant peut être perdu.</translation>
     </message>
     <message>
         <source>Post Code</source>
         <translation>Code postal</translation>
-    </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Enregistré sous %1</translation>
     </message>
     <message>
         <source>Bringing the database file up to date...</source>
@@ -1273,7 +1276,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <name>NameForm</name>
     <message>
         <source>Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1299,7 +1302,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <name>PickingList</name>
     <message>
         <source>Invoice No:</source>
-        <translation>N° de facture :</translation>
+        <translation>N° de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Quantity</source>
@@ -1311,11 +1314,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Location:</source>
-        <translation>Emplacement :</translation>
+        <translation>Emplacement&#xa0;:</translation>
     </message>
     <message>
         <source>Warehouse:</source>
-        <translation>Entrepôt :</translation>
+        <translation>Entrepôt&#xa0;:</translation>
     </message>
     <message>
         <source>Picking List</source>
@@ -1418,7 +1421,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>No printer is installed. Do you want to save the document as a PDF instead?</source>
-        <translation>Aucune imprimante n&apos;est installée. Voulez-vous plutôt enregistrer le document au format PDF ?</translation>
+        <translation>Aucune imprimante n&apos;est installée. Voulez-vous plutôt enregistrer le document au format PDF&#xa0;?</translation>
     </message>
     <message>
         <source>Save as PDF</source>
@@ -1561,19 +1564,19 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>View Graph:</source>
-        <translation>Graphique :</translation>
+        <translation>Graphique&#xa0;:</translation>
     </message>
     <message>
         <source>Graph Style:</source>
-        <translation>Style :</translation>
+        <translation>Style&#xa0;:</translation>
     </message>
     <message>
         <source>Red Product:</source>
-        <translation>Produit rouge :</translation>
+        <translation>Produit rouge&#xa0;:</translation>
     </message>
     <message>
         <source>Green Product:</source>
-        <translation>Produit vert :</translation>
+        <translation>Produit vert&#xa0;:</translation>
     </message>
     <message>
         <source>Invoices</source>
@@ -1611,67 +1614,67 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Total invoices today:</source>
-        <translation>Factures aujourd&apos;hui :</translation>
+        <translation>Factures aujourd&apos;hui&#xa0;:</translation>
     </message>
     <message>
         <source>Most invoices on:</source>
-        <translation>Plus de factures le :</translation>
+        <translation>Plus de factures le&#xa0;:</translation>
     </message>
     <message>
         <source>Least invoices on:</source>
-        <translation>Moins de factures le :</translation>
+        <translation>Moins de factures le&#xa0;:</translation>
     </message>
     <message>
         <source>Most popular month:</source>
-        <translation>Meilleur mois :</translation>
+        <translation>Meilleur mois&#xa0;:</translation>
     </message>
     <message>
         <source>Least popular month:</source>
-        <translation>Mois le plus faible :</translation>
+        <translation>Mois le plus faible&#xa0;:</translation>
     </message>
     <message>
         <source>Most repeating customer:</source>
-        <translation>Client le plus fidèle :</translation>
+        <translation>Client le plus fidèle&#xa0;:</translation>
     </message>
     <message>
         <source>Invoices this month:</source>
-        <translation>Factures du mois :</translation>
+        <translation>Factures du mois&#xa0;:</translation>
     </message>
     <message>
         <source>Invoices this month YTD:</source>
-        <translation>Même mois, an dernier :</translation>
+        <translation>Même mois, an dernier&#xa0;:</translation>
     </message>
     <message>
         <source>Total invoices:</source>
-        <translation>Total des factures :</translation>
+        <translation>Total des factures&#xa0;:</translation>
     </message>
     <message>
         <source>Monday:</source>
-        <translation>Lundi :</translation>
+        <translation>Lundi&#xa0;:</translation>
     </message>
     <message>
         <source>Tuesday:</source>
-        <translation>Mardi :</translation>
+        <translation>Mardi&#xa0;:</translation>
     </message>
     <message>
         <source>Wednesday:</source>
-        <translation>Mercredi :</translation>
+        <translation>Mercredi&#xa0;:</translation>
     </message>
     <message>
         <source>Thursday:</source>
-        <translation>Jeudi :</translation>
+        <translation>Jeudi&#xa0;:</translation>
     </message>
     <message>
         <source>Friday:</source>
-        <translation>Vendredi :</translation>
+        <translation>Vendredi&#xa0;:</translation>
     </message>
     <message>
         <source>Saturday:</source>
-        <translation>Samedi :</translation>
+        <translation>Samedi&#xa0;:</translation>
     </message>
     <message>
         <source>Sunday:</source>
-        <translation>Dimanche :</translation>
+        <translation>Dimanche&#xa0;:</translation>
     </message>
     <message>
         <source>Invoices this week</source>
@@ -1804,7 +1807,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Delete vendor?</source>
-        <translation>Supprimer le fournisseur ?</translation>
+        <translation>Supprimer le fournisseur&#xa0;?</translation>
     </message>
     <message>
         <source>Vendor %1 deleted</source>
@@ -1830,7 +1833,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Welcome to the %1</source>
-        <translation>Bienvenue : %1</translation>
+        <translation>Bienvenue&#xa0;: %1</translation>
     </message>
     <message>
         <source>To continue, click Next.</source>
@@ -1903,7 +1906,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this Category?</source>
-        <translation>Voulez-vous vraiment supprimer cette catégorie ?</translation>
+        <translation>Voulez-vous vraiment supprimer cette catégorie&#xa0;?</translation>
     </message>
     <message>
         <source>Category Details</source>
@@ -1934,11 +1937,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Item Groups:</source>
-        <translation>Groupes d&apos;articles :</translation>
+        <translation>Groupes d&apos;articles&#xa0;:</translation>
     </message>
     <message>
         <source>Instructions - select the item group to add to the invoice and then click &apos;Add Items to Invoice&apos;.</source>
-        <translation>Instructions - sélectionnez le groupe d&apos;articles à ajouter à la facture, puis cliquez sur « Ajouter les articles à la facture ».</translation>
+        <translation>Instructions - sélectionnez le groupe d&apos;articles à ajouter à la facture, puis cliquez sur «&#xa0;Ajouter les articles à la facture&#xa0;».</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1969,7 +1972,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this Location?</source>
-        <translation>Voulez-vous vraiment supprimer cet emplacement ?</translation>
+        <translation>Voulez-vous vraiment supprimer cet emplacement&#xa0;?</translation>
     </message>
     <message>
         <source>Location Details</source>
@@ -2016,7 +2019,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Item Matches:</source>
-        <translation>Articles trouvés :</translation>
+        <translation>Articles trouvés&#xa0;:</translation>
     </message>
     <message>
         <source>Add Item to Invoice</source>
@@ -2032,39 +2035,39 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Instructions - select the item to add to the invoice and then click &apos;Add Item to Invoice&apos;. To search for an item select the Category, Sub-Category, Item Name, Item Description and then click &apos;Search&apos;.</source>
-        <translation>Instructions - sélectionnez l&apos;article à ajouter à la facture, puis cliquez sur « Ajouter l&apos;article à la facture ». Pour chercher un article, indiquez la catégorie, la sous-catégorie, la désignation ou la description, puis cliquez sur « Rechercher ».</translation>
+        <translation>Instructions - sélectionnez l&apos;article à ajouter à la facture, puis cliquez sur «&#xa0;Ajouter l&apos;article à la facture&#xa0;». Pour chercher un article, indiquez la catégorie, la sous-catégorie, la désignation ou la description, puis cliquez sur «&#xa0;Rechercher&#xa0;».</translation>
     </message>
     <message>
         <source>Category:</source>
-        <translation>Catégorie :</translation>
+        <translation>Catégorie&#xa0;:</translation>
     </message>
     <message>
         <source>Sub Category:</source>
-        <translation>Sous-catégorie :</translation>
+        <translation>Sous-catégorie&#xa0;:</translation>
     </message>
     <message>
         <source>Price List:</source>
-        <translation>Tarif :</translation>
+        <translation>Tarif&#xa0;:</translation>
     </message>
     <message>
         <source>Item Name:</source>
-        <translation>Désignation :</translation>
+        <translation>Désignation&#xa0;:</translation>
     </message>
     <message>
         <source>Item Description:</source>
-        <translation>Description :</translation>
+        <translation>Description&#xa0;:</translation>
     </message>
     <message>
         <source>Item Number:</source>
-        <translation>Numéro d&apos;article :</translation>
+        <translation>Numéro d&apos;article&#xa0;:</translation>
     </message>
     <message>
         <source>Quantity to Add:</source>
-        <translation>Quantité à ajouter :</translation>
+        <translation>Quantité à ajouter&#xa0;:</translation>
     </message>
     <message>
         <source>Price:</source>
-        <translation>Prix :</translation>
+        <translation>Prix&#xa0;:</translation>
     </message>
     <message>
         <source>All Categories</source>
@@ -2084,7 +2087,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>%1 Item Matches:</source>
-        <translation>%1 articles trouvés :</translation>
+        <translation>%1 articles trouvés&#xa0;:</translation>
     </message>
     <message>
         <source>This item does not have enough items in stock. To add this item first increase the total number in stock.</source>
@@ -2115,11 +2118,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>This is the default Price List and so cannot be deleted. However it can be renamed, to rename press the Edit button.</source>
-        <translation>C&apos;est le tarif par défaut, il ne peut pas être supprimé. Il peut cependant être renommé : cliquez sur Modifier.</translation>
+        <translation>C&apos;est le tarif par défaut, il ne peut pas être supprimé. Il peut cependant être renommé&#xa0;: cliquez sur Modifier.</translation>
     </message>
     <message>
         <source>All pricing for this Price List will be lost. Are you sure you want to delete this Price List?</source>
-        <translation>Tous les prix de ce tarif seront perdus. Voulez-vous vraiment supprimer ce tarif ?</translation>
+        <translation>Tous les prix de ce tarif seront perdus. Voulez-vous vraiment supprimer ce tarif&#xa0;?</translation>
     </message>
     <message>
         <source>Price List Details</source>
@@ -2158,7 +2161,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this Sub-Category?</source>
-        <translation>Voulez-vous vraiment supprimer cette sous-catégorie ?</translation>
+        <translation>Voulez-vous vraiment supprimer cette sous-catégorie&#xa0;?</translation>
     </message>
     <message>
         <source>Sub-Category Details</source>
@@ -2189,7 +2192,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this Tax Rate?</source>
-        <translation>Voulez-vous vraiment supprimer ce taux de taxe ?</translation>
+        <translation>Voulez-vous vraiment supprimer ce taux de taxe&#xa0;?</translation>
     </message>
     <message>
         <source>Tax Rate Details</source>
@@ -2205,7 +2208,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Percentage:</source>
-        <translation>Pourcentage :</translation>
+        <translation>Pourcentage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2228,7 +2231,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this Warehouse?</source>
-        <translation>Voulez-vous vraiment supprimer cet entrepôt ?</translation>
+        <translation>Voulez-vous vraiment supprimer cet entrepôt&#xa0;?</translation>
     </message>
     <message>
         <source>Warehouse Details</source>
@@ -2255,11 +2258,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Categories:</source>
-        <translation>Catégories :</translation>
+        <translation>Catégories&#xa0;:</translation>
     </message>
     <message>
         <source>Sub-Categories:</source>
-        <translation>Sous-catégories :</translation>
+        <translation>Sous-catégories&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Add Sub-Category</source>
@@ -2290,11 +2293,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Font Size:</source>
-        <translation>Taille de police :</translation>
+        <translation>Taille de police&#xa0;:</translation>
     </message>
     <message>
         <source>Hide &apos;Our Price&apos; column.</source>
-        <translation>Masquer la colonne « Notre prix ».</translation>
+        <translation>Masquer la colonne «&#xa0;Notre prix&#xa0;».</translation>
     </message>
     <message>
         <source>Hide tax information on invoices.</source>
@@ -2325,51 +2328,51 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>First Name:</source>
-        <translation>Prénom :</translation>
+        <translation>Prénom&#xa0;:</translation>
     </message>
     <message>
         <source>Last Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Business Name:</source>
-        <translation>Entreprise :</translation>
+        <translation>Entreprise&#xa0;:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation>Adresse :</translation>
+        <translation>Adresse&#xa0;:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation>Ville :</translation>
+        <translation>Ville&#xa0;:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation>Région :</translation>
+        <translation>Région&#xa0;:</translation>
     </message>
     <message>
         <source>Country:</source>
-        <translation>Pays :</translation>
+        <translation>Pays&#xa0;:</translation>
     </message>
     <message>
         <source>Zip/Post Code:</source>
-        <translation>Code postal :</translation>
+        <translation>Code postal&#xa0;:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation>Téléphone :</translation>
+        <translation>Téléphone&#xa0;:</translation>
     </message>
     <message>
         <source>Fax:</source>
-        <translation>Fax :</translation>
+        <translation>Fax&#xa0;:</translation>
     </message>
     <message>
         <source>Email:</source>
-        <translation>E-mail :</translation>
+        <translation>E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>Discount:</source>
-        <translation>Remise :</translation>
+        <translation>Remise&#xa0;:</translation>
     </message>
     <message>
         <source>Customer %1 saved</source>
@@ -2384,43 +2387,43 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>First Name:</source>
-        <translation>Prénom :</translation>
+        <translation>Prénom&#xa0;:</translation>
     </message>
     <message>
         <source>Last Name:</source>
-        <translation>Nom :</translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Business Name:</source>
-        <translation>Entreprise :</translation>
+        <translation>Entreprise&#xa0;:</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation>Adresse :</translation>
+        <translation>Adresse&#xa0;:</translation>
     </message>
     <message>
         <source>City:</source>
-        <translation>Ville :</translation>
+        <translation>Ville&#xa0;:</translation>
     </message>
     <message>
         <source>State:</source>
-        <translation>Région :</translation>
+        <translation>Région&#xa0;:</translation>
     </message>
     <message>
         <source>Country:</source>
-        <translation>Pays :</translation>
+        <translation>Pays&#xa0;:</translation>
     </message>
     <message>
         <source>Post Code:</source>
-        <translation>Code postal :</translation>
+        <translation>Code postal&#xa0;:</translation>
     </message>
     <message>
         <source>Phone:</source>
-        <translation>Téléphone :</translation>
+        <translation>Téléphone&#xa0;:</translation>
     </message>
     <message>
         <source>Email:</source>
-        <translation>E-mail :</translation>
+        <translation>E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Start Search</source>
@@ -2448,7 +2451,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Total customer matches:</source>
-        <translation>Clients trouvés :</translation>
+        <translation>Clients trouvés&#xa0;:</translation>
     </message>
     <message>
         <source>No criteria to search by has been entered. Please enter some details and try again.</source>
@@ -2487,15 +2490,15 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>From Date:</source>
-        <translation>Du :</translation>
+        <translation>Du&#xa0;:</translation>
     </message>
     <message>
         <source>To Date:</source>
-        <translation>Au :</translation>
+        <translation>Au&#xa0;:</translation>
     </message>
     <message>
         <source>Total matches:</source>
-        <translation>Total des résultats :</translation>
+        <translation>Total des résultats&#xa0;:</translation>
     </message>
     <message>
         <source>Contact Name</source>
@@ -2519,7 +2522,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Press &quot;Start Search&quot; to list the invoices of these days.</source>
-        <translation>Cliquez sur « Lancer la recherche » pour afficher les factures de ces jours.</translation>
+        <translation>Cliquez sur «&#xa0;Lancer la recherche&#xa0;» pour afficher les factures de ces jours.</translation>
     </message>
     <message>
         <source>No invoice is of these days.</source>
@@ -2528,1060 +2531,6 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Searching the invoices...</source>
         <translation>Recherche des factures...</translation>
-    </message>
-</context>
-<context>
-    <name>frmItemDetails</name>
-    <message>
-        <source>Item Details</source>
-        <translation>Article</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Instructions - enter the item&apos;s details. Only the name is required, however entering other details allows you to use more program features. Press F1 for help.</source>
-        <translation>Instructions - saisissez les données de l&apos;article. Seule la désignation est obligatoire, mais les autres données donnent accès à plus de fonctions. Appuyez sur F1 pour l&apos;aide.</translation>
-    </message>
-    <message>
-        <source>Item Number:</source>
-        <translation>Numéro d&apos;article :</translation>
-    </message>
-    <message>
-        <source>Name:</source>
-        <translation>Désignation :</translation>
-    </message>
-    <message>
-        <source>Long Description:</source>
-        <translation>Description :</translation>
-    </message>
-    <message>
-        <source>Barcode:</source>
-        <translation>Code-barres :</translation>
-    </message>
-    <message>
-        <source>No In Stock:</source>
-        <translation>En stock :</translation>
-    </message>
-    <message>
-        <source>Reorder Level:</source>
-        <translation>Seuil de commande :</translation>
-    </message>
-    <message>
-        <source>Min Stock Level:</source>
-        <translation>Stock minimum :</translation>
-    </message>
-    <message>
-        <source>Warranty Returns:</source>
-        <translation>Retours garantie :</translation>
-    </message>
-    <message>
-        <source>Category:</source>
-        <translation>Catégorie :</translation>
-    </message>
-    <message>
-        <source>Sub Category:</source>
-        <translation>Sous-catégorie :</translation>
-    </message>
-    <message>
-        <source>Vendor:</source>
-        <translation>Fournisseur :</translation>
-    </message>
-    <message>
-        <source>Tax Rate:</source>
-        <translation>Taux de taxe :</translation>
-    </message>
-    <message>
-        <source>Warehouse:</source>
-        <translation>Entrepôt :</translation>
-    </message>
-    <message>
-        <source>Storage Location:</source>
-        <translation>Emplacement :</translation>
-    </message>
-    <message>
-        <source>Sale Price:</source>
-        <translation>Prix de vente :</translation>
-    </message>
-    <message>
-        <source>N/A</source>
-        <translation>N/D</translation>
-    </message>
-    <message>
-        <source>All Sub-Categories</source>
-        <translation>Toutes les sous-catégories</translation>
-    </message>
-    <message>
-        <source>The Item Number is already in use. Continue anyway?</source>
-        <translation>Ce numéro d&apos;article est déjà utilisé. Continuer quand même ?</translation>
-    </message>
-    <message>
-        <source>The Barcode is already in use. Continue anyway?</source>
-        <translation>Ce code-barres est déjà utilisé. Continuer quand même ?</translation>
-    </message>
-    <message>
-        <source>The Name is already in use. Continue anyway?</source>
-        <translation>Cette désignation est déjà utilisée. Continuer quand même ?</translation>
-    </message>
-    <message>
-        <source>Item %1 saved</source>
-        <translation>Article %1 enregistré</translation>
-    </message>
-</context>
-<context>
-    <name>frmItemGroup</name>
-    <message>
-        <source>Item Group Details</source>
-        <translation>Groupe d&apos;articles</translation>
-    </message>
-    <message>
-        <source>&amp;Add Item</source>
-        <translation>A&amp;jouter un article</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Supprimer</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Items in Group:</source>
-        <translation>Articles du groupe :</translation>
-    </message>
-    <message>
-        <source>Instructions - enter the group&apos;s name, add items to the group and then click close to finish.</source>
-        <translation>Instructions - saisissez le nom du groupe, ajoutez-y des articles, puis fermez la fenêtre pour terminer.</translation>
-    </message>
-    <message>
-        <source>Item Group Name:</source>
-        <translation>Nom du groupe :</translation>
-    </message>
-    <message>
-        <source>Items:</source>
-        <translation>Articles :</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Désignation</translation>
-    </message>
-    <message>
-        <source>No item has been selected. Please select an item to remove and try again.</source>
-        <translation>Aucun article n&apos;est sélectionné. Veuillez sélectionner l&apos;article à retirer et réessayer.</translation>
-    </message>
-    <message>
-        <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
-        <translation>Le groupe est vide. Choisissez un article et cliquez sur « Ajouter un article ».</translation>
-    </message>
-    <message>
-        <source>Reading the items...</source>
-        <translation>Lecture des articles...</translation>
-    </message>
-</context>
-<context>
-    <name>frmItemQuantity</name>
-    <message>
-        <source>Item Quantity</source>
-        <translation>Quantité d&apos;articles</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>New Quantity:</source>
-        <translation>Nouvelle quantité :</translation>
-    </message>
-    <message>
-        <source>Price:</source>
-        <translation>Prix :</translation>
-    </message>
-</context>
-<context>
-    <name>frmLocations</name>
-    <message>
-        <source>Configure Item Locations</source>
-        <translation>Configurer les emplacements</translation>
-    </message>
-    <message>
-        <source>Instructions - configuring Item Locations helps you to organize your inventory so it can easily be found. </source>
-        <translation>Instructions - les emplacements vous aident à organiser votre stock pour le retrouver facilement. </translation>
-    </message>
-    <message>
-        <source>Warehouses:</source>
-        <translation>Entrepôts :</translation>
-    </message>
-    <message>
-        <source>Item Bins/Locations:</source>
-        <translation>Casiers/emplacements :</translation>
-    </message>
-    <message>
-        <source>&amp;Add Location</source>
-        <translation>Ajouter &amp;un emplacement</translation>
-    </message>
-    <message>
-        <source>&amp;Edit Location</source>
-        <translation>Modifier l&apos;em&amp;placement</translation>
-    </message>
-    <message>
-        <source>&amp;Remove Location</source>
-        <translation>Supprimer &amp;l&apos;emplacement</translation>
-    </message>
-    <message>
-        <source>No Warehouse has been selected to add the Location to. Please select a Warehouse to continue.</source>
-        <translation>Aucun entrepôt n&apos;est sélectionné pour l&apos;emplacement. Veuillez sélectionner un entrepôt pour continuer.</translation>
-    </message>
-</context>
-<context>
-    <name>frmMultiplePricing</name>
-    <message>
-        <source>Configure Multiple Item Pricing</source>
-        <translation>Configurer les tarifs multiples</translation>
-    </message>
-    <message>
-        <source>Instructions - configure the available Pricing Lists. Each item can multiple pricing.</source>
-        <translation>Instructions - configurez les tarifs disponibles. Chaque article peut avoir plusieurs prix.</translation>
-    </message>
-    <message>
-        <source>Price Lists:</source>
-        <translation>Tarifs :</translation>
-    </message>
-    <message>
-        <source>Deleting the prices...</source>
-        <translation>Suppression des prix...</translation>
-    </message>
-</context>
-<context>
-    <name>frmPaperSetup</name>
-    <message>
-        <source>Page Setup</source>
-        <translation>Mise en page</translation>
-    </message>
-    <message>
-        <source>&amp;Portrait</source>
-        <translation>&amp;Portrait</translation>
-    </message>
-    <message>
-        <source>&amp;Landscape</source>
-        <translation>Pa&amp;ysage</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Pape&amp;r:</source>
-        <translation>Pap&amp;ier :</translation>
-    </message>
-    <message>
-        <source>Orientation:</source>
-        <translation>Orientation :</translation>
-    </message>
-    <message>
-        <source>Margins</source>
-        <translation>Marges</translation>
-    </message>
-    <message>
-        <source>L&amp;eft:</source>
-        <translation>&amp;Gauche :</translation>
-    </message>
-    <message>
-        <source>&amp;Top:</source>
-        <translation>&amp;Haut :</translation>
-    </message>
-    <message>
-        <source>R&amp;ight:</source>
-        <translation>&amp;Droite :</translation>
-    </message>
-    <message>
-        <source>&amp;Bottom:</source>
-        <translation>&amp;Bas :</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> po</translation>
-    </message>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-</context>
-<context>
-    <name>frmReceiveStock</name>
-    <message>
-        <source>Receive Stock</source>
-        <translation>Réception de marchandises</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>Rechercher</translation>
-    </message>
-    <message>
-        <source>Update Stock Level</source>
-        <translation>Mettre à jour le stock</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>Inventory</source>
-        <translation>Stock</translation>
-    </message>
-    <message>
-        <source>Instructions - to receive stock select the item, enter the quantity received and press Update Stock Level. When you have finished press Close.</source>
-        <translation>Instructions - pour réceptionner des marchandises, sélectionnez l&apos;article, saisissez la quantité reçue et cliquez sur Mettre à jour le stock. Quand vous avez terminé, cliquez sur Fermer.</translation>
-    </message>
-    <message>
-        <source>Bar Code:</source>
-        <translation>Code-barres :</translation>
-    </message>
-    <message>
-        <source>Quantity received:</source>
-        <translation>Quantité reçue :</translation>
-    </message>
-    <message>
-        <source>Number</source>
-        <translation>Numéro</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Désignation</translation>
-    </message>
-    <message>
-        <source>In Stock</source>
-        <translation>En stock</translation>
-    </message>
-    <message>
-        <source>Item not found.</source>
-        <translation>Article introuvable.</translation>
-    </message>
-    <message>
-        <source>No valid number has been entered to update. Please enter a valid number and try again.</source>
-        <translation>Aucun nombre valide n&apos;a été saisi. Veuillez saisir un nombre valide et réessayer.</translation>
-    </message>
-    <message>
-        <source>%1 x %2 received, now %3</source>
-        <translation>%1 x %2 reçus, maintenant %3</translation>
-    </message>
-    <message>
-        <source>There are no items to receive stock of.</source>
-        <translation>Il n&apos;y a aucun article à réceptionner.</translation>
-    </message>
-    <message>
-        <source>Reading the items...</source>
-        <translation>Lecture des articles...</translation>
-    </message>
-</context>
-<context>
-    <name>frmReorderReportFilter</name>
-    <message>
-        <source>Filtered Reorder Report</source>
-        <translation>Rapport de réapprovisionnement filtré</translation>
-    </message>
-    <message>
-        <source>No Filter</source>
-        <translation>Aucun filtre</translation>
-    </message>
-    <message>
-        <source>Vendor:</source>
-        <translation>Fournisseur :</translation>
-    </message>
-    <message>
-        <source>Item:</source>
-        <translation>Article :</translation>
-    </message>
-    <message>
-        <source>Item Location:</source>
-        <translation>Emplacement :</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>Instructions - select how you would like the Reorder Report filtered and then click OK to display.</source>
-        <translation>Instructions - choisissez comment filtrer le rapport de réapprovisionnement, puis cliquez sur OK pour l&apos;afficher.</translation>
-    </message>
-    <message>
-        <source>Sort by:</source>
-        <translation>Trier par :</translation>
-    </message>
-    <message>
-        <source>Reading the items...</source>
-        <translation>Lecture des articles...</translation>
-    </message>
-</context>
-<context>
-    <name>frmResCustSearch</name>
-    <message>
-        <source>Customer Search</source>
-        <translation>Recherche de clients</translation>
-    </message>
-    <message>
-        <source>&amp;Start Search</source>
-        <translation>&amp;Lancer la recherche</translation>
-    </message>
-    <message>
-        <source>S&amp;elect</source>
-        <translation>&amp;Sélectionner</translation>
-    </message>
-    <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>Search Results:</source>
-        <translation>Résultats de la recherche :</translation>
-    </message>
-    <message>
-        <source>First Name:</source>
-        <translation>Prénom :</translation>
-    </message>
-    <message>
-        <source>Last Name:</source>
-        <translation>Nom :</translation>
-    </message>
-    <message>
-        <source>No matches found. Please try again or press Close to enter new customer details.</source>
-        <translation>Aucun résultat. Veuillez réessayer ou cliquez sur Fermer pour saisir un nouveau client.</translation>
-    </message>
-    <message>
-        <source>Press &quot;Start Search&quot; to list the customers of these names.</source>
-        <translation>Cliquez sur « Lancer la recherche » pour afficher les clients de ce nom.</translation>
-    </message>
-    <message>
-        <source>No customer matches.</source>
-        <translation>Aucun client trouvé.</translation>
-    </message>
-    <message>
-        <source>Searching the customers...</source>
-        <translation>Recherche des clients...</translation>
-    </message>
-</context>
-<context>
-    <name>frmSetNextInvoiceNo</name>
-    <message>
-        <source>Set Next Invoice Number</source>
-        <translation>Définir le prochain numéro de facture</translation>
-    </message>
-    <message>
-        <source>Next Invoice Number:</source>
-        <translation>Prochain numéro de facture :</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Please enter a valid invoice number.</source>
-        <translation>Veuillez saisir un numéro de facture valide.</translation>
-    </message>
-</context>
-<context>
-    <name>frmSplash</name>
-    <message>
-        <source>Tavrin Inventory</source>
-        <translation>Tavrin Inventory</translation>
-    </message>
-    <message>
-        <source>Stock and invoices, side by side</source>
-        <translation>Stock et factures, côte à côte</translation>
-    </message>
-    <message>
-        <source>Version %1</source>
-        <translation>Version %1</translation>
-    </message>
-</context>
-<context>
-    <name>frmTaxRate</name>
-    <message>
-        <source>Configure Tax Rates</source>
-        <translation>Configurer les taux de taxe</translation>
-    </message>
-    <message>
-        <source>Instructions - configure the available Tax Rates. Each item can have any Tax Rate associated with it.</source>
-        <translation>Instructions - configurez les taux de taxe disponibles. Tout taux de taxe peut être associé à chaque article.</translation>
-    </message>
-    <message>
-        <source>Tax Rates:</source>
-        <translation>Taux de taxe :</translation>
-    </message>
-    <message>
-        <source>Enable Secondary Tax</source>
-        <translation>Activer la seconde taxe</translation>
-    </message>
-    <message>
-        <source>2nd Sales Tax Name (i.e. PST, VAT, GST etc):</source>
-        <translation>Nom de la 2e taxe (p. ex. TVA, TVQ) :</translation>
-    </message>
-    <message>
-        <source>2nd Sales Tax Percentage:</source>
-        <translation>Pourcentage de la 2e taxe :</translation>
-    </message>
-</context>
-<context>
-    <name>frmTip</name>
-    <message>
-        <source>Tip of the Day</source>
-        <translation>Astuce du jour</translation>
-    </message>
-    <message>
-        <source>&amp;Show Tips at Startup</source>
-        <translation>Afficher les astuces au &amp;démarrage</translation>
-    </message>
-    <message>
-        <source>&amp;Next Tip</source>
-        <translation>Astuce &amp;suivante</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Did you know...</source>
-        <translation>Le saviez-vous...</translation>
-    </message>
-    <message>
-        <source>That the </source>
-        <translation>Le fichier </translation>
-    </message>
-    <message>
-        <source> file was not found? </source>
-        <translation> est introuvable. </translation>
-    </message>
-    <message>
-        <source>Create a text file named </source>
-        <translation>Créez avec le Bloc-notes un fichier texte nommé </translation>
-    </message>
-    <message>
-        <source> using NotePad with 1 tip per line. </source>
-        <translation> avec une astuce par ligne. </translation>
-    </message>
-    <message>
-        <source>Then place it in the same directory as the application. </source>
-        <translation>Placez-le ensuite dans le dossier de l&apos;application. </translation>
-    </message>
-</context>
-<context>
-    <name>frmVendor</name>
-    <message>
-        <source>Vendor Details</source>
-        <translation>Fournisseur</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Notes:</source>
-        <translation>Notes :</translation>
-    </message>
-    <message>
-        <source>Contact Name:</source>
-        <translation>Contact :</translation>
-    </message>
-    <message>
-        <source>Business Name:</source>
-        <translation>Entreprise :</translation>
-    </message>
-    <message>
-        <source>Address:</source>
-        <translation>Adresse :</translation>
-    </message>
-    <message>
-        <source>City:</source>
-        <translation>Ville :</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Région :</translation>
-    </message>
-    <message>
-        <source>Country:</source>
-        <translation>Pays :</translation>
-    </message>
-    <message>
-        <source>Zip/Post Code:</source>
-        <translation>Code postal :</translation>
-    </message>
-    <message>
-        <source>Phone:</source>
-        <translation>Téléphone :</translation>
-    </message>
-    <message>
-        <source>Fax:</source>
-        <translation>Fax :</translation>
-    </message>
-    <message>
-        <source>Email:</source>
-        <translation>E-mail :</translation>
-    </message>
-    <message>
-        <source>Vendor %1 saved</source>
-        <translation>Fournisseur %1 enregistré</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Barcode</name>
-    <message>
-        <source>Enable Barcodes</source>
-        <translation>Activer les codes-barres</translation>
-    </message>
-    <message>
-        <source>Would you like to enable barcode scanning? This can help you save time later when adding items.</source>
-        <translation>Voulez-vous activer la lecture de codes-barres ? Vous gagnerez du temps lors de l&apos;ajout d&apos;articles.</translation>
-    </message>
-    <message>
-        <source>Enable Barcode Scanning</source>
-        <translation>Activer la lecture de codes-barres</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Business</name>
-    <message>
-        <source>Business contact details</source>
-        <translation>Coordonnées de l&apos;entreprise</translation>
-    </message>
-    <message>
-        <source>Enter your business contact details, this information will be used on your invoices.</source>
-        <translation>Saisissez les coordonnées de votre entreprise. Elles figureront sur vos factures.</translation>
-    </message>
-    <message>
-        <source>Business Name:</source>
-        <translation>Entreprise :</translation>
-    </message>
-    <message>
-        <source>Address:</source>
-        <translation>Adresse :</translation>
-    </message>
-    <message>
-        <source>City:</source>
-        <translation>Ville :</translation>
-    </message>
-    <message>
-        <source>State:</source>
-        <translation>Région :</translation>
-    </message>
-    <message>
-        <source>Country:</source>
-        <translation>Pays :</translation>
-    </message>
-    <message>
-        <source>Zip/Post Code:</source>
-        <translation>Code postal :</translation>
-    </message>
-    <message>
-        <source>Phone:</source>
-        <translation>Téléphone :</translation>
-    </message>
-    <message>
-        <source>Fax:</source>
-        <translation>Fax :</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Cats</name>
-    <message>
-        <source>Enable Item Categories</source>
-        <translation>Activer les catégories d&apos;articles</translation>
-    </message>
-    <message>
-        <source>Would you like to enable item Categories and Sub-categories? Categories can help you to organize your inventory items.</source>
-        <translation>Voulez-vous activer les catégories et sous-catégories d&apos;articles ? Les catégories vous aident à organiser votre stock.</translation>
-    </message>
-    <message>
-        <source>Enable Item Categories and Sub-categories</source>
-        <translation>Activer les catégories et sous-catégories</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Complete</name>
-    <message>
-        <source>Click Finish to complete your configuration.</source>
-        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Logo</name>
-    <message>
-        <source>Your company logo</source>
-        <translation>Le logo de votre entreprise</translation>
-    </message>
-    <message>
-        <source>You can optionally select a logo to be displayed on your invoices. Click Browse to select your logo file.</source>
-        <translation>Vous pouvez choisir un logo à afficher sur vos factures. Cliquez sur Parcourir pour sélectionner le fichier du logo.</translation>
-    </message>
-    <message>
-        <source>B&amp;rowse</source>
-        <translation>Pa&amp;rcourir</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>Effacer</translation>
-    </message>
-    <message>
-        <source>Logo filename:</source>
-        <translation>Fichier du logo :</translation>
-    </message>
-    <message>
-        <source>Logo preview:</source>
-        <translation>Aperçu du logo :</translation>
-    </message>
-    <message>
-        <source>Unable to load file </source>
-        <translation>Impossible de charger le fichier </translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <source>BMP Image (*.bmp)</source>
-        <translation>Image BMP (*.bmp)</translation>
-    </message>
-    <message>
-        <source>JPG Image (*.jpg)</source>
-        <translation>Image JPG (*.jpg)</translation>
-    </message>
-    <message>
-        <source>GIF Image (*.gif)</source>
-        <translation>Image GIF (*.gif)</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_PickingList</name>
-    <message>
-        <source>Enable Picking Lists</source>
-        <translation>Activer les bons de préparation</translation>
-    </message>
-    <message>
-        <source>Would you like to enable the creation of Picking Lists? Picking Lists help you to physically locate items for orders.</source>
-        <translation>Voulez-vous activer les bons de préparation ? Ils vous aident à retrouver les articles d&apos;une commande dans l&apos;entrepôt.</translation>
-    </message>
-    <message>
-        <source>Enable Picking List</source>
-        <translation>Activer le bon de préparation</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Tax</name>
-    <message>
-        <source>Tax information</source>
-        <translation>Informations fiscales</translation>
-    </message>
-    <message>
-        <source>Enter the tax name and percentage that can be added to items sold (you can setup multiple tax rates later).</source>
-        <translation>Saisissez le nom et le pourcentage de la taxe applicable aux articles vendus (vous pourrez définir d&apos;autres taux plus tard).</translation>
-    </message>
-    <message>
-        <source>Hide tax information on invoices.</source>
-        <translation>Masquer les taxes sur les factures.</translation>
-    </message>
-    <message>
-        <source>Enable Secondary Tax</source>
-        <translation>Activer la seconde taxe</translation>
-    </message>
-    <message>
-        <source>2nd Sales Tax</source>
-        <translation>Seconde taxe</translation>
-    </message>
-    <message>
-        <source>2nd Sales Tax Name (i.e. PST etc):</source>
-        <translation>Nom de la 2e taxe (p. ex. TVQ) :</translation>
-    </message>
-    <message>
-        <source>Tax Name:</source>
-        <translation>Nom de la taxe :</translation>
-    </message>
-    <message>
-        <source>Percentage:</source>
-        <translation>Pourcentage :</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizConfig_Welcome</name>
-    <message>
-        <source>Configuration Wizard</source>
-        <translation>Assistant de configuration</translation>
-    </message>
-    <message>
-        <source>Using this wizard you can configure your inventory details.</source>
-        <translation>Cet assistant vous permet de configurer votre gestion de stock.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizImport_Complete</name>
-    <message>
-        <source>Data has been imported. Click Finish to close the wizard.</source>
-        <translation>Les données ont été importées. Cliquez sur Terminer pour fermer l’assistant.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizImport_File</name>
-    <message>
-        <source>Choose the file to import</source>
-        <translation>Choix du fichier à importer</translation>
-    </message>
-    <message>
-        <source>Enter the CSV file to import or click browse to locate it.</source>
-        <translation>Entrez le fichier CSV à importer ou cliquez sur Parcourir pour le trouver.</translation>
-    </message>
-    <message>
-        <source>&amp;Browse</source>
-        <translation>Pa&amp;rcourir</translation>
-    </message>
-    <message>
-        <source>CSV file to import:</source>
-        <translation>Fichier CSV à importer :</translation>
-    </message>
-    <message>
-        <source>CSV (*.csv)</source>
-        <translation>CSV (*.csv)</translation>
-    </message>
-    <message>
-        <source>Unable to read file, please check you have permissions and try again.</source>
-        <translation>Impossible de lire le fichier. Vérifiez vos droits d’accès et réessayez.</translation>
-    </message>
-    <message>
-        <source>No file has been entered. Please enter a file to continue.</source>
-        <translation>Aucun fichier n’a été indiqué. Indiquez un fichier pour continuer.</translation>
-    </message>
-    <message>
-        <source>Cannot open file. Please select a file to continue.</source>
-        <translation>Impossible d’ouvrir le fichier. Choisissez un fichier pour continuer.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizImport_Preview</name>
-    <message>
-        <source>(none)</source>
-        <translation>(aucun)</translation>
-    </message>
-    <message>
-        <source>Choose the fields to import</source>
-        <translation>Choix des champs à importer</translation>
-    </message>
-    <message>
-        <source>Choose the fields you want to import.</source>
-        <translation>Choisissez les champs que vous voulez importer.</translation>
-    </message>
-    <message>
-        <source>First line has field names</source>
-        <translation>La première ligne contient les noms des champs</translation>
-    </message>
-    <message>
-        <source>Preview:</source>
-        <translation>Aperçu :</translation>
-    </message>
-    <message>
-        <source>Importing records</source>
-        <translation>Importation des enregistrements</translation>
-    </message>
-    <message>
-        <source>String separator:</source>
-        <translation>Séparateur de texte :</translation>
-    </message>
-    <message>
-        <source>Import Fields:</source>
-        <translation>Champs à importer :</translation>
-    </message>
-    <message>
-        <source>(ignore)</source>
-        <translation>(ignorer)</translation>
-    </message>
-    <message>
-        <source>%1 records.</source>
-        <translation>%1 enregistrements.</translation>
-    </message>
-    <message>
-        <source>Unable to to import CSV file.</source>
-        <translation>Impossible d’importer le fichier CSV.</translation>
-    </message>
-    <message>
-        <source>Error occured when importing record %1</source>
-        <translation>Erreur lors de l’importation de l’enregistrement %1</translation>
-    </message>
-    <message>
-        <source>Importing the records...</source>
-        <translation>Importation des enregistrements...</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizImport_Welcome</name>
-    <message>
-        <source>Inventory Import Wizard</source>
-        <translation>Assistant d’importation de l’inventaire</translation>
-    </message>
-    <message>
-        <source>Using this wizard you can import inventory information.</source>
-        <translation>Avec cet assistant, vous pouvez importer des données d’inventaire.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizMailList_Complete</name>
-    <message>
-        <source>Click Finish to complete your configuration.</source>
-        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
-    </message>
-    <message>
-        <source>Unable to write to file </source>
-        <translation>Impossible d&apos;écrire dans le fichier </translation>
-    </message>
-    <message>
-        <source>Writing the file...</source>
-        <translation>Écriture du fichier...</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizMailList_File</name>
-    <message>
-        <source>Enter the Mailing List filename</source>
-        <translation>Nom du fichier de la liste de diffusion</translation>
-    </message>
-    <message>
-        <source>Enter the filename you would like to populate with your email list.</source>
-        <translation>Saisissez le nom du fichier dans lequel écrire votre liste d&apos;adresses e-mail.</translation>
-    </message>
-    <message>
-        <source>B&amp;rowse</source>
-        <translation>Pa&amp;rcourir</translation>
-    </message>
-    <message>
-        <source>Mailing List Filename:</source>
-        <translation>Fichier de la liste :</translation>
-    </message>
-    <message>
-        <source>Save As</source>
-        <translation>Enregistrer sous</translation>
-    </message>
-    <message>
-        <source>Text documents (*.txt)</source>
-        <translation>Documents texte (*.txt)</translation>
-    </message>
-    <message>
-        <source>No mailing list filename has been entered. Please enter a filename to continue.</source>
-        <translation>Aucun nom de fichier n&apos;a été saisi pour la liste. Veuillez saisir un nom de fichier pour continuer.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizMailList_Welcome</name>
-    <message>
-        <source>Email Mailing List Wizard</source>
-        <translation>Assistant liste de diffusion</translation>
-    </message>
-    <message>
-        <source>Using this wizard you can create a mailing list of your customers.</source>
-        <translation>Cet assistant vous permet de créer une liste de diffusion de vos clients.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizOConfig_Complete</name>
-    <message>
-        <source>Would you like to create a booking web page now?</source>
-        <translation>Voulez-vous créer la page de commande maintenant ?</translation>
-    </message>
-    <message>
-        <source>Click Finish to complete your configuration.</source>
-        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizOConfig_Email</name>
-    <message>
-        <source>Enter your email booking address</source>
-        <translation>Adresse e-mail pour les commandes</translation>
-    </message>
-    <message>
-        <source>Enter the email address that should recieve the bookings made from the website.</source>
-        <translation>Saisissez l&apos;adresse e-mail qui doit recevoir les commandes passées sur le site Web.</translation>
-    </message>
-    <message>
-        <source>Booking email address:</source>
-        <translation>E-mail des commandes :</translation>
-    </message>
-    <message>
-        <source>No email address has been entered. Please enter an email address to continue.</source>
-        <translation>Aucune adresse e-mail n&apos;a été saisie. Veuillez saisir une adresse e-mail pour continuer.</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizOConfig_Provider</name>
-    <message>
-        <source>Choose your email provider</source>
-        <translation>Choisissez votre fournisseur d&apos;e-mail</translation>
-    </message>
-    <message>
-        <source>Select the email provider to use to send your email confirmations. If you are not sure then leave the default setting.</source>
-        <translation>Sélectionnez le fournisseur qui envoie vos confirmations par e-mail. En cas de doute, conservez le réglage par défaut.</translation>
-    </message>
-    <message>
-        <source>Email provider:</source>
-        <translation>Fournisseur d&apos;e-mail :</translation>
-    </message>
-    <message>
-        <source>Custom provider:</source>
-        <translation>Autre fournisseur :</translation>
-    </message>
-    <message>
-        <source>Response-o-Matic (default)</source>
-        <translation>Response-o-Matic (par défaut)</translation>
-    </message>
-    <message>
-        <source>Custom...</source>
-        <translation>Autre...</translation>
-    </message>
-    <message>
-        <source>No custom provider has been entered. Continue anyway?</source>
-        <translation>Aucun autre fournisseur n&apos;a été saisi. Continuer quand même ?</translation>
-    </message>
-</context>
-<context>
-    <name>frmWizOConfig_Welcome</name>
-    <message>
-        <source>Web Booking Configuration Wizard</source>
-        <translation>Assistant de commandes Web</translation>
-    </message>
-    <message>
-        <source>Using this wizard you can configure your website to accept online bookings.</source>
-        <translation>Cet assistant vous permet de configurer votre site Web pour accepter des commandes en ligne.</translation>
-    </message>
-</context>
-<context>
-    <name>HelpDesk</name>
-    <message>
-        <source>The help file %1 is missing or damaged.</source>
-        <translation>Le fichier d&apos;aide %1 manque ou est endommagé.</translation>
     </message>
 </context>
 <context>
@@ -3720,6 +2669,495 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>frmItemDetails</name>
+    <message>
+        <source>Item Details</source>
+        <translation>Article</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Instructions - enter the item&apos;s details. Only the name is required, however entering other details allows you to use more program features. Press F1 for help.</source>
+        <translation>Instructions - saisissez les données de l&apos;article. Seule la désignation est obligatoire, mais les autres données donnent accès à plus de fonctions. Appuyez sur F1 pour l&apos;aide.</translation>
+    </message>
+    <message>
+        <source>Item Number:</source>
+        <translation>Numéro d&apos;article&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Désignation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Long Description:</source>
+        <translation>Description&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Barcode:</source>
+        <translation>Code-barres&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No In Stock:</source>
+        <translation>En stock&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reorder Level:</source>
+        <translation>Seuil de commande&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Min Stock Level:</source>
+        <translation>Stock minimum&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Warranty Returns:</source>
+        <translation>Retours garantie&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Category:</source>
+        <translation>Catégorie&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sub Category:</source>
+        <translation>Sous-catégorie&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vendor:</source>
+        <translation>Fournisseur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tax Rate:</source>
+        <translation>Taux de taxe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Warehouse:</source>
+        <translation>Entrepôt&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Storage Location:</source>
+        <translation>Emplacement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Sale Price:</source>
+        <translation>Prix de vente&#xa0;:</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>N/D</translation>
+    </message>
+    <message>
+        <source>All Sub-Categories</source>
+        <translation>Toutes les sous-catégories</translation>
+    </message>
+    <message>
+        <source>The Item Number is already in use. Continue anyway?</source>
+        <translation>Ce numéro d&apos;article est déjà utilisé. Continuer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The Barcode is already in use. Continue anyway?</source>
+        <translation>Ce code-barres est déjà utilisé. Continuer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The Name is already in use. Continue anyway?</source>
+        <translation>Cette désignation est déjà utilisée. Continuer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Item %1 saved</source>
+        <translation>Article %1 enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>frmItemGroup</name>
+    <message>
+        <source>Item Group Details</source>
+        <translation>Groupe d&apos;articles</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item</source>
+        <translation>A&amp;jouter un article</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Items in Group:</source>
+        <translation>Articles du groupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Instructions - enter the group&apos;s name, add items to the group and then click close to finish.</source>
+        <translation>Instructions - saisissez le nom du groupe, ajoutez-y des articles, puis fermez la fenêtre pour terminer.</translation>
+    </message>
+    <message>
+        <source>Item Group Name:</source>
+        <translation>Nom du groupe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Items:</source>
+        <translation>Articles&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Désignation</translation>
+    </message>
+    <message>
+        <source>No item has been selected. Please select an item to remove and try again.</source>
+        <translation>Aucun article n&apos;est sélectionné. Veuillez sélectionner l&apos;article à retirer et réessayer.</translation>
+    </message>
+    <message>
+        <source>The group is empty. Choose an item and press &quot;Add Item&quot;.</source>
+        <translation>Le groupe est vide. Choisissez un article et cliquez sur «&#xa0;Ajouter un article&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
+</context>
+<context>
+    <name>frmItemQuantity</name>
+    <message>
+        <source>Item Quantity</source>
+        <translation>Quantité d&apos;articles</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>New Quantity:</source>
+        <translation>Nouvelle quantité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Price:</source>
+        <translation>Prix&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>frmLocations</name>
+    <message>
+        <source>Configure Item Locations</source>
+        <translation>Configurer les emplacements</translation>
+    </message>
+    <message>
+        <source>Instructions - configuring Item Locations helps you to organize your inventory so it can easily be found. </source>
+        <translation>Instructions - les emplacements vous aident à organiser votre stock pour le retrouver facilement. </translation>
+    </message>
+    <message>
+        <source>Warehouses:</source>
+        <translation>Entrepôts&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Item Bins/Locations:</source>
+        <translation>Casiers/emplacements&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Add Location</source>
+        <translation>Ajouter &amp;un emplacement</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Location</source>
+        <translation>Modifier l&apos;em&amp;placement</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Location</source>
+        <translation>Supprimer &amp;l&apos;emplacement</translation>
+    </message>
+    <message>
+        <source>No Warehouse has been selected to add the Location to. Please select a Warehouse to continue.</source>
+        <translation>Aucun entrepôt n&apos;est sélectionné pour l&apos;emplacement. Veuillez sélectionner un entrepôt pour continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>frmMultiplePricing</name>
+    <message>
+        <source>Configure Multiple Item Pricing</source>
+        <translation>Configurer les tarifs multiples</translation>
+    </message>
+    <message>
+        <source>Instructions - configure the available Pricing Lists. Each item can multiple pricing.</source>
+        <translation>Instructions - configurez les tarifs disponibles. Chaque article peut avoir plusieurs prix.</translation>
+    </message>
+    <message>
+        <source>Price Lists:</source>
+        <translation>Tarifs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Deleting the prices...</source>
+        <translation>Suppression des prix...</translation>
+    </message>
+</context>
+<context>
+    <name>frmPaperSetup</name>
+    <message>
+        <source>Page Setup</source>
+        <translation>Mise en page</translation>
+    </message>
+    <message>
+        <source>&amp;Portrait</source>
+        <translation>&amp;Portrait</translation>
+    </message>
+    <message>
+        <source>&amp;Landscape</source>
+        <translation>Pa&amp;ysage</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Pape&amp;r:</source>
+        <translation>Pap&amp;ier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Orientation:</source>
+        <translation>Orientation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>Marges</translation>
+    </message>
+    <message>
+        <source>L&amp;eft:</source>
+        <translation>&amp;Gauche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Top:</source>
+        <translation>&amp;Haut&#xa0;:</translation>
+    </message>
+    <message>
+        <source>R&amp;ight:</source>
+        <translation>&amp;Droite&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Bottom:</source>
+        <translation>&amp;Bas&#xa0;:</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> po</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+</context>
+<context>
+    <name>frmReceiveStock</name>
+    <message>
+        <source>Receive Stock</source>
+        <translation>Réception de marchandises</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Update Stock Level</source>
+        <translation>Mettre à jour le stock</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Inventory</source>
+        <translation>Stock</translation>
+    </message>
+    <message>
+        <source>Instructions - to receive stock select the item, enter the quantity received and press Update Stock Level. When you have finished press Close.</source>
+        <translation>Instructions - pour réceptionner des marchandises, sélectionnez l&apos;article, saisissez la quantité reçue et cliquez sur Mettre à jour le stock. Quand vous avez terminé, cliquez sur Fermer.</translation>
+    </message>
+    <message>
+        <source>Bar Code:</source>
+        <translation>Code-barres&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Quantity received:</source>
+        <translation>Quantité reçue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Désignation</translation>
+    </message>
+    <message>
+        <source>In Stock</source>
+        <translation>En stock</translation>
+    </message>
+    <message>
+        <source>Item not found.</source>
+        <translation>Article introuvable.</translation>
+    </message>
+    <message>
+        <source>No valid number has been entered to update. Please enter a valid number and try again.</source>
+        <translation>Aucun nombre valide n&apos;a été saisi. Veuillez saisir un nombre valide et réessayer.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 received, now %3</source>
+        <translation>%1 x %2 reçus, maintenant %3</translation>
+    </message>
+    <message>
+        <source>There are no items to receive stock of.</source>
+        <translation>Il n&apos;y a aucun article à réceptionner.</translation>
+    </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
+</context>
+<context>
+    <name>frmReorderReportFilter</name>
+    <message>
+        <source>Filtered Reorder Report</source>
+        <translation>Rapport de réapprovisionnement filtré</translation>
+    </message>
+    <message>
+        <source>No Filter</source>
+        <translation>Aucun filtre</translation>
+    </message>
+    <message>
+        <source>Vendor:</source>
+        <translation>Fournisseur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Item:</source>
+        <translation>Article&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Item Location:</source>
+        <translation>Emplacement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Instructions - select how you would like the Reorder Report filtered and then click OK to display.</source>
+        <translation>Instructions - choisissez comment filtrer le rapport de réapprovisionnement, puis cliquez sur OK pour l&apos;afficher.</translation>
+    </message>
+    <message>
+        <source>Sort by:</source>
+        <translation>Trier par&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reading the items...</source>
+        <translation>Lecture des articles...</translation>
+    </message>
+</context>
+<context>
+    <name>frmResCustSearch</name>
+    <message>
+        <source>Customer Search</source>
+        <translation>Recherche de clients</translation>
+    </message>
+    <message>
+        <source>&amp;Start Search</source>
+        <translation>&amp;Lancer la recherche</translation>
+    </message>
+    <message>
+        <source>S&amp;elect</source>
+        <translation>&amp;Sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Search Results:</source>
+        <translation>Résultats de la recherche&#xa0;:</translation>
+    </message>
+    <message>
+        <source>First Name:</source>
+        <translation>Prénom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Last Name:</source>
+        <translation>Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No matches found. Please try again or press Close to enter new customer details.</source>
+        <translation>Aucun résultat. Veuillez réessayer ou cliquez sur Fermer pour saisir un nouveau client.</translation>
+    </message>
+    <message>
+        <source>Press &quot;Start Search&quot; to list the customers of these names.</source>
+        <translation>Cliquez sur «&#xa0;Lancer la recherche&#xa0;» pour afficher les clients de ce nom.</translation>
+    </message>
+    <message>
+        <source>No customer matches.</source>
+        <translation>Aucun client trouvé.</translation>
+    </message>
+    <message>
+        <source>Searching the customers...</source>
+        <translation>Recherche des clients...</translation>
+    </message>
+</context>
+<context>
+    <name>frmSetNextInvoiceNo</name>
+    <message>
+        <source>Set Next Invoice Number</source>
+        <translation>Définir le prochain numéro de facture</translation>
+    </message>
+    <message>
+        <source>Next Invoice Number:</source>
+        <translation>Prochain numéro de facture&#xa0;:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Please enter a valid invoice number.</source>
+        <translation>Veuillez saisir un numéro de facture valide.</translation>
+    </message>
+</context>
+<context>
+    <name>frmSplash</name>
+    <message>
+        <source>Tavrin Inventory</source>
+        <translation>Tavrin Inventory</translation>
+    </message>
+    <message>
+        <source>Stock and invoices, side by side</source>
+        <translation>Stock et factures, côte à côte</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
     <name>frmSystemInfo</name>
     <message>
         <source> (%1 bytes)</source>
@@ -3804,6 +3242,564 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Instructions - click Copy and paste this into your question to the support.</source>
         <translation>Instructions - cliquez sur Copier et collez ceci dans votre question à l&apos;assistance.</translation>
+    </message>
+</context>
+<context>
+    <name>frmTaxRate</name>
+    <message>
+        <source>Configure Tax Rates</source>
+        <translation>Configurer les taux de taxe</translation>
+    </message>
+    <message>
+        <source>Instructions - configure the available Tax Rates. Each item can have any Tax Rate associated with it.</source>
+        <translation>Instructions - configurez les taux de taxe disponibles. Tout taux de taxe peut être associé à chaque article.</translation>
+    </message>
+    <message>
+        <source>Tax Rates:</source>
+        <translation>Taux de taxe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Enable Secondary Tax</source>
+        <translation>Activer la seconde taxe</translation>
+    </message>
+    <message>
+        <source>2nd Sales Tax Name (i.e. PST, VAT, GST etc):</source>
+        <translation>Nom de la 2e taxe (p. ex. TVA, TVQ)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>2nd Sales Tax Percentage:</source>
+        <translation>Pourcentage de la 2e taxe&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>frmTip</name>
+    <message>
+        <source>Tip of the Day</source>
+        <translation>Astuce du jour</translation>
+    </message>
+    <message>
+        <source>&amp;Show Tips at Startup</source>
+        <translation>Afficher les astuces au &amp;démarrage</translation>
+    </message>
+    <message>
+        <source>&amp;Next Tip</source>
+        <translation>Astuce &amp;suivante</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Did you know...</source>
+        <translation>Le saviez-vous...</translation>
+    </message>
+    <message>
+        <source>That the </source>
+        <translation>Le fichier </translation>
+    </message>
+    <message>
+        <source> file was not found? </source>
+        <translation> est introuvable. </translation>
+    </message>
+    <message>
+        <source>Create a text file named </source>
+        <translation>Créez avec le Bloc-notes un fichier texte nommé </translation>
+    </message>
+    <message>
+        <source> using NotePad with 1 tip per line. </source>
+        <translation> avec une astuce par ligne. </translation>
+    </message>
+    <message>
+        <source>Then place it in the same directory as the application. </source>
+        <translation>Placez-le ensuite dans le dossier de l&apos;application. </translation>
+    </message>
+</context>
+<context>
+    <name>frmVendor</name>
+    <message>
+        <source>Vendor Details</source>
+        <translation>Fournisseur</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Notes:</source>
+        <translation>Notes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Contact Name:</source>
+        <translation>Contact&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Business Name:</source>
+        <translation>Entreprise&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>City:</source>
+        <translation>Ville&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Région&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Country:</source>
+        <translation>Pays&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Zip/Post Code:</source>
+        <translation>Code postal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Phone:</source>
+        <translation>Téléphone&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Fax:</source>
+        <translation>Fax&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>E-mail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vendor %1 saved</source>
+        <translation>Fournisseur %1 enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Barcode</name>
+    <message>
+        <source>Enable Barcodes</source>
+        <translation>Activer les codes-barres</translation>
+    </message>
+    <message>
+        <source>Would you like to enable barcode scanning? This can help you save time later when adding items.</source>
+        <translation>Voulez-vous activer la lecture de codes-barres&#xa0;? Vous gagnerez du temps lors de l&apos;ajout d&apos;articles.</translation>
+    </message>
+    <message>
+        <source>Enable Barcode Scanning</source>
+        <translation>Activer la lecture de codes-barres</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Business</name>
+    <message>
+        <source>Business contact details</source>
+        <translation>Coordonnées de l&apos;entreprise</translation>
+    </message>
+    <message>
+        <source>Enter your business contact details, this information will be used on your invoices.</source>
+        <translation>Saisissez les coordonnées de votre entreprise. Elles figureront sur vos factures.</translation>
+    </message>
+    <message>
+        <source>Business Name:</source>
+        <translation>Entreprise&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>City:</source>
+        <translation>Ville&#xa0;:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Région&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Country:</source>
+        <translation>Pays&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Zip/Post Code:</source>
+        <translation>Code postal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Phone:</source>
+        <translation>Téléphone&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Fax:</source>
+        <translation>Fax&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Cats</name>
+    <message>
+        <source>Enable Item Categories</source>
+        <translation>Activer les catégories d&apos;articles</translation>
+    </message>
+    <message>
+        <source>Would you like to enable item Categories and Sub-categories? Categories can help you to organize your inventory items.</source>
+        <translation>Voulez-vous activer les catégories et sous-catégories d&apos;articles&#xa0;? Les catégories vous aident à organiser votre stock.</translation>
+    </message>
+    <message>
+        <source>Enable Item Categories and Sub-categories</source>
+        <translation>Activer les catégories et sous-catégories</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Complete</name>
+    <message>
+        <source>Click Finish to complete your configuration.</source>
+        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Logo</name>
+    <message>
+        <source>Your company logo</source>
+        <translation>Le logo de votre entreprise</translation>
+    </message>
+    <message>
+        <source>You can optionally select a logo to be displayed on your invoices. Click Browse to select your logo file.</source>
+        <translation>Vous pouvez choisir un logo à afficher sur vos factures. Cliquez sur Parcourir pour sélectionner le fichier du logo.</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse</source>
+        <translation>Pa&amp;rcourir</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Logo filename:</source>
+        <translation>Fichier du logo&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Logo preview:</source>
+        <translation>Aperçu du logo&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unable to load file </source>
+        <translation>Impossible de charger le fichier </translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>BMP Image (*.bmp)</source>
+        <translation>Image BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>JPG Image (*.jpg)</source>
+        <translation>Image JPG (*.jpg)</translation>
+    </message>
+    <message>
+        <source>GIF Image (*.gif)</source>
+        <translation>Image GIF (*.gif)</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_PickingList</name>
+    <message>
+        <source>Enable Picking Lists</source>
+        <translation>Activer les bons de préparation</translation>
+    </message>
+    <message>
+        <source>Would you like to enable the creation of Picking Lists? Picking Lists help you to physically locate items for orders.</source>
+        <translation>Voulez-vous activer les bons de préparation&#xa0;? Ils vous aident à retrouver les articles d&apos;une commande dans l&apos;entrepôt.</translation>
+    </message>
+    <message>
+        <source>Enable Picking List</source>
+        <translation>Activer le bon de préparation</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Tax</name>
+    <message>
+        <source>Tax information</source>
+        <translation>Informations fiscales</translation>
+    </message>
+    <message>
+        <source>Enter the tax name and percentage that can be added to items sold (you can setup multiple tax rates later).</source>
+        <translation>Saisissez le nom et le pourcentage de la taxe applicable aux articles vendus (vous pourrez définir d&apos;autres taux plus tard).</translation>
+    </message>
+    <message>
+        <source>Hide tax information on invoices.</source>
+        <translation>Masquer les taxes sur les factures.</translation>
+    </message>
+    <message>
+        <source>Enable Secondary Tax</source>
+        <translation>Activer la seconde taxe</translation>
+    </message>
+    <message>
+        <source>2nd Sales Tax</source>
+        <translation>Seconde taxe</translation>
+    </message>
+    <message>
+        <source>2nd Sales Tax Name (i.e. PST etc):</source>
+        <translation>Nom de la 2e taxe (p. ex. TVQ)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tax Name:</source>
+        <translation>Nom de la taxe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Percentage:</source>
+        <translation>Pourcentage&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizConfig_Welcome</name>
+    <message>
+        <source>Configuration Wizard</source>
+        <translation>Assistant de configuration</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can configure your inventory details.</source>
+        <translation>Cet assistant vous permet de configurer votre gestion de stock.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Complete</name>
+    <message>
+        <source>Data has been imported. Click Finish to close the wizard.</source>
+        <translation>Les données ont été importées. Cliquez sur Terminer pour fermer l’assistant.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_File</name>
+    <message>
+        <source>Choose the file to import</source>
+        <translation>Choix du fichier à importer</translation>
+    </message>
+    <message>
+        <source>Enter the CSV file to import or click browse to locate it.</source>
+        <translation>Entrez le fichier CSV à importer ou cliquez sur Parcourir pour le trouver.</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>Pa&amp;rcourir</translation>
+    </message>
+    <message>
+        <source>CSV file to import:</source>
+        <translation>Fichier CSV à importer&#xa0;:</translation>
+    </message>
+    <message>
+        <source>CSV (*.csv)</source>
+        <translation>CSV (*.csv)</translation>
+    </message>
+    <message>
+        <source>Unable to read file, please check you have permissions and try again.</source>
+        <translation>Impossible de lire le fichier. Vérifiez vos droits d’accès et réessayez.</translation>
+    </message>
+    <message>
+        <source>No file has been entered. Please enter a file to continue.</source>
+        <translation>Aucun fichier n’a été indiqué. Indiquez un fichier pour continuer.</translation>
+    </message>
+    <message>
+        <source>Cannot open file. Please select a file to continue.</source>
+        <translation>Impossible d’ouvrir le fichier. Choisissez un fichier pour continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Preview</name>
+    <message>
+        <source>(none)</source>
+        <translation>(aucun)</translation>
+    </message>
+    <message>
+        <source>Choose the fields to import</source>
+        <translation>Choix des champs à importer</translation>
+    </message>
+    <message>
+        <source>Choose the fields you want to import.</source>
+        <translation>Choisissez les champs que vous voulez importer.</translation>
+    </message>
+    <message>
+        <source>First line has field names</source>
+        <translation>La première ligne contient les noms des champs</translation>
+    </message>
+    <message>
+        <source>Preview:</source>
+        <translation>Aperçu&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Importing records</source>
+        <translation>Importation des enregistrements</translation>
+    </message>
+    <message>
+        <source>String separator:</source>
+        <translation>Séparateur de texte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Import Fields:</source>
+        <translation>Champs à importer&#xa0;:</translation>
+    </message>
+    <message>
+        <source>(ignore)</source>
+        <translation>(ignorer)</translation>
+    </message>
+    <message>
+        <source>%1 records.</source>
+        <translation>%1 enregistrements.</translation>
+    </message>
+    <message>
+        <source>Unable to to import CSV file.</source>
+        <translation>Impossible d’importer le fichier CSV.</translation>
+    </message>
+    <message>
+        <source>Error occured when importing record %1</source>
+        <translation>Erreur lors de l’importation de l’enregistrement %1</translation>
+    </message>
+    <message>
+        <source>Importing the records...</source>
+        <translation>Importation des enregistrements...</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizImport_Welcome</name>
+    <message>
+        <source>Inventory Import Wizard</source>
+        <translation>Assistant d’importation de l’inventaire</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can import inventory information.</source>
+        <translation>Avec cet assistant, vous pouvez importer des données d’inventaire.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizMailList_Complete</name>
+    <message>
+        <source>Click Finish to complete your configuration.</source>
+        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
+    </message>
+    <message>
+        <source>Unable to write to file </source>
+        <translation>Impossible d&apos;écrire dans le fichier </translation>
+    </message>
+    <message>
+        <source>Writing the file...</source>
+        <translation>Écriture du fichier...</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizMailList_File</name>
+    <message>
+        <source>Enter the Mailing List filename</source>
+        <translation>Nom du fichier de la liste de diffusion</translation>
+    </message>
+    <message>
+        <source>Enter the filename you would like to populate with your email list.</source>
+        <translation>Saisissez le nom du fichier dans lequel écrire votre liste d&apos;adresses e-mail.</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse</source>
+        <translation>Pa&amp;rcourir</translation>
+    </message>
+    <message>
+        <source>Mailing List Filename:</source>
+        <translation>Fichier de la liste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>Text documents (*.txt)</source>
+        <translation>Documents texte (*.txt)</translation>
+    </message>
+    <message>
+        <source>No mailing list filename has been entered. Please enter a filename to continue.</source>
+        <translation>Aucun nom de fichier n&apos;a été saisi pour la liste. Veuillez saisir un nom de fichier pour continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizMailList_Welcome</name>
+    <message>
+        <source>Email Mailing List Wizard</source>
+        <translation>Assistant liste de diffusion</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can create a mailing list of your customers.</source>
+        <translation>Cet assistant vous permet de créer une liste de diffusion de vos clients.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizOConfig_Complete</name>
+    <message>
+        <source>Would you like to create a booking web page now?</source>
+        <translation>Voulez-vous créer la page de commande maintenant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Click Finish to complete your configuration.</source>
+        <translation>Cliquez sur Terminer pour achever la configuration.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizOConfig_Email</name>
+    <message>
+        <source>Enter your email booking address</source>
+        <translation>Adresse e-mail pour les commandes</translation>
+    </message>
+    <message>
+        <source>Enter the email address that should recieve the bookings made from the website.</source>
+        <translation>Saisissez l&apos;adresse e-mail qui doit recevoir les commandes passées sur le site Web.</translation>
+    </message>
+    <message>
+        <source>Booking email address:</source>
+        <translation>E-mail des commandes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>No email address has been entered. Please enter an email address to continue.</source>
+        <translation>Aucune adresse e-mail n&apos;a été saisie. Veuillez saisir une adresse e-mail pour continuer.</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizOConfig_Provider</name>
+    <message>
+        <source>Choose your email provider</source>
+        <translation>Choisissez votre fournisseur d&apos;e-mail</translation>
+    </message>
+    <message>
+        <source>Select the email provider to use to send your email confirmations. If you are not sure then leave the default setting.</source>
+        <translation>Sélectionnez le fournisseur qui envoie vos confirmations par e-mail. En cas de doute, conservez le réglage par défaut.</translation>
+    </message>
+    <message>
+        <source>Email provider:</source>
+        <translation>Fournisseur d&apos;e-mail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Custom provider:</source>
+        <translation>Autre fournisseur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Response-o-Matic (default)</source>
+        <translation>Response-o-Matic (par défaut)</translation>
+    </message>
+    <message>
+        <source>Custom...</source>
+        <translation>Autre...</translation>
+    </message>
+    <message>
+        <source>No custom provider has been entered. Continue anyway?</source>
+        <translation>Aucun autre fournisseur n&apos;a été saisi. Continuer quand même&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>frmWizOConfig_Welcome</name>
+    <message>
+        <source>Web Booking Configuration Wizard</source>
+        <translation>Assistant de commandes Web</translation>
+    </message>
+    <message>
+        <source>Using this wizard you can configure your website to accept online bookings.</source>
+        <translation>Cet assistant vous permet de configurer votre site Web pour accepter des commandes en ligne.</translation>
     </message>
 </context>
 </TS>
