@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QScreen>
@@ -101,7 +102,7 @@ figcaption { margin-top: 0.3em }
 } // namespace
 
 Album::Album(const QString& folder, const QString& sharedKeys)
-    : m_folder(folder)
+    : m_folder(QFileInfo(folder).absoluteFilePath())
     , m_sharedKeys(sharedKeys)
 {
     if (!QDir().mkpath(folder))

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
@@ -19,6 +20,8 @@
 #include <QTest>
 
 namespace {
+
+constexpr auto NewItems = "new items.csv";
 
 /// At the next page of this name lets `fill` enter what it asks, takes a picture and clicks Next.
 void Turn(
@@ -79,13 +82,12 @@ void ListAddresses(MainWindow& window, Album& album, const QString& file)
     ChooseFromMenu(window, "mnuCustomers", "mnuCustMailingList", album, "mailing-list-in-the-customers-menu");
 }
 
-QString WriteItems(const QString& folder)
+void WriteItems(const QString& folder)
 {
-    QFile file(folder + QStringLiteral("/new items.csv"));
+    QFile file(folder + QLatin1Char('/') + QLatin1String(NewItems));
     if (file.open(QFile::WriteOnly))
         file.write("Article,Supplier,Price,On hand\r\nBrass Lantern,Harbour Lamps,49.50,6\r\n"
                    "Storm Lantern,Harbour Lamps,39.90,12\r\nLamp Oil 1 l,,6.25,40\r\n");
-    return file.fileName();
 }
 
 void ImportItems(MainWindow& window, Album& album, const QString& file)
@@ -120,6 +122,11 @@ void RunTheWizards(Program& program, Album& album, const QString& folder)
     SetProgramFolder(folder);
     Configure(window, album, PaintLogo(folder));
     SetProgramFolder(programFolder);
-    ListAddresses(window, album, folder + QStringLiteral("/mailing list.txt"));
-    ImportItems(window, album, WriteItems(folder));
+    WriteItems(folder);
+    // The pictures show bare names: those of the folder are others in each tour.
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder);
+    ListAddresses(window, album, QStringLiteral("mailing list.txt"));
+    ImportItems(window, album, QLatin1String(NewItems));
+    QDir::setCurrent(before);
 }
