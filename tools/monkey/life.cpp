@@ -1,5 +1,6 @@
 #include "life.h"
 
+#include "links.h"
 #include "monkey.h"
 #include "virtual_time.h"
 #include "watch.h"
@@ -18,12 +19,10 @@
 #include "make_database/database_maker.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
-#include <QUrl>
 
 #include <stdexcept>
 
@@ -65,30 +64,6 @@ void Shut(const QString& folder)
     qputenv("QT_NO_GLIB", "1");
     qputenv("QT_HASH_SEED", "0");
 }
-
-/// A browser or a mail program takes the link, and that is all.
-class Links : public QObject {
-    Q_OBJECT
-public:
-    Links()
-    {
-        for (const char* scheme : Schemes)
-            QDesktopServices::setUrlHandler(QLatin1String(scheme), this, "Open");
-    }
-    ~Links() override
-    {
-        for (const char* scheme : Schemes)
-            QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
-    }
-    Links(const Links&) = delete;
-    Links& operator=(const Links&) = delete;
-
-public slots:
-    void Open(const QUrl&) { }
-
-private:
-    static constexpr const char* Schemes[] = {"http", "https", "mailto", "file"};
-};
 
 void SpeakLanguageOf(quint64 seed)
 {
@@ -162,5 +137,3 @@ void Live(const Life& life, const Diary& diary)
     });
     diary.Write(Line::Closed, {});
 }
-
-#include "life.moc"
