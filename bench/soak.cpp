@@ -53,7 +53,7 @@ public:
     {
         constexpr const char* InStock = "SELECT barcode FROM item WHERE noinstock > 20 AND barcode <> ''";
         for (Recordset item = gConnection->Execute(InStock); !item.Eof(); item.MoveNext())
-            m_codes.push_back(std::string(item.Text(0)));
+            m_codes.emplace_back(item.Text(0));
     }
 
     void WriteInvoice(int number)

@@ -42,9 +42,9 @@ bool ContainsFolded(std::string_view text, std::string_view lowerNeedle)
 /// True where letters outside the plain alphabet fold to plain ones, as "ß" does to "ss" and the Kelvin sign to "k".
 bool FoldsToPlainLetters(std::string_view text)
 {
-    char bits = 0;
+    unsigned bits = 0;
     for (const char c : text)
-        bits |= c;
+        bits |= static_cast<unsigned char>(c);
     if ((bits & 0x80) == 0)
         return false;
     static constexpr std::array beginnings{

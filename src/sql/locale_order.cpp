@@ -75,7 +75,7 @@ void LocaleOrder::LearnPlainWeights()
     for (const char character : PlainCharacters()) {
         const std::string key = CollatorKey(QString(QLatin1Char(character)));
         const size_t size = key.find_first_of(LevelEnds);
-        Weight& weight = m_weights[size_t(character)];
+        Weight& weight = m_weights[static_cast<unsigned char>(character)];
         if (size == 0 || size > weight.bytes.size() || key.substr(size) != m_ends[1])
             continue;
         std::copy_n(key.begin(), size, weight.bytes.begin());
@@ -106,9 +106,10 @@ bool LocaleOrder::AppendPlainKey(std::string_view text)
     for (const char c : text) {
         if (IsIgnored(QLatin1Char(c)))
             continue;
-        if (static_cast<unsigned char>(c) >= m_weights.size() || m_weights[size_t(c)].size == 0)
+        const auto code = static_cast<unsigned char>(c);
+        if (code >= m_weights.size() || m_weights[code].size == 0)
             return false;
-        const Weight& weight = m_weights[size_t(c)];
+        const Weight& weight = m_weights[code];
         m_key.append(weight.bytes.data(), weight.size);
         ++count;
     }

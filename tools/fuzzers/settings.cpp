@@ -30,7 +30,7 @@ QString NewStore(const QByteArray& written)
     static const QTemporaryDir folder;
     static quint64 number = 0;
     SetSettingsFolder(folder.path());
-    const QString application = QStringLiteral("Store%1").arg(++number);
+    QString application = QStringLiteral("Store%1").arg(++number);
     QDir(folder.path()).remove(QStringLiteral("Store%1.ini").arg(number - 1));
     if (!written.isEmpty()) {
         QFile file(folder.filePath(application + QLatin1String(".ini")));

@@ -12,7 +12,7 @@ namespace {
 QString WriteFile(QByteArrayView bytes)
 {
     static const QTemporaryDir folder;
-    const QString path = folder.filePath(QLatin1String(TipFileName));
+    QString path = folder.filePath(QLatin1String(TipFileName));
     QFile file(path);
     Expect(
         file.open(QFile::WriteOnly) && file.write(bytes.data(), bytes.size()) == bytes.size(), "the file is written");
