@@ -2141,8 +2141,8 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Preise werden hinzugefügt</translation>
     </message>
     <message>
-        <source>Adding the prices...</source>
-        <translation>Preise werden hinzugefügt...</translation>
+        <source>Adding prices: %p%</source>
+        <translation>Preise hinzufügen: %p%</translation>
     </message>
 </context>
 <context>

@@ -2141,8 +2141,8 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Ajout des prix</translation>
     </message>
     <message>
-        <source>Adding the prices...</source>
-        <translation>Ajout des prix...</translation>
+        <source>Adding prices: %p%</source>
+        <translation>Ajout des prix : %p%</translation>
     </message>
 </context>
 <context>

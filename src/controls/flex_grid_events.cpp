@@ -62,6 +62,9 @@ void FlexGrid::CopyRow() const
 
 void FlexGrid::paintEvent(QPaintEvent* event)
 {
+    // A list that is being filled is blank yet, and not empty: the sign of a long wait may paint it for the first time.
+    if (!updatesEnabled())
+        return;
     QTableView::paintEvent(event);
     PaintEmptyText(this,
         m_model->IsFiltered() && Rows() > 1 ? tr("No row has all of these words. Press Esc to show all rows.")

@@ -5,21 +5,22 @@
 #include <QApplication>
 #include <QBackingStore>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QPointer>
-#include <QStatusBar>
 #include <QWindow>
 
 namespace {
 
 constexpr qint64 UntilTold = 1000;
 constexpr qint64 BetweenPaintings = 250;
+constexpr int NoteMargin = 7;
 
 struct Wait {
     int hourglasses = 0;
     QString doing;
     QElapsedTimer clock;
     qint64 nextPainting = UntilTold;
-    QPointer<QStatusBar> note;
+    QPointer<QLabel> note;
 };
 Wait gWait;
 
@@ -35,18 +36,19 @@ QWidget* WindowInFront()
     return nullptr;
 }
 
-/// Lies over the bottom of the window, so that nothing in it moves and what stood there is there again afterwards.
+/// Lies over the lower left corner of the window, so that nothing in it moves and what stood there is there again
+/// afterwards.
 void ShowNote()
 {
     QWidget* window = WindowInFront();
     if (!window || !window->isVisible())
         return;
-    gWait.note = new QStatusBar(window);
-    gWait.note->setSizeGripEnabled(false);
+    gWait.note = new QLabel(gWait.doing, window);
+    gWait.note->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
     gWait.note->setAutoFillBackground(true);
-    gWait.note->showMessage(gWait.doing);
-    const int height = gWait.note->sizeHint().height();
-    gWait.note->setGeometry(0, window->height() - height, window->width(), height);
+    gWait.note->setMargin(NoteMargin);
+    gWait.note->adjustSize();
+    gWait.note->move(0, window->height() - gWait.note->height());
     gWait.note->show();
     gWait.note->repaint();
 }
@@ -64,7 +66,7 @@ void ShowWait()
 {
     if (gWait.clock.elapsed() < gWait.nextPainting)
         return;
-    if (!gWait.note)
+    if (!gWait.note && !gWait.doing.isEmpty())
         ShowNote();
     ShowWindowsAgain();
     gWait.nextPainting = gWait.clock.elapsed() + BetweenPaintings;

@@ -3,11 +3,11 @@
 #include <QString>
 
 /// Shows the hourglass while it lives. Nests: the outermost one says what is waited for, and of each wait the clock
-/// starts with it. After a second the text stands at the bottom of the window in front, and the windows are painted
-/// again and again, as far as SignOfLife is told. No event is handled meanwhile.
+/// starts with it. After a second the text stands in the lower left corner of the window in front, and the windows are
+/// painted again and again, as far as SignOfLife is told. No event is handled meanwhile.
 class Hourglass {
 public:
-    /// `doing` as in "Reading the items...".
+    /// `doing` as in "Reading the items..."; empty where the window itself says so.
     explicit Hourglass(const QString& doing);
     ~Hourglass();
     Hourglass(const Hourglass&) = delete;

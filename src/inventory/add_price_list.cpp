@@ -52,9 +52,12 @@ frmAddPriceList::frmAddPriceList(QWidget* parent)
 
 void frmAddPriceList::Add(const QString& name)
 {
-    const Hourglass hourglass(tr("Adding the prices..."));
+    // The bar says what is being done.
+    const Hourglass hourglass({});
     auto* bar = new QProgressBar;
     bar->setAccessibleName(tr("Adding prices"));
+    bar->setFormat(tr("Adding prices: %p%"));
+    bar->setMinimumWidth(bar->fontMetrics().horizontalAdvance(bar->format()) + 2 * bar->fontMetrics().height());
     ShowBesideButtons(bar);
     AddPriceListForEveryItem(name, [bar](int done, int total) {
         bar->setRange(0, total);

@@ -16,6 +16,22 @@ struct Letter {
     qsizetype folded; ///< how many characters it folds to
 };
 
+/// Leaves out most characters that there are.
+bool MayHaveCase(char32_t c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Letter_Uppercase:
+    case QChar::Letter_Lowercase:
+    case QChar::Letter_Titlecase:
+    case QChar::Mark_NonSpacing:
+    case QChar::Number_Letter:
+    case QChar::Symbol_Other:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// What folds to something else, by what it folds to: "ß" and its capital by "ss". The capitals of the plain alphabet
 /// are left out.
 const QMultiHash<QString, std::string>& OtherLetters()
@@ -23,8 +39,7 @@ const QMultiHash<QString, std::string>& OtherLetters()
     static const QMultiHash<QString, std::string> letters = [] {
         QMultiHash<QString, std::string> found;
         for (char32_t c = 0x80; c <= QChar::LastValidCodePoint; ++c) {
-            const QChar::Category category = QChar::category(c);
-            if (category == QChar::Letter_Other || category == QChar::Other_NotAssigned)
+            if (!MayHaveCase(c))
                 continue;
             const QString letter = QString::fromUcs4(&c, 1);
             if (const QString folded = letter.toCaseFolded(); folded != letter)

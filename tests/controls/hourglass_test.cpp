@@ -2,16 +2,14 @@
 #include "controls/hourglass.h"
 #include "support/test.h"
 
-#include <QStatusBar>
-
 TEST(HourglassTest, AWaitOfASecondSaysWhatIsBeingDoneUntilItEndsOrADialogAsks)
 {
     QWidget window;
     Shown(&window);
     const auto told = [&window] {
         SignOfLife();
-        const auto* note = window.findChild<QStatusBar*>();
-        return note ? note->currentMessage() : QString();
+        const auto* note = window.findChild<QLabel*>();
+        return note ? note->text() : QString();
     };
     {
         const Hourglass hourglass("Reading the items...");
