@@ -30,9 +30,9 @@ void ScanFloor::Scan(const std::string& barCode, qint64 invoice)
     m_lineOfItem.Run(invoice, item);
     m_item.Run(item);
     AddLine(item, invoice);
+    m_lineOfItem.Run(invoice, item);
     m_lines.Run(invoice);
     m_commit.Run();
-    m_lineOfItem.Run(invoice, item);
 }
 
 void ScanFloor::Write(qint64 item, qint64 invoice)

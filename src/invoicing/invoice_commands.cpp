@@ -35,17 +35,18 @@ void InvoicePage::ResetCustomer()
     OpenInvoice::gCurrentCustomerId = -1;
 }
 
-/// Within a batch.
-bool InvoicePage::AddLine(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
+std::optional<qint64> InvoicePage::AddLine(
+    qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
 {
     FileChanges file = m_file;
     const bool isFilled = m_linesOf == OpenInvoice::gCurrentInvoiceId && !file.Changed(*gConnection);
     if (!AddNewOrderItemToDB(itemId, quantity, discountPercent, isWarranty, unitPrice))
-        return false;
-    if (!isFilled || !ShowLine(LineOfItem(itemId)))
+        return std::nullopt;
+    const qint64 line = LineOfItem(itemId);
+    if (!isFilled || !ShowLine(line))
         RefreshNewInvoiceItemsList(1, 0);
     m_file.Remember(*gConnection);
-    return true;
+    return line;
 }
 
 void InvoicePage::AddOrderItem()

@@ -132,6 +132,7 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
     gNewInvoice->LoadRows(OpenInvoice::LinesStatement(), selectRow, selectId,
         [&](const Recordset& line, GridFill& fill) { m_lines.push_back(AddCells(line, taxRates, fill)); });
     ShowFigures();
+    ShowWhetherItExists();
 }
 
 bool InvoicePage::ShowLine(qint64 lineId)
@@ -160,7 +161,6 @@ void InvoicePage::ShowFigures()
         running.Add(line.total);
     const InvoiceTotals totals = running.Totals();
     ShowTotals(totals.secondTax, totals.total);
-    ShowWhetherItExists();
     ShowScanLine();
 }
 

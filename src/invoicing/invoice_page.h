@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <optional>
 #include <vector>
 
 /// The invoice page: the one invoice that is open, new or old. It has no Save button and keeps no copy of the data:
@@ -120,8 +121,8 @@ private:
     void PriceListChosen();
     void ShowInvoice(const InvoiceFields& invoice);
     void ShowShippedDate(const std::optional<QDate>& shipped);
-    /// Shows the one line that was added to or changed since the lines were filled. False, having done nothing, when
-    /// more may have changed.
+    /// Shows the one line that was added to or changed since the lines were filled, by this page alone. False, having
+    /// done nothing, when more may have changed.
     bool ShowLine(qint64 lineId);
     void ShowFigures();
     void ShowTotals(double secondTax, double total);
@@ -137,14 +138,16 @@ private:
     void AddOrderItem();
     static void TellUnknownCode();
     void AddBarCodeItem();
-    void ShowScanned(const QString& code, qint32 itemId, bool isAdded);
+    void ShowScanned(const QString& code, qint64 lineId, bool isAdded);
     void ShowScanLine();
     void AddGroupItems();
     bool AddChosenGroupItems();
     void EditOrderItem();
     void EditLine(qint64 lineId);
     void DeleteOrderItem();
-    bool AddLine(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice);
+    /// Within a batch. Returns the line that the item is in then, 0 for none; nothing when it is short of stock.
+    std::optional<qint64> AddLine(
+        qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice);
     qint32 QuantityInRow(int row) const;
     void CompleteInvoice();
     void CloseInvoice();

@@ -35,7 +35,7 @@ void InvoicePage::AddBarCodeItem()
     }
 
     m_lastCode = code;
-    const bool isAdded = InBatch(*gConnection, [&] {
+    const std::optional<qint64> line = InBatch(*gConnection, [&] {
         const Currency price = ListPrice(scanned->itemId, cboPriceList->SelectedData());
         return AddLine(
             scanned->itemId, scanned->quantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
@@ -44,17 +44,17 @@ void InvoicePage::AddBarCodeItem()
     // Not cleared, which could be undone: a day's scans would never be forgotten.
     txtBarcode->setText(QString());
     txtBarcode->setFocus();
-    ShowScanned(code, scanned->itemId, isAdded);
+    ShowScanned(code, line ? *line : LineOfItem(scanned->itemId), line.has_value());
 }
 
-void InvoicePage::ShowScanned(const QString& code, qint32 itemId, bool isAdded)
+void InvoicePage::ShowScanned(const QString& code, qint64 lineId, bool isAdded)
 {
     PlayScanSound(isAdded ? ScanSound::Found : ScanSound::NotFound);
     if (!isAdded) {
         ShowScanLine();
         ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
     }
-    if (const int row = gNewInvoice->RowOf(LineOfItem(itemId)); row > 0)
+    if (const int row = gNewInvoice->RowOf(lineId); row > 0)
         gNewInvoice->ShowTinted(row);
 }
 
