@@ -8,6 +8,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
 #include <QToolTip>
 
 namespace {
@@ -60,6 +61,43 @@ public:
     }
     QIconEngine* clone() const override { return new WarningSign; }
 };
+
+QColor TextColor(const QStyleOptionViewItem& cell)
+{
+    const auto group = !(cell.state & QStyle::State_Enabled) ? QPalette::Disabled
+        : cell.state & QStyle::State_Active                  ? QPalette::Normal
+                                                             : QPalette::Inactive;
+    return cell.palette.color(group, cell.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+/// Paints a cell whose text has room, as the style would, but with one layout of the text where the style makes three:
+/// to measure it, to cut it and to draw it. False, having painted nothing, for any other cell.
+bool PaintWholeText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle& style)
+{
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
+    const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
+    QTextLayout text(cell.text, cell.font);
+    QTextOption option(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
+    option.setTextDirection(cell.direction);
+    option.setWrapMode(QTextOption::ManualWrap);
+    text.setTextOption(option);
+    text.beginLayout();
+    QTextLine line = text.createLine();
+    line.setLineWidth(room.width());
+    text.endLayout();
+    if (line.naturalTextWidth() > room.width())
+        return false;
+
+    painter->save();
+    painter->setClipRect(cell.rect);
+    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    painter->setPen(TextColor(cell));
+    const QSize size(room.width(), int(line.height()));
+    text.draw(painter,
+        QStyle::alignedRect(cell.direction, cell.displayAlignment & Qt::AlignVertical_Mask, size, room).topLeft());
+    painter->restore();
+    return true;
+}
 } // namespace
 
 QColor StripeColor(const QPalette& palette)
@@ -77,6 +115,16 @@ void PaintEmptyText(QAbstractItemView* view, const QString& text)
     const int margin = EmptyTextMargin;
     painter.drawText(view->viewport()->rect().adjusted(margin, margin, -margin, -margin),
         int(Qt::AlignHCenter) | int(Qt::AlignTop) | int(Qt::TextWordWrap), text);
+}
+
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle& style = *cell.widget->style();
+    const bool hasSign = cell.features & QStyleOptionViewItem::HasDecoration;
+    if (hasSign || !PaintWholeText(painter, cell, style))
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
 }
 
 QString CellDelegate::displayText(const QVariant& value, const QLocale&) const

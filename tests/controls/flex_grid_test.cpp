@@ -1,6 +1,7 @@
 #include "controls/fit_grid_columns.h"
 #include "controls/flex_grid.h"
 #include "controls/flex_grid_model.h"
+#include "controls/flex_grid_paint.h"
 #include "support/test.h"
 
 #include <QHelpEvent>
@@ -279,6 +280,36 @@ TEST_F(Grid, TitlesAndColumnsAlignEachByThemselves)
     EXPECT_EQ(alignment(1), int(Qt::AlignLeft | Qt::AlignVCenter));
     EXPECT_EQ(alignment(0), int(Qt::AlignLeft | Qt::AlignVCenter));
     EXPECT_EQ(alignment(2), int(Qt::AlignRight | Qt::AlignVCenter)) << "numbers stand right where nothing is set";
+}
+
+class StylesCells : public CellDelegate {
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+};
+
+TEST_F(Grid, CellsLookAsTheStyleDrawsThem)
+{
+    Fill(5);
+    grid.SetColAlignment(1, CellAlign::CenterTop);
+    grid.SetTextMatrix(3, 0, "the name of a supplier that takes more than its column has");
+    grid.SetTextMatrix(4, 1, QString::fromUtf8("שלום 12 नमस्ते"));
+    grid.SetTextMatrix(1, 2, "$12.50");
+    Shown(&grid);
+    grid.SelectRow(2);
+    grid.ShowTinted(4);
+    StylesCells styles;
+    QAbstractItemDelegate* own = grid.itemDelegate();
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft})
+        for (const bool isEnabled : {true, false}) {
+            grid.setLayoutDirection(direction);
+            grid.setEnabled(isEnabled);
+            const QImage picture = grid.grab().toImage();
+            grid.setItemDelegate(&styles);
+            EXPECT_EQ(picture, grid.grab().toImage()) << direction << isEnabled;
+            grid.setItemDelegate(own);
+        }
 }
 
 TEST_F(Grid, TheTitleByWhichItIsSortedBearsAnArrowAndOneTooWideShowsItsStart)
