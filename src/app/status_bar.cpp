@@ -4,9 +4,8 @@
 
 StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent)
-    , m_scanned(new QLabel)
+    , m_scanned(new SteadyLabel)
 {
-    m_scanned->setTextFormat(Qt::PlainText);
     addPermanentWidget(m_scanned);
     On(this, &QStatusBar::messageChanged, this, &StatusBar::ShowIfNeeded);
     hide();
@@ -23,7 +22,7 @@ void StatusBar::ShowScanned(const QString& text)
     // The scan has been taken now that the last message may have been about.
     if (!text.isEmpty() && text != m_scanned->text())
         clearMessage();
-    m_scanned->setText(text);
+    m_scanned->Show(text);
     ShowIfNeeded();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QLabel>
+#include "controls/steady_label.h"
+
 #include <QStatusBar>
 
 /// The line at the bottom of the main window: at the left what was done last, at the right what the open invoice has
@@ -17,5 +18,5 @@ public:
 private:
     void ShowIfNeeded();
 
-    QLabel* m_scanned;
+    SteadyLabel* m_scanned;
 };

@@ -166,8 +166,8 @@ void InvoicePage::ShowFigures()
 
 void InvoicePage::ShowTotals(double secondTax, double total)
 {
-    lblSecondTax->setText(FormatCurrency(secondTax));
-    lblTotal->setText(FormatCurrency(total));
+    lblSecondTax->Show(FormatCurrency(secondTax));
+    lblTotal->Show(FormatCurrency(total));
 }
 
 /// Lines and saves are taken as ever; only they lead nowhere.

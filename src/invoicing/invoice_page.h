@@ -5,6 +5,7 @@
 #include "controls/date_picker.h"
 #include "controls/form.h"
 #include "controls/number_box.h"
+#include "controls/steady_label.h"
 #include "controls/text_box.h"
 #include "db/file_changes.h"
 #include "invoicing/invoice_totals.h"
@@ -83,8 +84,8 @@ public:
     CONTROL(QCheckBox, chkPaid);
     CONTROL(MultiLineTextBox, txtNotes);
     CONTROL_AT(QLabel, lblLabels, 26);
-    CONTROL(QLabel, lblSecondTax);
-    CONTROL(QLabel, lblTotal);
+    CONTROL(SteadyLabel, lblSecondTax);
+    CONTROL(SteadyLabel, lblTotal);
     CONTROL(QWidget, picNewInvoiceBotButts);
     CONTROL(QPushButton, cmdCompleteInvoice);
     CONTROL(QPushButton, cmdCancelInvoice);

@@ -24,14 +24,6 @@ QLabel* CaptionOver(const QString& text, QWidget* control)
     return caption;
 }
 
-/// A figure stands right-aligned under the others and can be copied.
-void ShowAsFigure(QLabel* label)
-{
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-}
-
 /// A line that cannot be missed, out of sight until it is true.
 QWidget* Warning(const QString& text, QWidget* parent)
 {
@@ -173,14 +165,17 @@ QLayout* InvoicePage::PaymentAndTotals()
     bold.setBold(true);
     lblTotal->setFont(bold);
     totalCaption->setFont(bold);
-    ShowAsFigure(lblSecondTax);
-    ShowAsFigure(lblTotal);
+    constexpr int RoomOfAFigure = 110;
+    for (SteadyLabel* figure : {lblSecondTax, lblTotal}) {
+        figure->LetSelect();
+        figure->setMinimumWidth(RoomOfAFigure);
+    }
     auto* totals = new QGridLayout;
     totals->addWidget(lblLabels_26, 0, 0);
-    totals->addWidget(lblSecondTax, 0, 1);
+    totals->addWidget(lblSecondTax, 0, 1, Qt::AlignRight);
     totals->addWidget(totalCaption, 1, 0);
-    totals->addWidget(lblTotal, 1, 1);
-    totals->setColumnMinimumWidth(1, 110);
+    totals->addWidget(lblTotal, 1, 1, Qt::AlignRight);
+    totals->setColumnMinimumWidth(1, RoomOfAFigure);
     totals->setRowStretch(2, 1);
 
     auto* payments = column({new QLabel(tr("Customer Payments:")), payment, stretch()});
