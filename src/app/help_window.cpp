@@ -2,7 +2,9 @@
 
 #include "base/guard.h"
 #include "controls/dialogs.h"
+#include "controls/keys.h"
 #include "controls/layout.h"
+#include "controls/window_place.h"
 
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
@@ -66,6 +68,7 @@ frmHelp::frmHelp(HelpPages& pages)
     splitter->setSizes({paneWidth, FirstSize.width() - paneWidth});
     setCentralWidget(splitter);
     resize(FirstSize);
+    RememberPlace(this);
 
     On(txtPage, &QTextBrowser::sourceChanged, this, &frmHelp::FollowPage);
     On(m_search, &QHelpSearchEngine::indexingFinished, this, [this] {
@@ -101,6 +104,7 @@ QWidget* frmHelp::IndexPane()
     txtIndex->setClearButtonEnabled(true);
     On(txtIndex, &QLineEdit::textChanged, this, [index](const QString& text) { index->filterIndices(text); });
     On(txtIndex, &QLineEdit::returnPressed, this, [index] { index->activateCurrentItem(); });
+    OnKey(txtIndex, Qt::Key_Down, [index] { index->setFocus(); });
     On(index, &QHelpIndexWidget::documentActivated, this, [this](const QHelpLink& page) { ShowPage(page.url); });
     On(index, &QHelpIndexWidget::documentsActivated, this,
         [this](const QList<QHelpLink>& pages) { ShowPage(pages.constFirst().url); });
@@ -117,6 +121,7 @@ QWidget* frmHelp::SearchPane()
     SetUp(lstResults, "lstResults", tr("Pages found"));
     lblResults->setWordWrap(true);
     On(txtSearch, &QLineEdit::returnPressed, this, &frmHelp::Search);
+    OnKey(txtSearch, Qt::Key_Down, [this] { lstResults->setFocus(); });
     On(lstResults, &QListWidget::itemActivated, this, &frmHelp::OpenResult);
     On(lstResults, &QListWidget::itemClicked, this, &frmHelp::OpenResult);
     auto* pane = new QWidget;

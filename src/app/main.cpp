@@ -4,6 +4,7 @@
 #include "app/start.h"
 #include "base/guard.h"
 #include "controls/error_box.h"
+#include "controls/readable_links.h"
 
 #include <QApplication>
 
@@ -16,6 +17,7 @@ int main(int argc, char* argv[])
     // The main window's closing ends the program; the splash's does not.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     InstallErrorBox();
+    LetLinksBeRead();
     const HelpKey helpKey(&application);
     const HelpDesk helpDesk;
 

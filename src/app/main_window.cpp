@@ -45,8 +45,8 @@ MainWindow::MainWindow()
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(tr("Tavrin Inventory"));
-    if (!RememberPlace(this))
-        resize(FirstSize);
+    resize(FirstSize);
+    RememberPlace(this);
 
     for (Panel* panel : m_panels)
         picBack->AddPanel(panel);

@@ -1,6 +1,7 @@
 #include "controls/window_place.h"
 
 #include "base/settings_store.h"
+#include "controls/layout.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -95,12 +96,23 @@ bool RememberPlace(QWidget* window)
     const QString key = window->objectName() + QLatin1String("Place");
     new PlaceKeeper(window, key);
     const std::optional<WindowPlace> noted = ReadPlace(GetConfig(key, QString()));
-    if (!noted)
+    if (!noted) {
+        // Qt fits those that were given no size.
+        if (window->testAttribute(Qt::WA_Resized))
+            window->resize(
+                window->size().boundedTo(window->screen()->availableGeometry().marginsRemoved(Frame).size()));
         return false;
+    }
     window->setGeometry(PlaceOnScreens(noted->place, Screens()));
     if (noted->maximized)
         window->setWindowState(window->windowState() | Qt::WindowMaximized);
     return true;
+}
+
+QSize GrownWithFont(int width, int height)
+{
+    constexpr int TwipsAPixel = 15;
+    return {TwipsToPixels(width * TwipsAPixel), TwipsToPixels(height * TwipsAPixel)};
 }
 
 QRect PlaceOnScreens(const QRect& place, const QList<QRect>& screens)

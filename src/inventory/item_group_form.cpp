@@ -5,6 +5,7 @@
 #include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 #include "db/add_row.h"
 #include "db/batch.h"
 #include "db/connection.h"
@@ -41,7 +42,7 @@ frmItemGroup::frmItemGroup(QWidget* parent)
     txtName->setMaxLength(LongestName);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
-    resize(480, 480);
+    resize(GrownWithFont(480, 480));
 
     gItems->SetColumns(
         {{"name", tr("Name"), 2400, CellAlign::CenterTop, CellAlign::LeftCenter, NoOrder, Spare::Always}});

@@ -8,6 +8,7 @@
 #include "controls/scan_sound.h"
 #include "controls/scan_watch.h"
 #include "controls/status_line.h"
+#include "controls/window_place.h"
 #include "db/batch.h"
 #include "db/connection.h"
 #include "inventory/bar_codes.h"
@@ -42,7 +43,7 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     SetCancelButton(cmdCancel);
     MakeDefaultWhileIn(txtBarcode, cmdAddBarCodeItem);
     MakeDefaultWhileIn(txtAddQuantity, cmdUpdateStockLevel);
-    resize(640, 520);
+    resize(GrownWithFont(640, 520));
 
     txtAddQuantity->setText(QStringLiteral("0"));
     gInventory->SetColumns({

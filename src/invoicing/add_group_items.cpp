@@ -2,6 +2,7 @@
 
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 
 std::vector<GroupItem> frmAddGroupItems::GroupItems;
 qint32 frmAddGroupItems::GroupItemCount = 0;
@@ -39,7 +40,7 @@ frmAddGroupItems::frmAddGroupItems(qint64 priceListId, QWidget* parent)
         gItemGroups,
         row({stretch(), cmdOk, cmdCancel}),
     }));
-    resize(480, 400);
+    resize(GrownWithFont(480, 400));
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
 

@@ -6,6 +6,7 @@
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "controls/scan_watch.h"
+#include "controls/window_place.h"
 #include "invoicing/item_search.h"
 #include "invoicing/order_lines.h"
 #include "records/lists.h"
@@ -29,7 +30,7 @@ frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
 {
     SetCaptions();
     BuildLayout();
-    resize(760, 600);
+    resize(GrownWithFont(760, 600));
     constexpr CellAlign Left = CellAlign::LeftCenter;
     constexpr CellAlign Right = CellAlign::RightCenter;
     gItems->SetColumns({

@@ -3,6 +3,7 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 #include "parties/customer_matches.h"
 
 qint16 frmResCustSearch::SelectedCustomerID = -1;
@@ -44,7 +45,7 @@ frmResCustSearch::frmResCustSearch(const QString& firstName, const QString& last
         gcust,
         row({stretch(), cmdSelect, cmdCancel}),
     }));
-    resize(680, 460);
+    resize(GrownWithFont(680, 460));
     cmdOk->setDefault(true);
     cmdSelect->setAutoDefault(false);
     SetCancelButton(cmdCancel);

@@ -5,6 +5,7 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 #include "invoicing/invoice_cells.h"
 
 qint16 frmFindInvoice::SelectedInvoiceID = -1;
@@ -27,7 +28,7 @@ frmFindInvoice::frmFindInvoice(QWidget* parent)
         gres,
         row({fields({{tr("Total matches:"), lblTotalCustomers}}), stretch(), cmdEditCustomer, cmdCancel}),
     }));
-    resize(600, 440);
+    resize(GrownWithFont(600, 440));
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
     gres->SetColumns({

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "controls/layout.h"
 #include "controls/status_line.h"
+#include "controls/window_place.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 
@@ -35,7 +36,7 @@ frmCustomer::frmCustomer(QWidget* parent)
     }));
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
-    resize(FormWidth, sizeHint().height());
+    resize(GrownWithFont(FormWidth, 0).width(), sizeHint().height());
 
     if (gEditCustomerId == NewRow)
         txtDiscount->setText(NoDiscount);

@@ -4,6 +4,7 @@
 #include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/window_place.h"
 #include "parties/customer_commands.h"
 #include "parties/customer_criteria.h"
 #include "parties/customer_matches.h"
@@ -59,7 +60,7 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
     setMinimumWidth(NarrowestForm);
-    resize(FormWidth, sizeHint().height());
+    resize(GrownWithFont(FormWidth, 0).width(), sizeHint().height());
     DoResize();
 
     On(cmdOk, &QPushButton::clicked, this, &frmFindCustomer::StartSearch);

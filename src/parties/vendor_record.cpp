@@ -2,13 +2,15 @@
 
 #include "controls/layout.h"
 #include "controls/status_line.h"
+#include "controls/window_place.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "sql/schema.h"
 
 namespace {
 
-constexpr QSize FormSize(620, 400);
+constexpr int FormWidth = 620;
+constexpr int FormHeight = 400;
 
 } // namespace
 
@@ -38,7 +40,7 @@ frmVendor::frmVendor(QWidget* parent)
     txtBusinessName->setMaxLength(LongestName);
     cmdOk->setDefault(true);
     SetCancelButton(cmdCancel);
-    resize(FormSize);
+    resize(GrownWithFont(FormWidth, FormHeight));
 
     if (gEditVendorId != NewRow)
         ShowStoredVendor();
