@@ -70,9 +70,19 @@ QColor TextColor(const QStyleOptionViewItem& cell)
     return cell.palette.color(group, cell.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text);
 }
 
-/// Paints a cell whose text has room, as the style would, but with one layout of the text where the style makes three:
-/// to measure it, to cut it and to draw it. False, having painted nothing, for any other cell.
-bool PaintWholeText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle& style)
+/// Lays a text out on one line; whether it has room there.
+bool LayOut(QTextLayout& text, int width)
+{
+    text.beginLayout();
+    QTextLine line = text.createLine();
+    line.setLineWidth(width);
+    text.endLayout();
+    return line.naturalTextWidth() <= width;
+}
+
+/// Paints a cell without a sign as the style would, but with one layout of a text that has room, where the style makes
+/// three: to measure it, to cut it and to draw it.
+void PaintText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle& style)
 {
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
@@ -81,22 +91,19 @@ bool PaintWholeText(QPainter* painter, const QStyleOptionViewItem& cell, const Q
     option.setTextDirection(cell.direction);
     option.setWrapMode(QTextOption::ManualWrap);
     text.setTextOption(option);
-    text.beginLayout();
-    QTextLine line = text.createLine();
-    line.setLineWidth(room.width());
-    text.endLayout();
-    if (line.naturalTextWidth() > room.width())
-        return false;
+    if (!LayOut(text, room.width())) {
+        text.setText(cell.fontMetrics.elidedText(cell.text, cell.textElideMode, room.width()));
+        LayOut(text, room.width());
+    }
 
     painter->save();
     painter->setClipRect(cell.rect);
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
     painter->setPen(TextColor(cell));
-    const QSize size(room.width(), int(line.height()));
+    const QSize size(room.width(), int(text.lineAt(0).height()));
     text.draw(painter,
         QStyle::alignedRect(cell.direction, cell.displayAlignment & Qt::AlignVertical_Mask, size, room).topLeft());
     painter->restore();
-    return true;
 }
 } // namespace
 
@@ -122,9 +129,10 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QStyle& style = *cell.widget->style();
-    const bool hasSign = cell.features & QStyleOptionViewItem::HasDecoration;
-    if (hasSign || !PaintWholeText(painter, cell, style))
+    if (cell.features & QStyleOptionViewItem::HasDecoration)
         style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+    else
+        PaintText(painter, cell, style);
 }
 
 QString CellDelegate::displayText(const QVariant& value, const QLocale&) const
