@@ -4,6 +4,7 @@
 #include "sql/date_literal.h"
 #include "sql/statement_errors.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 
@@ -67,6 +68,7 @@ public:
         , m_at(m_begin)
         , m_end(m_begin + statement.size())
         , m_shape(shape)
+        , m_numbersHaveOwnSign(Formats().decimal.size() == 1 && Formats().decimal != QLatin1Char('.'))
     {
         m_shape.text.clear();
         m_shape.literals.clear();
@@ -86,7 +88,7 @@ private:
         if (IsBlank(c)) {
             m_shape.text.push_back(' ');
             ++m_at;
-        } else if (m_inAssignments && AtAssignedValue(c) && SkipNumberAsTyped()) {
+        } else if (m_inAssignments && m_numbersHaveOwnSign && AtAssignedValue(c) && SkipNumberAsTyped()) {
             AddNumberAsTyped();
         } else if (IsDigit(c) || (c == u'.' && m_at + 1 < m_end && IsDigit(m_at[1]))) {
             ReadNumber();
@@ -164,8 +166,6 @@ private:
     bool SkipNumberAsTyped()
     {
         const RegionalFormats& formats = Formats();
-        if (formats.decimal.size() != 1 || formats.decimal == QLatin1Char('.'))
-            return false;
         const char16_t* at = m_at;
         m_digits.clear();
         const auto digits = [&] {
@@ -259,6 +259,7 @@ private:
     {
         const char16_t* start = m_at++;
         std::string text;
+        text.reserve(size_t(std::find(m_at, m_end, quote) - m_at));
         bool ascii = true;
         for (;; m_at = AppendUtf8(text, m_at, m_end)) {
             if (m_at == m_end)
@@ -343,6 +344,7 @@ private:
     const char16_t* m_end;
     StatementShape& m_shape;
     std::string m_digits;
+    bool m_numbersHaveOwnSign; ///< the user's decimal sign is no point
     bool m_afterTop = false;
     bool m_isFirstWord = true;
     bool m_isUpdate = false;
