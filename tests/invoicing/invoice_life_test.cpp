@@ -49,7 +49,7 @@ TEST_F(InvoiceLife, FromNewInvoiceToComplete)
         Type(form.txtQuantityToAdd, "6");
         Press(form.txtQuantityToAdd, Qt::Key_Return);
     });
-    Click(page->cmdEditOrderItem);
+    Press(page->gNewInvoice, Qt::Key_F2);
     EXPECT_EQ(Stock(screws), 4);
     EXPECT_EQ(Single("SELECT Total2ndTax FROM invoice"), "$3.00");
     EXPECT_EQ(page->lblTotal->text(), "$33.00");

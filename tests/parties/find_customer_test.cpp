@@ -94,7 +94,7 @@ TEST_F(FindCustomerTest, TheSearchRunsAgainAfterAnEditAnAddAndADeletion)
     Search(form->txtLastname, "Lee");
     ClickRow(form->gcust, 3);
     answers.Expect("Delete customer?", Icon::Question, Buttons::YesNo, Answer::Yes);
-    Click(form->cmdDeleteCustomer);
+    Press(form->gcust, Qt::Key_Delete);
     EXPECT_EQ(form->lblTotalCustomers->text(), "2");
     EXPECT_EQ(form->gcust->Row(), 2);
 
