@@ -122,7 +122,7 @@ QAction* MainWindow::MenuEntry(const QString& name) const
 {
     auto* entry = menuBar()->findChild<QAction*>(name);
     if (!entry)
-        throw std::logic_error("no menu entry " + name.toStdString());
+        throw std::logic_error(std::string("no menu entry ").append(name.toStdString()));
     return entry;
 }
 

@@ -50,6 +50,11 @@ std::string Folded(const std::string& sql)
     return FoldFunction + ("(" + sql + ")");
 }
 
+std::string Both(const std::string& condition, const std::string& other)
+{
+    return std::string("(").append(condition).append(" AND ").append(other).append(")");
+}
+
 Kind KindOfResult(Kind left, Kind right, const std::string& sign)
 {
     if (sign == "/" || left == Kind::Double || right == Kind::Double)
@@ -192,9 +197,9 @@ Expression ExpressionReader::Compare(Expression left, const std::string& sign, E
     if (HasOtherLetters(left) || HasOtherLetters(right)) {
         const std::string whole = Folded(left.sql) + " " + sign + " " + Folded(right.sql);
         if (sign == "=" && IsIndexed(left.column))
-            return Truth("(" + AmongSpellings(left, right) + " AND " + whole + ")");
+            return Truth(Both(AmongSpellings(left, right), whole));
         if (sign == "=" && IsIndexed(right.column))
-            return Truth("(" + AmongSpellings(right, left) + " AND " + whole + ")");
+            return Truth(Both(AmongSpellings(right, left), whole));
         return Truth(whole);
     }
     const char* collation = left.column || right.column ? "" : " COLLATE NOCASE";
