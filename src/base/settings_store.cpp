@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QVariant>
 
 namespace {
 
@@ -65,6 +66,18 @@ QHash<QString, QString> HandwrittenTexts(const QString& path)
     return texts;
 }
 
+/// True where Qt has taken a text for a list: the program saves texts alone.
+bool IsList(const QVariant& value)
+{
+    return value.typeId() == QMetaType::QStringList;
+}
+
+/// What a key of the store has: as it was written by hand, and also where its quotes are broken.
+QString TextOf(const QVariant& value, const QString& key, const QHash<QString, QString>& handwritten)
+{
+    return handwritten.value(key, IsList(value) ? value.toStringList().join(QLatin1String(", ")) : value.toString());
+}
+
 /// Runs `use` on the store of one application, which is one file.
 template <typename Use>
 auto WithStore(const QString& application, Use&& use)
@@ -87,7 +100,7 @@ QString GetSetting(const QString& application, const QString& section, const QSt
         // A line that is broken takes none of the others along, so the store's status does not matter.
         if (!store.contains(name))
             return fallback;
-        return HandwrittenTexts(store.fileName()).value(name, store.value(name).toString());
+        return TextOf(store.value(name), name, HandwrittenTexts(store.fileName()));
     });
 }
 
@@ -96,10 +109,10 @@ void SaveSetting(const QString& application, const QString& section, const QStri
     WithStore(application, [&](QSettings& store) {
         // The whole store is written anew: what was written by hand is to stay.
         const auto texts = HandwrittenTexts(store.fileName());
-        for (auto text = texts.begin(); text != texts.end(); ++text)
-            // A name that the store reads otherwise is no key of the program's.
-            if (store.contains(text.key()))
-                store.setValue(text.key(), text.value());
+        const QStringList keys = store.allKeys();
+        for (const QString& name : keys)
+            if (const QVariant old = store.value(name); IsList(old) || texts.contains(name))
+                store.setValue(name, TextOf(old, name, texts));
         store.setValue(section + QLatin1Char('/') + key, value);
         store.sync();
     });
