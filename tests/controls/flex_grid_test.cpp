@@ -285,7 +285,7 @@ TEST_F(Grid, TitlesAndColumnsAlignEachByThemselves)
 class StylesCells : public CellDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyledItemDelegate::paint(painter, option, index); // NOLINT(bugprone-parent-virtual-call)
     }
 };
 

@@ -21,8 +21,7 @@ public:
     Links(const Links&) = delete;
     Links& operator=(const Links&) = delete;
 
-public slots:
-    void Open(const QUrl&) { }
+    Q_SLOT void Open(const QUrl&) { }
 
 private:
     static constexpr const char* Schemes[] = {"http", "https", "mailto", "file"};
