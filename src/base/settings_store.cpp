@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QVariant>
 
+#include <utility>
+
 namespace {
 
 const QString ConfigApplication = QStringLiteral("Tavrin Inventory");
@@ -109,8 +111,10 @@ void SaveSetting(const QString& application, const QString& section, const QStri
     WithStore(application, [&](QSettings& store) {
         // The whole store is written anew: what was written by hand is to stay.
         const auto texts = HandwrittenTexts(store.fileName());
-        const QStringList keys = store.allKeys();
-        for (const QString& name : keys)
+        QStringList names = store.allKeys();
+        // A line by hand may have none, and the store cannot be asked for that.
+        names.removeAll(QString());
+        for (const QString& name : std::as_const(names))
             if (const QVariant old = store.value(name); IsList(old) || texts.contains(name))
                 store.setValue(name, TextOf(old, name, texts));
         store.setValue(section + QLatin1Char('/') + key, value);
