@@ -6,6 +6,8 @@ StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent)
     , m_scanned(new SteadyLabel)
 {
+    constexpr int GapBehind = 6;
+    setContentsMargins(0, 0, GapBehind, 0);
     addPermanentWidget(m_scanned);
     On(this, &QStatusBar::messageChanged, this, &StatusBar::ShowIfNeeded);
     hide();
