@@ -13,6 +13,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -85,7 +86,10 @@ public:
         sqlite3_bind_text(m_statement, 1, beginning.data(), int(beginning.size()), SQLITE_STATIC);
         const int code = sqlite3_step(m_statement);
         const auto* first = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, 0));
-        const bool begins = first != nullptr && sqlite3_strnicmp(first, beginning.c_str(), int(beginning.size())) == 0;
+        // All of the bytes: a comparison that ends at a null character would take everything behind one for found.
+        const auto size = size_t(sqlite3_column_bytes(m_statement, 0));
+        const auto isAlike = [](char left, char right) { return sqlite3_strnicmp(&left, &right, 1) == 0; };
+        const bool begins = size >= beginning.size() && std::equal(beginning.begin(), beginning.end(), first, isAlike);
         if (sqlite3_reset(m_statement) != SQLITE_OK || (code != SQLITE_ROW && code != SQLITE_DONE))
             throw EngineError(sqlite3_db_handle(m_statement));
         return begins;
