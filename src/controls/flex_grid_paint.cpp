@@ -8,7 +8,6 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <QTextLayout>
 #include <QToolTip>
 
 namespace {
@@ -70,31 +69,13 @@ QColor TextColor(const QStyleOptionViewItem& cell)
     return cell.palette.color(group, cell.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text);
 }
 
-/// Lays a text out on one line; whether it has room there.
-bool LayOut(QTextLayout& text, int width)
-{
-    text.beginLayout();
-    QTextLine line = text.createLine();
-    line.setLineWidth(width);
-    text.endLayout();
-    return line.naturalTextWidth() <= width;
-}
-
-/// Paints a cell without a sign as the style would, but with one layout of a text that has room, where the style makes
-/// three: to measure it, to cut it and to draw it.
-void PaintText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle& style)
+/// Paints a cell without a sign as the style would, which lays each text out three times: to measure it, to cut it and
+/// to draw it.
+void PaintText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle& style, CellTexts& texts)
 {
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
-    QTextLayout text(cell.text, cell.font);
-    QTextOption option(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
-    option.setTextDirection(cell.direction);
-    option.setWrapMode(QTextOption::ManualWrap);
-    text.setTextOption(option);
-    if (!LayOut(text, room.width())) {
-        text.setText(cell.fontMetrics.elidedText(cell.text, cell.textElideMode, room.width()));
-        LayOut(text, room.width());
-    }
+    const QTextLayout& text = texts.LaidOut(cell, room.width());
 
     painter->save();
     painter->setClipRect(cell.rect);
@@ -132,7 +113,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     if (cell.features & QStyleOptionViewItem::HasDecoration)
         style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     else
-        PaintText(painter, cell, style);
+        PaintText(painter, cell, style, m_texts);
 }
 
 QString CellDelegate::displayText(const QVariant& value, const QLocale&) const

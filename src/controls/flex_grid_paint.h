@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/cell_texts.h"
+
 #include <QHeaderView>
 #include <QPalette>
 #include <QStyledItemDelegate>
@@ -26,6 +28,9 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+private:
+    mutable CellTexts m_texts;
 };
 
 /// Shows the start of a title that is wider than its column, where Qt cuts a centred title off at both ends, and all of

@@ -296,6 +296,8 @@ TEST_F(Grid, CellsLookAsTheStyleDrawsThem)
     grid.SetTextMatrix(3, 0, "the name of a supplier that takes more than its column has");
     grid.SetTextMatrix(4, 1, QString::fromUtf8("שלום 12 नमस्ते"));
     grid.SetTextMatrix(1, 2, "$12.50");
+    // The same text with another alignment, then with less room.
+    grid.SetTextMatrix(2, 2, "street");
     Shown(&grid);
     grid.SelectRow(2);
     grid.ShowTinted(4);
@@ -305,6 +307,8 @@ TEST_F(Grid, CellsLookAsTheStyleDrawsThem)
         for (const bool isEnabled : {true, false}) {
             grid.setLayoutDirection(direction);
             grid.setEnabled(isEnabled);
+            grid.SetColWidth(2, isEnabled ? 1500 : 300);
+            grid.setFont(QFont("sans", isEnabled ? 9 : 12));
             const QImage picture = grid.grab().toImage();
             grid.setItemDelegate(&styles);
             EXPECT_EQ(picture, grid.grab().toImage()) << direction << isEnabled;
