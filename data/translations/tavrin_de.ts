@@ -823,6 +823,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Es ist nicht genug auf Lager, um %1 hinzuzufügen.</translation>
     </message>
     <message>
+        <source>Lines: %1   Pieces: %2</source>
+        <translation>Positionen: %1   Stück: %2</translation>
+    </message>
+    <message>
         <source>Lines: %1   Pieces: %2   Last code: %3</source>
         <translation>Positionen: %1   Stück: %2   Letzter Code: %3</translation>
     </message>

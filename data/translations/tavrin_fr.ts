@@ -823,6 +823,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Le stock ne suffit pas pour ajouter %1.</translation>
     </message>
     <message>
+        <source>Lines: %1   Pieces: %2</source>
+        <translation>Lignes&#xa0;: %1   Pièces&#xa0;: %2</translation>
+    </message>
+    <message>
         <source>Lines: %1   Pieces: %2   Last code: %3</source>
         <translation>Lignes&#xa0;: %1   Pièces&#xa0;: %2   Dernier code&#xa0;: %3</translation>
     </message>

@@ -73,7 +73,9 @@ void MainWindow::ConnectPanels()
     On(picNewInvoice, &InvoicePage::Left, this, [this] { ListInvoices(); });
     auto* bar = new StatusBar(this);
     setStatusBar(bar);
-    On(picNewInvoice, &InvoicePage::Scanned, bar, &StatusBar::ShowScanned);
+    On(picNewInvoice, &InvoicePage::LinesCounted, bar, &StatusBar::ShowCounted);
+    // It has been taken now, which the last message may have denied.
+    On(picNewInvoice, &InvoicePage::Scanned, bar, &StatusBar::clearMessage);
     On(&StatusLine::Get(), &StatusLine::Told, bar, &StatusBar::ShowNotice);
     On(picArrivals, &InvoiceHistory::OpenInvoice, this, [this](qint32 invoiceId) { OpenInvoice(invoiceId); });
     On(picArrivals, &InvoiceHistory::NewInvoice, this, [this] { OpenInvoicePage(); });

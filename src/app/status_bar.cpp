@@ -4,11 +4,11 @@
 
 StatusBar::StatusBar(QWidget* parent)
     : QStatusBar(parent)
-    , m_scanned(new SteadyLabel)
+    , m_counted(new SteadyLabel)
 {
     constexpr int GapBehind = 6;
     setContentsMargins(0, 0, GapBehind, 0);
-    addPermanentWidget(m_scanned);
+    addPermanentWidget(m_counted);
     On(this, &QStatusBar::messageChanged, this, &StatusBar::ShowIfNeeded);
     hide();
 }
@@ -19,16 +19,13 @@ void StatusBar::ShowNotice(const QString& text)
     showMessage(text, LongEnoughToRead);
 }
 
-void StatusBar::ShowScanned(const QString& text)
+void StatusBar::ShowCounted(const QString& text)
 {
-    // The scan has been taken now that the last message may have been about.
-    if (!text.isEmpty() && text != m_scanned->text())
-        clearMessage();
-    m_scanned->Show(text);
+    m_counted->Show(text);
     ShowIfNeeded();
 }
 
 void StatusBar::ShowIfNeeded()
 {
-    setVisible(!currentMessage().isEmpty() || !m_scanned->text().isEmpty());
+    setVisible(!currentMessage().isEmpty() || !m_counted->text().isEmpty());
 }

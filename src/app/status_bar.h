@@ -4,8 +4,8 @@
 
 #include <QStatusBar>
 
-/// The line at the bottom of the main window: at the left what was done last, at the right what the open invoice has
-/// been scanned to. It is there only while it has something to say.
+/// The line at the bottom of the main window: at the left what was done last, at the right what the open invoice
+/// has come to. It is there only while it has something to say.
 class StatusBar : public QStatusBar {
     Q_OBJECT
 public:
@@ -13,10 +13,10 @@ public:
 
     void ShowNotice(const QString& text);
     /// "" for nothing.
-    void ShowScanned(const QString& text);
+    void ShowCounted(const QString& text);
 
 private:
     void ShowIfNeeded();
 
-    SteadyLabel* m_scanned;
+    SteadyLabel* m_counted;
 };

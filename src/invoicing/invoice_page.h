@@ -95,10 +95,13 @@ public:
 signals:
     /// Work on the invoice has ended; the invoice history is to show.
     void Left();
-    /// The lines and pieces of the invoice and the code that was scanned last; "" where no scan is to be told of.
-    void Scanned(const QString& text);
+    /// An item was found by its bar code.
+    void Scanned();
+    /// The lines and pieces of the invoice and the code that was scanned last, if any; "" when the page is left.
+    void LinesCounted(const QString& text);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:

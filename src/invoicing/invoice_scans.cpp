@@ -35,6 +35,7 @@ void InvoicePage::AddBarCodeItem()
     }
 
     m_lastCode = code;
+    emit Scanned();
     const std::optional<qint64> line = InBatch(*gConnection, [&] {
         const Currency price = ListPrice(scanned->itemId, cboPriceList->SelectedData());
         return AddLine(
@@ -60,22 +61,29 @@ void InvoicePage::ShowScanned(const QString& code, qint64 lineId, bool isAdded)
 
 void InvoicePage::ShowScanLine()
 {
+    if (!isVisible())
+        return;
     constexpr int ShownOfACode = 40;
+    const int lines = gNewInvoice->Rows() - 1;
     qint64 pieces = 0;
     for (const ShownLine& line : m_lines)
         pieces += line.quantity;
-    if (isVisible() && !m_lastCode.isEmpty())
-        emit Scanned(tr("Lines: %1   Pieces: %2   Last code: %3")
-                         .arg(gNewInvoice->Rows() - 1)
-                         .arg(pieces)
-                         .arg(m_lastCode.left(ShownOfACode)));
-    else
-        emit Scanned(QString());
+    const QString text = m_lastCode.isEmpty()
+        ? tr("Lines: %1   Pieces: %2").arg(lines).arg(pieces)
+        : tr("Lines: %1   Pieces: %2   Last code: %3").arg(lines).arg(pieces).arg(m_lastCode.left(ShownOfACode));
+    emit LinesCounted(text);
+}
+
+// The line stands there before the first scan: if it came with that, all of the page would move.
+void InvoicePage::showEvent(QShowEvent* event)
+{
+    Panel::showEvent(event);
+    ShowScanLine();
 }
 
 void InvoicePage::hideEvent(QHideEvent* event)
 {
     Panel::hideEvent(event);
     if (!event->spontaneous())
-        emit Scanned(QString());
+        emit LinesCounted(QString());
 }

@@ -23,7 +23,7 @@ protected:
         Item("Screws").Barcode(Screws).Stock(100).Price("3").Add();
         QObject::connect(
             &StatusLine::Get(), &StatusLine::Told, &receiver, [this](const QString& text) { told = text; });
-        QObject::connect(page, &InvoicePage::Scanned, &receiver, [this](const QString& text) { scanLine = text; });
+        QObject::connect(page, &InvoicePage::LinesCounted, &receiver, [this](const QString& text) { scanLine = text; });
         OpenNew();
     }
     Table Lines() const { return Rows("SELECT quantity FROM invoiceline ORDER BY id"); }
