@@ -63,13 +63,9 @@ private:
         const qint64 floorInvoice = AddInvoice(m_program.Handle(), m_linesAtStart);
         OpenInvoice::gCurrentInvoiceId = qint32(AddInvoice(m_program.Handle(), m_linesAtStart));
         m_program.Window().OpenInvoicePage();
+        InvoicePage& page = *m_program.Window().picNewInvoice;
         LetPaint();
         // By turns, but not scan by scan: the program sees when another one writes between its own scans.
-        for (int scan = 0; scan < m_scansOfAnInvoice; ++scan) {
-            scans.floor.Add(MillisecondsOf([&] { m_floor.Scan(NextCode().toStdString(), floorInvoice); }));
-            writes.Add(MillisecondsOf([&] { m_floor.Write(NextItem(), floorInvoice); }));
-        }
-        InvoicePage& page = *m_program.Window().picNewInvoice;
         for (int scan = 0; scan < m_scansOfAnInvoice; ++scan) {
             page.txtBarcode->setText(NextCode());
             page.txtBarcode->setFocus();
@@ -78,6 +74,24 @@ private:
             scans.program.Add(toDisk);
             figures.Add(toDisk + MillisecondsOf(LetPaint));
         }
+        for (int scan = 0; scan < m_scansOfAnInvoice; ++scan) {
+            PaintAsAfterScan(page);
+            scans.floor.Add(MillisecondsOf([&] { m_floor.Scan(NextCode().toStdString(), floorInvoice); }));
+            PaintAsAfterScan(page);
+            writes.Add(MillisecondsOf([&] { m_floor.Write(NextItem(), floorInvoice); }));
+        }
+    }
+
+    /// The floor finds the processor's caches as a scan of the program does, behind the painting of the one before it:
+    /// in a loop of its own, which is no shop's day, it takes a fifth less.
+    static void PaintAsAfterScan(InvoicePage& page)
+    {
+        constexpr int RowsThatChange = 2;
+        QWidget& grid = *page.gNewInvoice->viewport();
+        grid.update(0, 0, grid.width(), RowsThatChange * page.gNewInvoice->verticalHeader()->defaultSectionSize());
+        page.lblTotal->update();
+        page.txtBarcode->update();
+        LetPaint();
     }
 
     /// Items spread over the whole file, none twice.
