@@ -7,8 +7,6 @@
 #include <QSettings>
 #include <QVariant>
 
-#include <utility>
-
 namespace {
 
 const QString ConfigApplication = QStringLiteral("Tavrin Inventory");
@@ -80,6 +78,12 @@ QString TextOf(const QVariant& value, const QString& key, const QHash<QString, Q
     return handwritten.value(key, IsList(value) ? value.toStringList().join(QLatin1String(", ")) : value.toString());
 }
 
+/// False for a name written by hand that the store keeps but takes for another one: it drops slashes that are too many.
+bool CanBeAskedFor(const QString& name)
+{
+    return !name.isEmpty() && !name.startsWith(u'/') && !name.endsWith(u'/') && !name.contains(QLatin1String("//"));
+}
+
 /// Runs `use` on the store of one application, which is one file.
 template <typename Use>
 auto WithStore(const QString& application, Use&& use)
@@ -111,12 +115,12 @@ void SaveSetting(const QString& application, const QString& section, const QStri
     WithStore(application, [&](QSettings& store) {
         // The whole store is written anew: what was written by hand is to stay.
         const auto texts = HandwrittenTexts(store.fileName());
-        QStringList names = store.allKeys();
-        // A line by hand may have none, and the store cannot be asked for that.
-        names.removeAll(QString());
-        for (const QString& name : std::as_const(names))
+        for (const QString& name : store.allKeys()) {
+            if (!CanBeAskedFor(name))
+                continue;
             if (const QVariant old = store.value(name); IsList(old) || texts.contains(name))
                 store.setValue(name, TextOf(old, name, texts));
+        }
         store.setValue(section + QLatin1Char('/') + key, value);
         store.sync();
     });
