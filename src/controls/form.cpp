@@ -5,7 +5,11 @@
 #include "controls/window_place.h"
 
 #include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 bool IsEnter(const QKeyEvent* event)
@@ -15,10 +19,15 @@ bool IsEnter(const QKeyEvent* event)
 
 QPushButton* DefaultButtonOf(const QWidget* screen)
 {
-    for (QPushButton* button : screen->findChildren<QPushButton*>())
-        if (button->isDefault() && button->isVisible())
-            return button;
-    return nullptr;
+    // Each scan asks, and a screen has hundreds of children to look through.
+    static QPointer<QPushButton> last;
+    const auto isDefault = [](const QPushButton* button) { return button->isDefault() && button->isVisible(); };
+    if (last && screen->isAncestorOf(last) && isDefault(last))
+        return last;
+    const QList<QPushButton*> buttons = screen->findChildren<QPushButton*>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(), isDefault);
+    last = found == buttons.end() ? nullptr : *found;
+    return last;
 }
 
 // Qt alone gives Enter to the default button even when another button has the focus.
