@@ -33,6 +33,8 @@ FlexGrid::FlexGrid(QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
     setAlternatingRowColors(true);
+    // The lines have their room, and are drawn by PaintLines.
+    setGridStyle(Qt::NoPen);
     SetUpHeader();
     MeasureRows();
 

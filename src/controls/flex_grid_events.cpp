@@ -66,6 +66,10 @@ void FlexGrid::paintEvent(QPaintEvent* event)
     if (!updatesEnabled())
         return;
     QTableView::paintEvent(event);
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const auto color = QRgb(style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this));
+    PaintLines(this, event->rect(), QColor::fromRgba(color));
     PaintEmptyText(this,
         m_model->IsFiltered() && Rows() > 1 ? tr("No row has all of these words. Press Esc to show all rows.")
                                             : m_emptyText);

@@ -3,12 +3,15 @@
 #include "base/texts.h"
 #include "controls/flex_grid_model.h"
 
-#include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTableView>
 #include <QToolTip>
+
+#include <functional>
+#include <numeric>
 
 namespace {
 constexpr int TooltipCharacters = 2000;
@@ -91,6 +94,25 @@ void PaintText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle
 QColor StripeColor(const QPalette& palette)
 {
     return Blended(palette.color(QPalette::Base), palette.color(QPalette::Text), IsDark(palette) ? 0.07 : 0.045);
+}
+
+void PaintLines(QTableView* view, const QRect& part, const QColor& color)
+{
+    const QHeaderView& rows = *view->verticalHeader();
+    QList<QRect> columns;
+    for (int col = 0; col < view->model()->columnCount(); ++col)
+        if (!view->isColumnHidden(col))
+            columns.append(
+                QRect(view->columnViewportPosition(col), 0, view->columnWidth(col), rows.length() - rows.offset()));
+    const QRect cells = part & std::accumulate(columns.begin(), columns.end(), QRect(), std::bit_or<>());
+    if (cells.isEmpty())
+        return;
+    QPainter painter(view->viewport());
+    for (int row = view->rowAt(cells.top()); row <= view->rowAt(cells.bottom()); ++row)
+        painter.fillRect(
+            cells.left(), view->rowViewportPosition(row) + view->rowHeight(row) - 1, cells.width(), 1, color);
+    for (const QRect& column : columns)
+        painter.fillRect(view->isRightToLeft() ? column.left() : column.right(), cells.top(), 1, cells.height(), color);
 }
 
 void PaintEmptyText(QAbstractItemView* view, const QString& text)

@@ -6,10 +6,16 @@
 #include <QPalette>
 #include <QStyledItemDelegate>
 
+class QTableView;
+
 /// How the grid's cells and titles look.
 
 /// Every second row's background: the palettes of many themes hold one that cannot be told from the other rows'.
 QColor StripeColor(const QPalette& palette);
+
+/// Draws the lines below the rows and between the columns, as far as they lie in a part of the viewport. Qt draws them
+/// point by point, which takes as long as half of the texts.
+void PaintLines(QTableView* view, const QRect& part, const QColor& color);
 
 /// Says in an empty view why it is empty and what to do about it.
 void PaintEmptyText(QAbstractItemView* view, const QString& text);

@@ -5,6 +5,7 @@
 #include "support/test.h"
 
 #include <QHelpEvent>
+#include <QScrollBar>
 
 namespace {
 
@@ -309,10 +310,15 @@ TEST_F(Grid, CellsLookAsTheStyleDrawsThem)
             grid.setEnabled(isEnabled);
             grid.SetColWidth(2, isEnabled ? 1500 : 300);
             grid.setFont(QFont("sans", isEnabled ? 9 : 12));
+            grid.resize(isEnabled ? 400 : 180, isEnabled ? 200 : 110);
+            grid.horizontalScrollBar()->setValue(25);
+            grid.verticalScrollBar()->setValue(2);
             const QImage picture = grid.grab().toImage();
             grid.setItemDelegate(&styles);
+            grid.setGridStyle(Qt::SolidLine);
             EXPECT_EQ(picture, grid.grab().toImage()) << direction << isEnabled;
             grid.setItemDelegate(own);
+            grid.setGridStyle(Qt::NoPen);
         }
 }
 
