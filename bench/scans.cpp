@@ -8,6 +8,7 @@
 #include "make_database/ean13.h"
 
 #include <QElapsedTimer>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QTest>
 #include <QWindow>
