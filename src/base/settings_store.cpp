@@ -69,7 +69,8 @@ QHash<QString, QString> HandwrittenTexts(const QString& path)
 /// True where Qt has taken a text for a list: the program saves texts alone.
 bool IsList(const QVariant& value)
 {
-    return value.typeId() == QMetaType::QStringList;
+    // The latter where one of them begins with an at-sign.
+    return value.typeId() == QMetaType::QStringList || value.typeId() == QMetaType::QVariantList;
 }
 
 /// What a key of the store has: as it was written by hand, and also where its quotes are broken.
