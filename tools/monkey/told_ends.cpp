@@ -18,6 +18,7 @@ constexpr ToldEnd ToldEnds[] = {
     {"Syntax error in date in query expression .*invoice\\.SubmittedDate", "",
         "invoices are looked for from or to a day alone"},
     {"Numeric field overflow", "frmTaxRate", "the secondary tax is no number that the file can hold"},
+    {"'6':  Overflow", "of frmMain", "a discount or a price is so large that no amount of a line holds it"},
     {"Type mismatch", "frmItemQuantity", "a line's new price is no number"},
 };
 
