@@ -42,20 +42,26 @@ QString ShortDate(const QDateTime& value)
 
 std::string_view ShortDateWriter::operator()(std::string_view stored)
 {
-    if (stored == m_stored)
-        return m_text;
-    m_stored = stored;
-    m_text.clear();
+    constexpr size_t Places = 2048; // five years of days side by side
+    if (m_written.empty() || m_mask != Formats().shortDate) {
+        m_mask = Formats().shortDate;
+        m_written.assign(Places, {});
+    }
     const auto number = [&](size_t at, size_t length) {
         int value = 0;
         if (at + length <= stored.size())
             std::from_chars(stored.data() + at, stored.data() + at + length, value);
         return value;
     };
-    const QDate date(number(0, 4), number(5, 2), number(8, 2));
-    if (date.isValid())
-        m_text = CompiledMask(Formats().shortDate).Write(date, QTime()).toStdString();
-    return m_text;
+    constexpr qint64 Apart = 200; // more than two digits and a sign can differ by
+    const int year = number(0, 4), month = number(5, 2), dayOfMonth = number(8, 2);
+    const qint64 day = (year * Apart + month) * Apart + dayOfMonth;
+    Written& written = m_written[size_t((year * 12 + month) * 31 + dayOfMonth) % Places];
+    if (written.day != day) {
+        const QDate date(year, month, dayOfMonth);
+        written = {day, date.isValid() ? CompiledMask(m_mask).Write(date, QTime()).toStdString() : std::string()};
+    }
+    return written.text;
 }
 
 std::optional<QDateTime> ReadDate(const QString& text)

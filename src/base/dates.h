@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// A date by a mask of `d`, `m`, `y`, `h`, `n`, `s`, `AM/PM` and separators. Month and day names are the user's. An
 /// empty mask is the general date.
@@ -18,14 +19,19 @@ QString ShortDateMask();
 QString ShortDate(const QDateTime& value);
 
 /// Short dates for a list of many rows, from the text of a date column ("2003-07-04 00:00:00") to UTF-8; "" for a text
-/// that holds no date. The view lasts until the next call.
+/// that holds no date. The view lasts until the next call. Each day is written once as a rule: a list holds few days.
 class ShortDateWriter {
 public:
     std::string_view operator()(std::string_view stored);
 
 private:
-    std::string m_stored;
-    std::string m_text;
+    struct Written {
+        qint64 day = 0; ///< as the column's digits tell it, which need not be a day
+        std::string text;
+    };
+
+    QString m_mask;
+    std::vector<Written> m_written; ///< each day has one place, which it shares with others
 };
 
 /// Text to a date in the user's order, other orders where that one is impossible; nothing when it is no date.

@@ -13,8 +13,9 @@ QString Answered(const QString& function, const QString& given)
         return QStringList{ShortDate(date), ShortDateMask(), GetLocaleText(LocaleItem::ShortDate)}.join(' ');
     if (function == "DateToYmd")
         return DateToYmd(date) + ' ' + DateToIso(date);
+    static ShortDateWriter writer;
     if (function == "ShortDateWriter")
-        return QString::fromUtf8(ShortDateWriter()(given.toStdString()));
+        return QString::fromUtf8(writer(given.toStdString()));
     const std::optional<QDateTime> read = ReadDate(given);
     return read ? read->toString("yyyy-MM-dd'T'HH:mm:ss") : "none";
 }
