@@ -45,7 +45,7 @@ MainWindow::MainWindow()
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(tr("Tavrin Inventory"));
-    resize(FirstSize);
+    resize(GrownWithFont(FirstSize.width(), FirstSize.height()));
     RememberPlace(this);
 
     for (Panel* panel : m_panels)

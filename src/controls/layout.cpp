@@ -1,11 +1,14 @@
 #include "controls/layout.h"
 
+#include "base/guard.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QFontInfo>
 #include <QFrame>
 #include <QGroupBox>
 #include <QRegularExpression>
+#include <QScrollArea>
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +22,20 @@ template <typename... Handlers>
 Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
 constexpr int InstructionsWidth = 320;
+
+/// Scrolls a control that has just taken the focus into view, all of it where there is room.
+void FollowFocus(QScrollArea* area, const QWidget* before, QWidget* now)
+{
+    // A click goes where the user sees it, and a window that comes to the front again shows what it did.
+    if (!before || !now || !area->widget()->isAncestorOf(now) || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    constexpr int Gap = 10;
+    const QRect place(now->mapTo(area->widget(), QPoint()), now->size());
+    const QSize room = area->viewport()->size();
+    if (place.width() > room.width() || place.height() > room.height())
+        return area->ensureWidgetVisible(now);
+    area->ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + Gap, place.height() / 2 + Gap);
+}
 
 template <typename BoxLayout>
 BoxLayout* Filled(BoxLayout* box, std::initializer_list<LayoutItem> items)
@@ -197,6 +214,9 @@ QScrollArea* scrolling(QWidget* content)
     // What lies behind, such as the tint of a titled frame, shows through.
     area->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
+    // By itself Qt does so for the Tab key alone. The focus also moves by an access key, by F6 and with a scan.
+    On(qApp, &QApplication::focusChanged, area,
+        [area](const QWidget* before, QWidget* now) { FollowFocus(area, before, now); });
     return area;
 }
 

@@ -46,7 +46,8 @@ QGridLayout* fieldColumns(std::initializer_list<std::initializer_list<FieldLine>
 /// A titled frame around a layout.
 QWidget* group(const QString& title, QLayout* content);
 
-/// Scrolls `content` when there is less room than it needs. Takes no focus of its own.
+/// Scrolls `content` when there is less room than it needs, and to the control that takes the focus. Takes none of its
+/// own.
 QScrollArea* scrolling(QWidget* content);
 
 /// The instruction line of a form or panel: wraps, and takes the full width.

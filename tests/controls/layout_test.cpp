@@ -28,4 +28,19 @@ TEST(Layouts, TheControlsOfABlockShareTheirEdgesAndTakeTheWidth)
     EXPECT_EQ(qobject_cast<QGroupBox*>(box)->title(), "Address");
 }
 
+TEST(Layouts, WhatTakesTheFocusIsScrolledIntoView)
+{
+    auto* content = new QWidget;
+    content->setMinimumSize(900, 900);
+    auto* first = new TextBox(content);
+    auto* last = new TextBox(content);
+    last->setGeometry(700, 800, 150, 24);
+    const std::unique_ptr<QScrollArea> area(scrolling(content));
+    area->resize(300, 200);
+    Shown(area.get());
+    first->setFocus();
+    last->setFocus();
+    EXPECT_TRUE(area->viewport()->rect().contains(QRect(last->mapTo(area->viewport(), QPoint()), last->size())));
+}
+
 } // namespace
