@@ -17,6 +17,7 @@ constexpr ToldEnd ToldEnds[] = {
     {"Characters found after end of SQL statement", "txtBarcode", "an apostrophe in a bar code"},
     {"Syntax error in date in query expression .*invoice\\.SubmittedDate", "",
         "invoices are looked for from or to a day alone"},
+    {"Syntax error.* = \\$[0-9]", "", "a number with a sign of currency"},
     {"Numeric field overflow", "frmTaxRate", "the secondary tax is no number that the file can hold"},
     {"'6':  Overflow", "of frmMain", "a discount or a price is so large that no amount of a line holds it"},
     {"Type mismatch", "frmItemQuantity", "a line's new price is no number"},
