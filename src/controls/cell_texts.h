@@ -24,7 +24,7 @@ private:
         friend size_t qHash(const Place& place, size_t seed) { return qHashMulti(seed, place.text, place.width); }
     };
     /// More than a large screen shows at once.
-    static constexpr int Most = 1000;
+    static constexpr int Most = 500;
 
     QFont m_font;
     QCache<Place, QTextLayout> m_layouts{Most};
