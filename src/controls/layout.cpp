@@ -27,10 +27,11 @@ constexpr int InstructionsWidth = 320;
 void FollowFocus(QScrollArea* area, const QWidget* before, QWidget* now)
 {
     // A click goes where the user sees it, and a window that comes to the front again shows what it did.
-    if (!before || !now || !area->widget()->isAncestorOf(now) || QGuiApplication::mouseButtons() != Qt::NoButton)
+    const QWidget* content = area->widget();
+    if (!before || !now || !content || !content->isAncestorOf(now) || QGuiApplication::mouseButtons() != Qt::NoButton)
         return;
     constexpr int Gap = 10;
-    const QRect place(now->mapTo(area->widget(), QPoint()), now->size());
+    const QRect place(now->mapTo(content, QPoint()), now->size());
     const QSize room = area->viewport()->size();
     if (place.width() > room.width() || place.height() > room.height())
         return area->ensureWidgetVisible(now);
