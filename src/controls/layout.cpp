@@ -23,20 +23,35 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
 constexpr int InstructionsWidth = 320;
 
-/// Scrolls a control that has just taken the focus into view, all of it where there is room.
-void FollowFocus(QScrollArea* area, const QWidget* before, QWidget* now)
-{
-    // A click goes where the user sees it, and a window that comes to the front again shows what it did.
-    const QWidget* content = area->widget();
-    if (!before || !now || !content || !content->isAncestorOf(now) || QGuiApplication::mouseButtons() != Qt::NoButton)
-        return;
-    constexpr int Gap = 10;
-    const QRect place(now->mapTo(content, QPoint()), now->size());
-    const QSize room = area->viewport()->size();
-    if (place.width() > room.width() || place.height() > room.height())
-        return area->ensureWidgetVisible(now);
-    area->ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + Gap, place.height() / 2 + Gap);
-}
+/// Scrolls a control that takes the focus into view, all of it where there is room. By itself Qt does so for the Tab
+/// key alone. The focus also moves by an access key, by F6 and with a scan.
+class FocusFollowingArea : public QScrollArea {
+public:
+    FocusFollowingArea()
+    {
+        On(qApp, &QApplication::focusChanged, &following_,
+            [this](const QWidget* before, QWidget* now) { Follow(before, now); });
+    }
+
+private:
+    void Follow(const QWidget* before, QWidget* now)
+    {
+        // A click goes where the user sees it, and a window that comes to the front again shows what it did.
+        const QWidget* content = widget();
+        if (!before || !now || !content || !content->isAncestorOf(now)
+            || QGuiApplication::mouseButtons() != Qt::NoButton)
+            return;
+        constexpr int Gap = 10;
+        const QRect place(now->mapTo(content, QPoint()), now->size());
+        const QSize room = viewport()->size();
+        if (place.width() > room.width() || place.height() > room.height())
+            return ensureWidgetVisible(now);
+        ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + Gap, place.height() / 2 + Gap);
+    }
+
+    /// The focus also moves while a window goes, when the area is half destroyed. This goes first.
+    QObject following_;
+};
 
 template <typename BoxLayout>
 BoxLayout* Filled(BoxLayout* box, std::initializer_list<LayoutItem> items)
@@ -207,7 +222,7 @@ QWidget* group(const QString& title, QLayout* content)
 
 QScrollArea* scrolling(QWidget* content)
 {
-    auto* area = new QScrollArea;
+    auto* area = new FocusFollowingArea;
     area->setWidget(content);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -215,9 +230,6 @@ QScrollArea* scrolling(QWidget* content)
     // What lies behind, such as the tint of a titled frame, shows through.
     area->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
-    // By itself Qt does so for the Tab key alone. The focus also moves by an access key, by F6 and with a scan.
-    On(qApp, &QApplication::focusChanged, area,
-        [area](const QWidget* before, QWidget* now) { FollowFocus(area, before, now); });
     return area;
 }
 
