@@ -43,7 +43,7 @@ struct AddRow::State {
             if (known == name)
                 return column;
         }
-        const ColumnDefinition* column = FindColumn(table, QString::fromUtf8(name));
+        const ColumnDefinition* column = FindColumn(table, QLatin1String(name));
         if (column == nullptr)
             throw UnknownFieldError();
         columns.emplace_back(name, column);
@@ -70,16 +70,19 @@ struct AddRow::State {
 
     std::string InsertStatement() const
     {
+        std::string sql = "INSERT INTO [";
+        sql.append(table.name.toStdString()).append("] ");
         if (fields.empty())
-            return "INSERT INTO [" + table.name.toStdString() + "] DEFAULT VALUES";
-        std::string names;
-        std::string values;
+            return sql.append("DEFAULT VALUES");
+        const char* parting = "([";
         for (const Field& field : fields) {
-            const std::string comma = names.empty() ? "" : ", ";
-            names += comma + "[" + field.column->name.toStdString() + "]";
-            values += comma + "?";
+            sql.append(parting).append(field.column->name.toStdString());
+            parting = "], [";
         }
-        return "INSERT INTO [" + table.name.toStdString() + "] (" + names + ") VALUES (" + values + ")";
+        sql.append("]) VALUES (?");
+        for (size_t i = 1; i < fields.size(); ++i)
+            sql.append(", ?");
+        return sql.append(")");
     }
 
     /// Rows mostly set the same fields as the row before, and then go through the same statement.

@@ -1,23 +1,24 @@
 #include "db/batch.h"
 
+#include "base/runtime_error.h"
 #include "db/connection.h"
 #include "db/connection_private.h"
-#include "db/engine_errors.h"
 
 #include <sqlite3.h>
 
 namespace {
 
 /// A failure such as a full disk may have ended the transaction already.
-void Commit(const ConnectionPrivate& connection)
+void Commit(ConnectionPrivate& connection)
 {
     if (connection.handle == nullptr || sqlite3_get_autocommit(connection.handle) != 0)
         return;
-    if (sqlite3_exec(connection.handle, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK)
-        return;
-    const RuntimeError error = EngineError(connection.handle);
-    sqlite3_exec(connection.handle, "ROLLBACK", nullptr, nullptr, nullptr);
-    throw error;
+    try {
+        connection.RunPlain("COMMIT");
+    } catch (...) {
+        sqlite3_exec(connection.handle, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
 }
 
 } // namespace

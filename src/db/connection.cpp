@@ -23,10 +23,13 @@ void ConnectionPrivate::RequireOpen() const
         throw ObjectClosedError();
 }
 
-void ConnectionPrivate::RunPlain(const char* sql) const
+void ConnectionPrivate::RunPlain(const char* sql)
 {
-    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw EngineError(handle);
+    // No statement of the dialect begins with a zero.
+    const std::string key = std::string(1, '\0').append(sql);
+    PreparedStatement& statement = *cache.Statement(handle, key, Translation{sql, {}, {}, {}});
+    statement.Step();
+    statement.Release();
 }
 
 std::shared_ptr<PreparedStatement> ConnectionPrivate::Prepare(const QString& statement)

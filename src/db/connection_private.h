@@ -18,8 +18,8 @@ public:
 
     /// Throws RuntimeError when the connection is closed or the program has ended.
     void RequireOpen() const;
-    /// Runs one of the engine's own statements. Throws RuntimeError when it fails.
-    void RunPlain(const char* sql) const;
+    /// Runs one of the engine's own statements, which gives no rows. Throws RuntimeError when it fails.
+    void RunPlain(const char* sql);
     /// Prepares a statement of the dialect and leaves its literals in `shape`.
     std::shared_ptr<PreparedStatement> Prepare(const QString& statement);
     /// Whether each row that the UPDATE in `shape` would write holds all of its values already.

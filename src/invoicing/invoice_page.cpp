@@ -128,9 +128,8 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
     m_file.Remember(*gConnection);
     m_linesOf = OpenInvoice::gCurrentInvoiceId;
     m_lines.clear();
-    TaxRateColumn taxRates;
     gNewInvoice->LoadRows(OpenInvoice::LinesStatement(), selectRow, selectId,
-        [&](const Recordset& line, GridFill& fill) { m_lines.push_back(AddCells(line, taxRates, fill)); });
+        [&](const Recordset& line, GridFill& fill) { m_lines.push_back(AddCells(line, m_taxRates, fill)); });
     ShowFigures();
     ShowWhetherItExists();
 }
@@ -138,10 +137,9 @@ void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)
 bool InvoicePage::ShowLine(qint64 lineId)
 {
     const int row = gNewInvoice->RowOf(lineId);
-    TaxRateColumn taxRates;
     const bool isShown =
         gNewInvoice->LoadRow(OpenInvoice::LineStatement(lineId), [&](const Recordset& line, GridFill& fill) {
-            const ShownLine shown = AddCells(line, taxRates, fill);
+            const ShownLine shown = AddCells(line, m_taxRates, fill);
             if (row > 0)
                 m_lines[size_t(row) - 1] = shown;
             else

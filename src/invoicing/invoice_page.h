@@ -162,6 +162,7 @@ private:
     QWidget* m_gone = nullptr; ///< says that the invoice was deleted
     QString m_lastCode; ///< of the scans on this invoice
     std::vector<ShownLine> m_lines; ///< one a row
+    TaxRateColumn m_taxRates;
     qint32 m_linesOf = -1; ///< the invoice
     FileChanges m_file; ///< since they were read
 };

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/regional.h"
+#include "base/regional_formats.h"
 #include "config/secondary_tax.h"
 
 Currency LineTotal(qint64 quantity, Currency amount, double taxPercentage)
@@ -19,7 +20,9 @@ QString TaxRateText(const QString& name, double percentage)
 
 std::string_view TaxRateColumn::Text(std::string_view name, double percentage)
 {
-    if (m_text.empty() || name != m_name || percentage != m_percentage) {
+    const int formats = Formats().generation;
+    if (formats != m_formats || name != m_name || percentage != m_percentage) {
+        m_formats = formats;
         m_name = name;
         m_percentage = percentage;
         m_text = TaxRateText(QString::fromUtf8(m_name.data(), qsizetype(m_name.size())), percentage).toStdString();

@@ -24,6 +24,7 @@ private:
     std::string m_name;
     double m_percentage = 0;
     std::string m_text;
+    int m_formats = -1; ///< their generation, which the text is written in
 };
 
 /// What a line adds to the figures of its invoice.

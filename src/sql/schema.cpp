@@ -217,6 +217,12 @@ QList<IndexDefinition> MakeIndexes()
     };
 }
 
+/// The names in use are ASCII: one of another length is no such name, and is not compared letter by letter.
+bool IsSame(const QString& known, QAnyStringView name)
+{
+    return known.size() == name.size() && QAnyStringView::compare(name, known, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 const QList<TableDefinition>& SchemaTables()
@@ -243,19 +249,19 @@ bool IsIndexed(const TableDefinition& table, const ColumnDefinition& column)
     });
 }
 
-const TableDefinition* FindTable(QStringView name)
+const TableDefinition* FindTable(QAnyStringView name)
 {
     for (const TableDefinition& table : SchemaTables()) {
-        if (name.compare(table.name, Qt::CaseInsensitive) == 0)
+        if (IsSame(table.name, name))
             return &table;
     }
     return nullptr;
 }
 
-const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name)
+const ColumnDefinition* FindColumn(const TableDefinition& table, QAnyStringView name)
 {
     for (const ColumnDefinition& column : table.columns) {
-        if (name.compare(column.name, Qt::CaseInsensitive) == 0)
+        if (IsSame(column.name, name))
             return &column;
     }
     return nullptr;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QAnyStringView>
 #include <QList>
 #include <QString>
-#include <QStringView>
 
 /// The tables of the file: kinds, lengths, defaults and indexes. The dialect reads column kinds from here to give
 /// literals their type; tools/make-database makes the file from here. The program itself never creates a table.
@@ -37,8 +37,8 @@ const QList<IndexDefinition>& SchemaIndexes();
 /// Whether an index finds the rows with a value of the column.
 bool IsIndexed(const TableDefinition& table, const ColumnDefinition& column);
 /// Without regard to case; null when there is none.
-const TableDefinition* FindTable(QStringView name);
-const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name);
+const TableDefinition* FindTable(QAnyStringView name);
+const ColumnDefinition* FindColumn(const TableDefinition& table, QAnyStringView name);
 
 /// The DDL of the whole file, one statement an entry, in order: tables, then indexes.
 QStringList SchemaStatements();
