@@ -3,6 +3,7 @@
 #include "base/runtime_error.h"
 #include "controls/flex_grid_model.h"
 #include "controls/flex_grid_paint.h"
+#include "controls/kept_pictures.h"
 #include "controls/layout.h"
 
 #include <QGuiApplication>
@@ -35,6 +36,7 @@ FlexGrid::FlexGrid(QWidget* parent)
     setAlternatingRowColors(true);
     // The lines have their room, and are drawn by PaintLines.
     setGridStyle(Qt::NoPen);
+    verticalScrollBar()->setStyle(StyleWithKeptPictures());
     SetUpHeader();
     MeasureRows();
 

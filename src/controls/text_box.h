@@ -21,6 +21,7 @@ public:
     void ShowWhole(const QString& text);
 
 protected:
+    bool event(QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 };
 
