@@ -24,7 +24,7 @@ Currency NetOfDiscount(Currency unitPrice, double discountPercent)
 }
 
 /// The line copies what it needs of the item: later changes of the item or its tax rate leave old invoices alone.
-void AddLine(const Recordset& item, qint32 quantity, Currency amount)
+qint64 AddLine(const Recordset& item, qint32 quantity, Currency amount)
 {
     AddRow line(*gConnection, "InvoiceLine");
     line.AddNew();
@@ -38,19 +38,22 @@ void AddLine(const Recordset& item, qint32 quantity, Currency amount)
     line.Set("TaxRateName", item["tname"]);
     line.Set("TaxRatePercentage", item["percentage"]);
     line.Update();
+    return line.Id();
 }
 
-void AddNewLine(qint32 itemId, qint32 quantity, Currency amount)
+/// Returns the line, 0 when the item or its tax rate is gone.
+qint64 AddNewLine(qint32 itemId, qint32 quantity, Currency amount)
 {
     Recordset item = gConnection->Execute(
         Sql("SELECT item.id, [number], item.name, taxrate.percentage, taxrate.name AS tname, description "
             "FROM item, taxrate WHERE item.taxrateid = taxrate.id AND item.id = {itemId}")
             .Number("itemId", itemId));
     if (item.Eof())
-        return;
-    AddLine(item, quantity, amount);
+        return 0;
+    const qint64 line = AddLine(item, quantity, amount);
     item.Close();
     TakeFromStock(itemId, quantity);
+    return line;
 }
 
 void MergeIntoLine(qint64 lineId, qint64 oldQuantity, qint32 itemId, qint32 quantity)
@@ -78,19 +81,18 @@ qint64 LineOfItem(qint32 itemId)
     return line.Eof() ? 0 : line.Long(0);
 }
 
-bool AddNewOrderItemToDB(qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
+std::optional<qint64> AddNewOrderItemToDB(
+    qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice)
 {
     if (IsShortOfStock(itemId, quantity))
-        return false;
+        return std::nullopt;
 
     Recordset line = LinesOfItem(itemId);
-    if (line.Eof()) {
-        AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));
-        return true;
-    }
+    if (line.Eof())
+        return AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));
     const qint64 lineId = line.Long(0);
     const qint64 oldQuantity = line.Long(1);
     line.Close();
     MergeIntoLine(lineId, oldQuantity, itemId, quantity);
-    return true;
+    return lineId;
 }

@@ -40,10 +40,10 @@ std::optional<qint64> InvoicePage::AddLine(
 {
     FileChanges file = m_file;
     const bool isFilled = m_linesOf == OpenInvoice::gCurrentInvoiceId && !file.Changed(*gConnection);
-    if (!AddNewOrderItemToDB(itemId, quantity, discountPercent, isWarranty, unitPrice))
+    const std::optional<qint64> line = AddNewOrderItemToDB(itemId, quantity, discountPercent, isWarranty, unitPrice);
+    if (!line)
         return std::nullopt;
-    const qint64 line = LineOfItem(itemId);
-    if (!isFilled || !ShowLine(line))
+    if (!isFilled || !ShowLine(*line))
         RefreshNewInvoiceItemsList(1, 0);
     m_file.Remember(*gConnection);
     return line;
@@ -88,7 +88,7 @@ bool InvoicePage::AddChosenGroupItems()
 {
     bool allAdded = true;
     for (const GroupItem& item : frmAddGroupItems::GroupItems)
-        allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price);
+        allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price).has_value();
     RefreshNewInvoiceItemsList(1, 0);
     return allAdded;
 }
