@@ -79,7 +79,7 @@ private:
     }
 
     /// Everything but the scan itself is the same for the program and for the floor, for how long a commit takes
-    /// depends on what the processor and the disk did just before: in a loop of its own the floor takes a third less.
+    /// depends on what the processor and the disk did just before: in a loop of its own the floor takes a fifth less.
     void ScanAnInvoice(const std::function<void(InvoicePage& page, qint64 item)>& scanOnce)
     {
         OpenInvoice::gCurrentInvoiceId = qint32(AddInvoice(m_program.Handle(), m_linesAtStart));

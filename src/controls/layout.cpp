@@ -29,7 +29,7 @@ class FocusFollowingArea : public QScrollArea {
 public:
     FocusFollowingArea()
     {
-        On(qApp, &QApplication::focusChanged, &following_,
+        On(qApp, &QApplication::focusChanged, &m_following,
             [this](const QWidget* before, QWidget* now) { Follow(before, now); });
     }
 
@@ -50,7 +50,7 @@ private:
     }
 
     /// The focus also moves while a window goes, when the area is half destroyed. This goes first.
-    QObject following_;
+    QObject m_following;
 };
 
 template <typename BoxLayout>
