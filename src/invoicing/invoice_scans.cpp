@@ -35,8 +35,6 @@ void InvoicePage::AddBarCodeItem()
     }
 
     m_lastCode = code;
-    // Not cleared, which could be undone: a day's scans would never be forgotten.
-    txtBarcode->setText(QString());
     emit Scanned();
     const std::optional<qint64> line = InBatch(*gConnection, [&] {
         const Currency price = ListPrice(scanned->itemId, cboPriceList->SelectedData());
@@ -44,6 +42,8 @@ void InvoicePage::AddBarCodeItem()
             scanned->itemId, scanned->quantity, Val(txtDiscount->text()), chkWarrantyInvoice->isChecked(), price);
     });
 
+    // Not cleared, which could be undone: a day's scans would never be forgotten.
+    txtBarcode->setText(QString());
     txtBarcode->setFocus();
     ShowScanned(code, line ? *line : LineOfItem(scanned->itemId), line.has_value());
 }
