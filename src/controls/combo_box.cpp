@@ -1,9 +1,9 @@
 #include "controls/combo_box.h"
 
 #include "base/runtime_error.h"
+#include "controls/shared_style.h"
 
 #include <QAbstractListModel>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QListView>
 #include <QProxyStyle>
@@ -29,16 +29,6 @@ public:
         return QProxyStyle::styleHint(hint, option, widget, result);
     }
 };
-
-QStyle* SharedListStyle()
-{
-    static QPointer<ListStyle> style;
-    if (!style) {
-        style = new ListStyle;
-        style->setParent(qApp);
-    }
-    return style;
-}
 } // namespace
 
 /// The entries, with a search over plain texts: Qt's own search wraps each of them and takes seconds in a long list.
@@ -96,7 +86,7 @@ ComboBox::ComboBox(QWidget* parent)
     : QComboBox(parent)
     , m_entries(new Entries(this))
 {
-    setStyle(SharedListStyle());
+    setStyle(SharedStyle<ListStyle>());
     setModel(m_entries);
     auto* list = new QListView(this);
     list->setUniformItemSizes(true);

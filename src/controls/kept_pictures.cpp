@@ -1,10 +1,10 @@
 #include "controls/kept_pictures.h"
 
-#include <QApplication>
+#include "controls/shared_style.h"
+
 #include <QCache>
 #include <QPainter>
 #include <QPixmap>
-#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -115,10 +115,5 @@ private:
 
 QStyle* StyleWithKeptPictures()
 {
-    static QPointer<KeptPictures> style;
-    if (!style) {
-        style = new KeptPictures;
-        style->setParent(qApp);
-    }
-    return style;
+    return SharedStyle<KeptPictures>();
 }
