@@ -37,6 +37,8 @@ FlexGrid::FlexGrid(QWidget* parent)
     // The lines have their room, and are drawn by PaintLines.
     setGridStyle(Qt::NoPen);
     verticalScrollBar()->setStyle(StyleWithKeptPictures());
+    // With a background of its own it is painted without all that lies below it.
+    verticalScrollBar()->setAutoFillBackground(true);
     SetUpHeader();
     MeasureRows();
 
@@ -311,7 +313,9 @@ void FlexGrid::ShowTinted(int row)
 
 void FlexGrid::SetTinted(int row)
 {
-    UpdateRow(TintedRow());
+    // What was found last shows first; the row before it loses its tint a moment later.
+    constexpr int MomentMs = 40;
+    QTimer::singleShot(MomentMs, this, [this, before = TintedRow()] { UpdateRow(before); });
     m_model->SetTinted(row - 1);
     UpdateRow(row);
 }

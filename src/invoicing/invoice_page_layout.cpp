@@ -47,6 +47,8 @@ InvoicePage::InvoicePage(QWidget* parent)
 {
     SetCaptions();
     FillBar(picBarcode, row({CaptionOver(tr("Bar Code:"), txtBarcode), txtBarcode, cmdAddBarCodeItem}));
+    // Each scan paints the box. With a background of its own the bar is painted without all that lies below it.
+    picBarcode->setAutoFillBackground(true);
     FillBar(picNewInvoiceBotBit, PaymentAndTotals());
     FillBar(picNewInvoiceBotButts, EndButtons());
     m_gone = Warning(
