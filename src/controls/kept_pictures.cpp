@@ -103,7 +103,7 @@ private:
         painter.translate(-place);
         draw(&painter);
         painter.end();
-        m_pictures.insert(picture, new QPixmap(pixmap), pixmap.width() * pixmap.height());
+        m_pictures.insert(picture, new QPixmap(pixmap), qsizetype(pixmap.width()) * pixmap.height());
         return pixmap;
     }
 
