@@ -44,7 +44,7 @@ void ItemGroups::EditGroup()
 {
     // Only -1 is no group: on an empty list the form opens for group 0.
     const qint64 groupId = gItemGroups->CurrentRowData();
-    if (groupId == -1) {
+    if (groupId == -1 || gItemGroups->HidesAllRows()) {
         MsgBox(tr("No item group has been selected. Select an item group from the list and try again."),
             Icon::Information);
         return;
@@ -57,8 +57,10 @@ void ItemGroups::EditGroup()
 void ItemGroups::NewGroup()
 {
     frmItemGroup::gEditItemGroupId = NewRow;
-    frmItemGroup(window()).ShowModal();
-    RefreshItemGroupList(1, 0);
+    gItemGroups->ShowAdded([this] {
+        frmItemGroup(window()).ShowModal();
+        RefreshItemGroupList(1, 0);
+    });
 }
 
 void ItemGroups::DeleteGroup()

@@ -81,9 +81,10 @@ void frmResCustSearch::ListMatches()
 
 void frmResCustSearch::SelectCustomer()
 {
-    // An empty list has nothing to pick: its title row is no customer.
-    if (!cmdSelect->isEnabled())
+    // A list that is empty, or whose filter hides all rows, has nothing to pick: its title row is no customer.
+    const qint64 customerId = gcust->CurrentRowData();
+    if (customerId == 0)
         return;
-    SelectedCustomerID = qint16(ToInteger16(gcust->CurrentRowData()));
+    SelectedCustomerID = qint16(ToInteger16(customerId));
     accept();
 }

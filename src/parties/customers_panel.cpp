@@ -71,8 +71,10 @@ void CustomersPanel::RefreshCustomerList(int row, qint64 selectId)
 
 void CustomersPanel::AddCustomer()
 {
-    ::AddCustomer(window());
-    RefreshCustomerList(1, 0);
+    gcust->ShowAdded([this] {
+        ::AddCustomer(window());
+        RefreshCustomerList(1, 0);
+    });
 }
 
 void CustomersPanel::EditSelected()

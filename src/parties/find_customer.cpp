@@ -65,8 +65,10 @@ frmFindCustomer::frmFindCustomer(QWidget* parent)
 
     On(cmdOk, &QPushButton::clicked, this, &frmFindCustomer::StartSearch);
     On(cmdCreateCustomer, &QPushButton::clicked, this, [this] {
-        AddCustomer(this);
-        RefreshCustomerScreen(1, 0);
+        gcust->ShowAdded([this] {
+            AddCustomer(this);
+            RefreshCustomerScreen(1, 0);
+        });
     });
     On(cmdEditCustomer, &QPushButton::clicked, this, &frmFindCustomer::EditSelected);
     On(gcust, &RecordList::Opened, this, &frmFindCustomer::EditSelected);

@@ -46,14 +46,14 @@ void VendorsPanel::RefreshVendorList(int row, qint64 selectId)
 
 void VendorsPanel::AddVendor()
 {
-    ShowVendorRecord(NewRow);
+    gVendors->ShowAdded([this] { ShowVendorRecord(NewRow); });
 }
 
 void VendorsPanel::EditSelected()
 {
     // Only -1 is no vendor: on an empty list the record opens for vendor 0.
     const qint64 vendorId = gVendors->CurrentRowData();
-    if (vendorId == NewRow)
+    if (vendorId == NewRow || gVendors->HidesAllRows())
         MsgBox(tr("No vendor has been selected. Select a vendor from the list and try again."), Icon::Information);
     else
         ShowVendorRecord(qint32(vendorId));

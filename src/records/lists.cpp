@@ -15,3 +15,16 @@ void FillPriceLists(ComboBox* combo)
     combo->Clear();
     FillCombo(combo, Sql("SELECT id, name FROM PriceList ORDER BY name"));
 }
+
+void SelectPriceList(ComboBox* combo, qint64 id)
+{
+    constexpr qint64 DefaultList = 1;
+    for (const qint64 wanted : {id, DefaultList}) {
+        SelectComboByData(combo, wanted);
+        if (combo->ListIndex() >= 0 && combo->SelectedData() == wanted)
+            return;
+    }
+    // The program never deletes the default list, but another one may have.
+    if (combo->ListIndex() < 0 && combo->ListCount() > 0)
+        combo->SetListIndex(0);
+}

@@ -7,3 +7,5 @@
 void FillCombo(ComboBox* combo, const Sql& sql);
 /// Empties `combo` and fills it with the price lists by name.
 void FillPriceLists(ComboBox* combo);
+/// Selects the price list `id` among those that FillPriceLists filled in; where it was deleted the default list.
+void SelectPriceList(ComboBox* combo, qint64 id);

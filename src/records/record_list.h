@@ -63,6 +63,12 @@ public:
     void LetDownEnter(std::initializer_list<QWidget*> boxes);
     /// Opens the line under the list that filters it.
     void OpenFilter();
+    /// Closes it, so that all rows show.
+    void CloseFilter();
+    /// Runs `add`, which may add a record and then loads the list: a filter that could hide that record closes.
+    void ShowAdded(const std::function<void()>& add);
+    /// There are rows, but none that the filter shows: then none is current.
+    bool HidesAllRows() const { return Rows() > 1 && ShownRows() == 0; }
 
     /// Column widths between runs, under the list's own name. Only stored widths above 0 are restored.
     void SaveWidths() const;

@@ -32,6 +32,20 @@ void RecordList::OpenFilter()
     m_filterLine->Open();
 }
 
+void RecordList::CloseFilter()
+{
+    if (m_filterLine)
+        m_filterLine->Close();
+}
+
+void RecordList::ShowAdded(const std::function<void()>& add)
+{
+    const int rows = Rows();
+    add();
+    if (Rows() > rows)
+        CloseFilter();
+}
+
 void RecordList::keyPressEvent(QKeyEvent* event)
 {
     if (event->text() == QLatin1String("/")) {

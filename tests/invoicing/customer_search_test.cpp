@@ -43,6 +43,9 @@ TEST_F(CustomerSearch, NoMatchIsSaidAndNothingCanBeSelected)
     Press(form.txtFirstname, Qt::Key_Return);
     EXPECT_EQ(GridRows(form.gcust).size(), 1) << "two empty boxes list everybody";
     EXPECT_TRUE(form.cmdSelect->isEnabled());
+    form.gcust->SetFilter("zzz");
+    Press(form.gcust, Qt::Key_Return);
+    EXPECT_TRUE(form.isVisible()) << "the filter hides everybody";
 }
 
 TEST_F(CustomerSearch, ClosedWithoutAChoiceChangesNothingAndAnIdBeyondSixteenBitsEndsTheProgram)

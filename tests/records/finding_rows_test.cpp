@@ -121,7 +121,11 @@ TEST_F(FindingRows, AFilterStandsUntilEscAndKeepsTheRulesOfSelection)
 
 TEST_F(FindingRows, RowsThatCodeAddsOrChangesOneByOneLiftTheFilter)
 {
-    const std::function<void()> changes[] = {
+    const auto add = [this] {
+        Run("INSERT INTO vendor (BusinessName) VALUES ('Zinc')");
+        Load(1, 0);
+    };
+    const std::function<void()> changes[] = {[this, add] { list->ShowAdded(add); },
         [this] { list->SetRows(list->Rows() + 1); }, [this] { list->SetTextMatrix(1, 0, "Anker"); }};
     for (const auto& change : changes) {
         TypeKeys("/bolt");
