@@ -10,6 +10,7 @@
 #include "inventory/multiple_pricing.h"
 #include "invoicing/find_invoice.h"
 #include "invoicing/open_invoice.h"
+#include "parties/find_customer.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -185,6 +186,13 @@ void MainWindow::ViewCustomers()
     picCustomers->RefreshCustomerList(1, 0);
 }
 
+void MainWindow::FindCustomer()
+{
+    picNewInvoice->SaveWhatIsBeingTyped();
+    frmFindCustomer(this).ShowModal();
+    picNewInvoice->ShowCustomerAnew();
+}
+
 void MainWindow::ViewVendors()
 {
     ShowMainPanel(VendorsListPanel);
@@ -201,6 +209,7 @@ void MainWindow::ConfigurePriceLists()
 {
     frmMultiplePricing(this).ShowModal();
     picInventory->RefillInvoicePriceLists();
+    picNewInvoice->RefillPriceLists();
 }
 
 void MainWindow::ConfigureTaxRates()

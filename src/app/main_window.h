@@ -51,6 +51,7 @@ public:
     void ViewItemGroups();
     void AddItem();
     void ViewCustomers();
+    void FindCustomer();
     void ViewVendors();
     /// The statistics and graphs, taken anew.
     void ViewReports();

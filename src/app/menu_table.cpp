@@ -15,7 +15,6 @@
 #include "inventory/receive_stock.h"
 #include "invoicing/config_invoice.h"
 #include "invoicing/set_next_invoice_no.h"
-#include "parties/find_customer.h"
 #include "reports/stock_reports.h"
 #include "web/web_orders_page.h"
 #include "web/web_orders_wizard.h"
@@ -139,7 +138,7 @@ const QList<MenuRow>& MainMenu::Table()
         Entry("mnuCustomersView", QT_TR_NOOP("&View Customers"), [](Window& window) { window.ViewCustomers(); }),
         Entry("mnuCustomerAdd", QT_TR_NOOP("&Add Customer..."),
             [](Window& window) { window.picCustomers->AddCustomer(); }),
-        Entry("mnuCustomerFind", QT_TR_NOOP("&Find Customer..."), ShowForm<frmFindCustomer>),
+        Entry("mnuCustomerFind", QT_TR_NOOP("&Find Customer..."), [](Window& window) { window.FindCustomer(); }),
         Separator(),
         Entry("mnuCustMailingList", QT_TR_NOOP("Email Mailing List &Wizard..."),
             [](Window& window) { RunMailingListWizard(&window); }),

@@ -52,7 +52,7 @@ frmAddOrderItem::frmAddOrderItem(qint64 priceListId, QWidget* parent)
     SelectedItemQuantity = 1;
     FillCategories();
     FillPriceLists(cboPriceList);
-    SelectComboByData(cboPriceList, priceListId);
+    SelectPriceList(cboPriceList, priceListId);
     DoSearch();
 }
 
@@ -137,7 +137,8 @@ void frmAddOrderItem::DoSearch()
 
     const Sql items = ItemSearchStatement({txtItemName->text(), txtItemDescription->text(), txtItemNumber->text(),
         cboSubCategory->SelectedData(), cboCategory->SelectedData()});
-    gItems->Load(items, 1, 0);
+    // The prices are those of the list that is chosen now.
+    gItems->LoadSome(items, 1, 0, nullptr, QString::number(cboPriceList->SelectedData()));
 
     lblItemMatches->setText(tr("%1 Item Matches:").arg(gItems->Rows() - 1));
     ShowPriceOfCurrentItem();
@@ -156,12 +157,14 @@ QString frmAddOrderItem::PriceText(qint64 itemId) const
 
 void frmAddOrderItem::TakeItem()
 {
+    const qint64 itemId = gItems->CurrentRowData();
+    if (itemId == 0 && gItems->HidesAllRows())
+        return;
     const QString quantity = txtQuantityToAdd->text();
     SelectedItemQuantity = IsNumeric(quantity) ? CLng(quantity) : 1;
     if (!IsNumeric(txtItemPrice->text()))
         txtItemPrice->setText(QStringLiteral("0"));
 
-    const qint64 itemId = gItems->CurrentRowData();
     if (!IsInStock(itemId, SelectedItemQuantity)) {
         ScanMsgBox(
             tr("This item does not have enough items in stock. To add this item first increase the total number in "

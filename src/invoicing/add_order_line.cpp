@@ -91,7 +91,7 @@ std::optional<qint64> AddNewOrderItemToDB(
     if (line.Eof())
         return AddNewLine(itemId, quantity, isWarranty ? Currency() : NetOfDiscount(unitPrice, discountPercent));
     const qint64 lineId = line.Long(0);
-    const qint64 oldQuantity = line.Long(1);
+    const qint64 oldQuantity = line.IsNull(1) ? 0 : line.Long(1);
     line.Close();
     MergeIntoLine(lineId, oldQuantity, itemId, quantity);
     return lineId;

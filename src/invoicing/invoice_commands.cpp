@@ -43,8 +43,10 @@ std::optional<qint64> InvoicePage::AddLine(
     const std::optional<qint64> line = AddNewOrderItemToDB(itemId, quantity, discountPercent, isWarranty, unitPrice);
     if (!line)
         return std::nullopt;
-    if (!isFilled || !ShowLine(*line))
+    if (!isFilled || !ShowLine(*line)) {
         RefreshNewInvoiceItemsList(1, 0);
+        gNewInvoice->Reveal(gNewInvoice->RowOf(*line));
+    }
     m_file.Remember(*gConnection);
     return line;
 }
@@ -89,13 +91,16 @@ bool InvoicePage::AddChosenGroupItems()
     bool allAdded = true;
     for (const GroupItem& item : frmAddGroupItems::GroupItems)
         allAdded &= AddNewOrderItemToDB(item.id, item.quantity, 0, false, item.price).has_value();
+    gNewInvoice->CloseFilter();
     RefreshNewInvoiceItemsList(1, 0);
     return allAdded;
 }
 
 qint32 InvoicePage::QuantityInRow(int row) const
 {
-    return CLng(gNewInvoice->CellText(row, "quantity"));
+    // The cell is empty where another program left the quantity out.
+    const QString quantity = gNewInvoice->CellText(row, "quantity");
+    return quantity.isEmpty() ? 0 : CLng(quantity);
 }
 
 void InvoicePage::EditOrderItem()

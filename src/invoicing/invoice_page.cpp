@@ -13,9 +13,11 @@ namespace {
 ShownLine AddCells(const Recordset& line, TaxRateColumn& taxRates, GridFill& fill)
 {
     enum { Id, Quantity, Number, Name, Amount, TaxRateName, TaxRatePercentage };
-    const Currency amount = line.Money(Amount);
-    const double taxPercentage = line[TaxRatePercentage].ToDouble();
-    const ShownLine shown{line.Long(Quantity), LineTotal(line.Long(Quantity), amount, taxPercentage)};
+    // What another program left out counts as 0.
+    const qint64 quantity = line.IsNull(Quantity) ? 0 : line.Long(Quantity);
+    const Currency amount = line.IsNull(Amount) ? Currency() : line.Money(Amount);
+    const double taxPercentage = line.IsNull(TaxRatePercentage) ? 0 : line[TaxRatePercentage].ToDouble();
+    const ShownLine shown{quantity, LineTotal(quantity, amount, taxPercentage)};
     fill.Add(line.Text(Quantity));
     fill.Add(line.Text(Number));
     fill.Add(line.Text(Name));
@@ -30,10 +32,15 @@ ShownLine AddCells(const Recordset& line, TaxRateColumn& taxRates, GridFill& fil
 void InvoicePage::ShowInvoicePage()
 {
     m_lastCode.clear();
+    gNewInvoice->CloseFilter();
+    const qint64 priceList = cboPriceList->ListIndex() >= 0 ? cboPriceList->SelectedData() : 0;
     FillPriceListChoice();
     if (OpenInvoice::IsOpen()) {
         SetTitle(tr("Edit Invoice"));
         EditInvoice();
+        // The page stays as it was where the invoice is gone, and so does the list that its customer is saved with.
+        if (!OpenInvoice::Exists())
+            SelectPriceList(cboPriceList, priceList);
     } else {
         SetTitle(tr("New Invoice"));
         CreateNewInvoice();
@@ -54,6 +61,15 @@ void InvoicePage::FillPriceListChoice()
 {
     FillPriceLists(cboPriceList);
     cboPriceList->SetListIndex(0);
+}
+
+void InvoicePage::RefillPriceLists()
+{
+    if (!OpenInvoice::IsOpen())
+        return;
+    const qint64 chosen = cboPriceList->SelectedData();
+    FillPriceLists(cboPriceList);
+    SelectPriceList(cboPriceList, chosen);
 }
 
 void InvoicePage::PriceListChosen()
@@ -120,7 +136,13 @@ void InvoicePage::LoadCustomerDetailsIntoInvoice(qint32 customerId)
     ShowTexts(customer.texts, CustomerBoxes());
     txtDiscount->setText(customer.discount);
     txtDiscount->home(false);
-    SelectComboByData(cboPriceList, customer.priceListId);
+    SelectPriceList(cboPriceList, customer.priceListId);
+}
+
+void InvoicePage::ShowCustomerAnew()
+{
+    if (isVisible() && OpenInvoice::gCurrentCustomerId != -1)
+        LoadCustomerDetailsIntoInvoice(OpenInvoice::gCurrentCustomerId);
 }
 
 void InvoicePage::RefreshNewInvoiceItemsList(int selectRow, qint64 selectId)

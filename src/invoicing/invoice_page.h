@@ -31,6 +31,9 @@ public:
     void FillPaymentMethods();
     /// Opens gCurrentInvoiceId, or a new invoice when that is -1. To be called when the panel shows.
     void ShowInvoicePage();
+    /// Offers the price lists of now, with the same one selected, or the default one where that is gone. To be called
+    /// when the lists have changed.
+    void RefillPriceLists();
     /// Captions or hides the secondary tax as it is set up now.
     void ShowSecondaryTax();
 
@@ -46,6 +49,9 @@ public:
     /// Saves when the control with the focus was typed into and not left since. To be called before another invoice
     /// shows while the page is in view.
     void SaveWhatIsBeingTyped();
+    /// Shows what is stored of the customer, who may have been edited in another form: the next save would write back
+    /// what the page shows.
+    void ShowCustomerAnew();
     /// Refills the lines and the totals. The line `selectId` is selected, else row `selectRow` or the last one.
     void RefreshNewInvoiceItemsList(int selectRow, qint64 selectId);
 

@@ -1,5 +1,6 @@
 #include "invoicing/open_invoice.h"
 
+#include "base/clock.h"
 #include "base/dates.h"
 #include "base/numbers.h"
 #include "db/add_row.h"
@@ -81,7 +82,8 @@ InvoiceFields OpenInvoice::Load()
     invoice.notes = NullToText(row["notes"]);
     invoice.paymentMethod = NullToText(row["paymentmethod"]);
     invoice.invoiceNo = NullToText(row["invoiceno"]);
-    invoice.submitted = row["submitteddate"].ToDate().date();
+    const Value submitted = row["submitteddate"];
+    invoice.submitted = submitted.IsNull() ? Now().date() : submitted.ToDate().date();
     if (const Value shipped = row["shippeddate"]; !shipped.IsNull())
         invoice.shipped = shipped.ToDate().date();
     invoice.isPaid = IsTrue(row["paid"]);

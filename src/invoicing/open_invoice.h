@@ -52,7 +52,7 @@ public:
     /// Takes over the open invoice's customer: -1 when it was never saved. False, having changed nothing, when the
     /// invoice is gone.
     static bool FindCustomer();
-    /// The invoice as it was saved last; it must exist.
+    /// The invoice as it was saved last; it must exist. One without a date gets that of today.
     static InvoiceFields Load();
     /// No texts, no discount and the first price list for a customer who is gone.
     static InvoiceCustomer LoadCustomer(qint32 customerId);

@@ -19,7 +19,7 @@ std::optional<qint64> ItemOfLine(qint64 lineId)
 {
     const Recordset line =
         gConnection->Execute(Sql("SELECT itemid FROM invoiceline WHERE id = {lineId}").Number("lineId", lineId));
-    if (line.Eof())
+    if (line.Eof() || line.IsNull(0))
         return std::nullopt;
     return line.Long(0);
 }
@@ -58,6 +58,9 @@ void DeleteOrderLine(qint64 lineId, qint32 quantity)
 
 std::optional<ScannedItem> FindScannedItem(const QString& text)
 {
+    // An item without a bar code has an empty one.
+    if (text.isEmpty())
+        return std::nullopt;
     if (const std::optional<qint32> item = FindItemByBarCode(text))
         return ScannedItem{*item, 1};
     static const QRegularExpression several(QStringLiteral("^([0-9]{1,4})\\*(.+)$"));
@@ -75,5 +78,5 @@ Currency ListPrice(qint32 itemId, qint64 priceListId)
         gConnection->Execute(Sql("SELECT price FROM itempricelist WHERE itemid = {id} AND pricelistid = {priceListId}")
                                  .Number("id", itemId)
                                  .Number("priceListId", priceListId));
-    return CCur(FormatCurrency(price.Eof() ? Currency() : price.Money(0)));
+    return CCur(FormatCurrency(price.Eof() || price.IsNull(0) ? Currency() : price.Money(0)));
 }

@@ -24,8 +24,8 @@ struct ScannedItem {
     qint32 quantity = 0;
 };
 /// What a text from the bar code box names: an item by its code, or several of it by a number of at most four digits
-/// and a star before the code ("5*4006381333931"). A bar code that reads so itself comes first. As for
-/// FindItemByBarCode, a quote makes the statement fail.
+/// and a star before the code ("5*4006381333931"). A bar code that reads so itself comes first. "" names nothing. As
+/// for FindItemByBarCode, a quote makes the statement fail.
 std::optional<ScannedItem> FindScannedItem(const QString& text);
 
 /// The item's price in the list, rounded to the digits of currency text; 0 when the list has no price for it.

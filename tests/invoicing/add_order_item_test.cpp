@@ -63,6 +63,12 @@ TEST_F(AddOrderItem, OpensWithAllItemsAtThePricesOfTheInvoicesList)
     Press(form->gItems, Qt::Key_Down);
     EXPECT_EQ(form->txtItemPrice->text(), form->gItems->TextMatrix(2, 4)) << "the price follows the arrow keys";
     CheckForm(*form);
+
+    const auto other = Form(4711);
+    EXPECT_EQ(other->cboPriceList->SelectedData(), 1) << "the list was deleted";
+    Pick(other->cboPriceList, "Trade");
+    Click(other->cmdSearch);
+    EXPECT_EQ(GridRows(other->gItems), GridRows(form->gItems)) << "the same search at other prices";
 }
 
 TEST_F(AddOrderItem, SearchesByCategoryAndByEnterInAField)
@@ -142,6 +148,9 @@ TEST_F(AddOrderItem, CancelSelectsNothingAndAnEmptyListItemNought)
     EXPECT_EQ(frmAddOrderItem::SelectedItemID, -1);
 
     form = Form();
+    form->gItems->SetFilter("zzz");
+    Click(form->cmdOk);
+    EXPECT_TRUE(form->isVisible()) << "the filter hides all items";
     Type(form->txtItemName, "no such item");
     Click(form->cmdSearch);
     Click(form->cmdOk);

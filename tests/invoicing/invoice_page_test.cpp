@@ -61,12 +61,39 @@ TEST_F(Page, AnOldInvoiceComesBackAsItWasSaved)
     Pick(page->cboPriceList, "Alpha");
     EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Alpha");
     EXPECT_EQ(GridRows(page->gNewInvoice), lines) << "the list decides about lines to come";
+
+    Run("UPDATE pricelist SET name = 'Main' WHERE id = 1");
+    Run("DELETE FROM pricelist WHERE name = 'Alpha'");
+    page->RefillPriceLists();
+    EXPECT_EQ(Entries(page->cboPriceList), (QStringList{"Main", "Trade"}));
+    EXPECT_EQ(GridTitles(page->gNewInvoice).at(3), "Main") << "in place of the list that is gone";
+    Run("UPDATE pricelist SET id = 4711 WHERE name = 'Trade'");
+    Run("INSERT INTO pricelist (name) VALUES ('Alpha')");
+    Open(invoice);
+    EXPECT_EQ(page->cboPriceList->Text(), "Main");
+}
+
+TEST_F(Page, WhatAnotherProgramLeftOutCountsAsNothing)
+{
+    const int invoice = Invoice(Customer("Ada", "Byron").Add()).Add();
+    Line(invoice, Item("Screws").Add(), 3, "9.9");
+    Run("UPDATE invoice SET SubmittedDate = NULL, InvoiceNo = NULL, PaymentMethod = NULL");
+    Run("UPDATE invoiceline SET ItemID = NULL, quantity = NULL, number = NULL, name = NULL, amount = NULL, "
+        "taxratename = NULL, taxratepercentage = NULL");
+    Open(invoice);
+    EXPECT_EQ(page->lblInvoiceDate->Value()->date(), QDate(2026, 3, 14));
+    EXPECT_EQ(GridRows(page->gNewInvoice), QList<QStringList>({{"", "", "", "$0.00", " (0%)", "$0.00"}}));
+    ScriptedAnswers answers;
+    answers.Expect("Delete item from invoice?", Answer::Yes);
+    Click(page->cmdDeleteOrderItem);
+    EXPECT_EQ(Count("invoiceline"), 0);
 }
 
 TEST_F(Page, AnInvoiceThatIsGoneLeavesThePageAsItWasAndIsSaid)
 {
     Item("Screws").Barcode("1").Stock(9).Add();
-    const int ada = Customer("Ada", "Byron").Add();
+    PriceListRow("Alpha");
+    const int ada = Customer("Ada", "Byron").PriceList(PriceListRow("Trade")).Add();
     Open(Invoice(ada).Add());
     EXPECT_FALSE(SaysThatItIsGone());
     Run("DELETE FROM invoice");
@@ -76,7 +103,7 @@ TEST_F(Page, AnInvoiceThatIsGoneLeavesThePageAsItWasAndIsSaid)
     EXPECT_FALSE(SaysThatItIsGone());
     Run("DELETE FROM invoice");
     Open(OpenInvoice::gCurrentInvoiceId);
-    EXPECT_EQ(page->Title() + page->txtFirstname->text(), "Edit InvoiceAda");
+    EXPECT_EQ(page->Title() + page->txtFirstname->text() + page->cboPriceList->Text(), "Edit InvoiceAdaTrade");
     EXPECT_TRUE(SaysThatItIsGone());
 }
 
@@ -94,6 +121,9 @@ TEST_F(Page, OnlyWhatWasTypedAndNotLeftIsSavedBeforeAnotherInvoiceShows)
     Type(page->txtNotes, "Gift");
     page->SaveWhatIsBeingTyped();
     EXPECT_EQ(Single("SELECT Notes FROM invoice"), "Gift");
+    Run("UPDATE customer SET FirstName = 'Grace'");
+    page->ShowCustomerAnew();
+    EXPECT_EQ(page->txtFirstname->text(), "Grace") << "edited in another form meanwhile";
 }
 
 TEST_F(Page, AnAccessKeyLeavesTheControlThatHasTheFocusAndGoesBeforeTheMenus)

@@ -37,7 +37,10 @@ protected:
 
 TEST_F(LineCommands, AnItemFromTheDialogTakesDiscountAndWarrantyFromThePage)
 {
-    Open(invoice);
+    OpenWithLine(1, "1");
+    Run("DELETE FROM invoiceline");
+    Press(page->gNewInvoice, Qt::Key_Slash);
+    Type(Find<TextBox>(page, "txtFilter"), "zzz");
     ChangeNumberUnseen();
     WhenFormShows<frmAddOrderItem>([](frmAddOrderItem& form) {
         Type(form.txtItemNumber, "");
@@ -52,6 +55,9 @@ TEST_F(LineCommands, AnItemFromTheDialogTakesDiscountAndWarrantyFromThePage)
     EXPECT_EQ(Stock(screws), 7);
     EXPECT_EQ(page->lblTotal->text(), "$18.00");
     EXPECT_TRUE(WasSaved());
+    EXPECT_EQ(page->gNewInvoice->ShownRows(), 1) << "the filter does not hide what was added";
+    Open(invoice);
+    EXPECT_EQ(page->gNewInvoice->Filter(), "");
 }
 
 TEST_F(LineCommands, AGroupIsChargedInFullAndWhatIsShortOfStockIsSaid)
