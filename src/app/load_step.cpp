@@ -11,6 +11,7 @@
 #include "base/settings_store.h"
 #include "config/secondary_tax.h"
 #include "controls/hourglass.h"
+#include "controls/layout.h"
 #include "controls/message_box.h"
 #include "db/index_renewal.h"
 #include "invoicing/open_invoice.h"
@@ -42,7 +43,7 @@ void ReadTerms(MainWindow& window)
     GetConfig(QStringLiteral("SalesTaxName"), QStringLiteral("Sales Tax"));
     const QString postCode = GetConfig(QStringLiteral("PostCode"), MainWindow::tr("Post Code"));
     for (QLabel* label : window.findChildren<QLabel*>(QStringLiteral("lblPostCode")))
-        label->setText(postCode);
+        ShowAsItStands(label, postCode);
 }
 
 } // namespace

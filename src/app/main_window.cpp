@@ -69,7 +69,11 @@ MainWindow::MainWindow()
 
 void MainWindow::ConnectPanels()
 {
-    On(picBack, &PanelArea::Resized, this, [this] { RunResizeRules(); });
+    On(picBack, &PanelArea::Resized, this, [this] {
+        // The area also changes with the status line. That leaves the widths as the user has dragged them.
+        if (size() != m_stretchedFor)
+            RunResizeRules();
+    });
     On(picReports, &ReportsPanel::Expanded, this, [this] { RunResizeRules(); });
     On(picNewInvoice, &InvoicePage::Left, this, [this] { ListInvoices(); });
     auto* bar = new StatusBar(this);
@@ -118,6 +122,7 @@ MainGrids MainWindow::Grids() const
 
 void MainWindow::RunResizeRules()
 {
+    m_stretchedFor = size();
     Grids().Stretch();
 }
 

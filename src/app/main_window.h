@@ -85,4 +85,5 @@ private:
     void LetPanelsDragTheWindow();
 
     QList<Panel*> m_panels;
+    QSize m_stretchedFor; ///< the window's, when the columns took up its width last
 };

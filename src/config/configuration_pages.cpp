@@ -78,7 +78,7 @@ bool frmWizConfig_Business::StoreAnswers()
 void FileNameLabel::ShowFile(const QString& file)
 {
     setText(file);
-    setToolTip(file.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(file.toHtmlEscaped()));
+    SetPlainToolTip(this, file);
 }
 
 void FileNameLabel::paintEvent(QPaintEvent* /*event*/)

@@ -281,6 +281,20 @@ void SetLabelOf(QLabel* label, QWidget* control)
             part->setAccessibleName(name);
 }
 
+void ShowAsItStands(QLabel* label, const QString& text)
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setText(QString(text).replace(u'&', QStringLiteral("&&")));
+    if (QWidget* control = label->buddy())
+        SetLabelOf(label, control);
+}
+
+void SetPlainToolTip(QWidget* widget, const QString& text)
+{
+    // Without a tag Qt would show the escapes.
+    widget->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
+}
+
 int TwipsToPixels(int twips)
 {
     return int(twips / TwipsAPixel());

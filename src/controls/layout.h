@@ -59,6 +59,11 @@ QLabel* heading(const QString& text);
 
 /// Makes `label` the buddy and the accessible name of `control` (mnemonics and a closing colon left out of the name).
 void SetLabelOf(QLabel* label, QWidget* control);
+/// Lets `label`, which names a control, show a text of the user as it stands: no markup and no access key is read into
+/// it.
+void ShowAsItStands(QLabel* label, const QString& text);
+/// Likewise a tooltip, wrapped; none for "".
+void SetPlainToolTip(QWidget* widget, const QString& text);
 
 /// Twips to logical pixels and back. Told sizes are meant for the platform's standard font, where 15 twips are a pixel,
 /// and grow with the user's font, so that as much text fits.

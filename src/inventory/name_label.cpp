@@ -1,5 +1,7 @@
 #include "inventory/name_label.h"
 
+#include "controls/layout.h"
+
 namespace {
 constexpr int WidestLabel = 200;
 constexpr int LabelRoom = 12;
@@ -7,10 +9,8 @@ constexpr int LabelRoom = 12;
 
 void ShowName(QLabel* label, const QString& name)
 {
-    QString shown = name;
-    label->setTextFormat(Qt::PlainText);
-    label->setText(shown.replace(QLatin1Char('&'), QStringLiteral("&&")) + u':');
-    label->setToolTip(name.toHtmlEscaped());
+    ShowAsItStands(label, name + u':');
+    SetPlainToolTip(label, name);
     label->setWordWrap(true);
     label->setMinimumWidth(qMin(label->fontMetrics().horizontalAdvance(name) + LabelRoom, WidestLabel));
     label->setMaximumWidth(WidestLabel);

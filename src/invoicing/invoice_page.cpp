@@ -3,6 +3,7 @@
 #include "base/clock.h"
 #include "base/numbers.h"
 #include "config/secondary_tax.h"
+#include "controls/layout.h"
 #include "records/lists.h"
 
 #include <algorithm>
@@ -51,7 +52,7 @@ void InvoicePage::ShowInvoicePage()
 void InvoicePage::ShowSecondaryTax()
 {
     lblLabels_26->setText(SecondaryTax::SecondaryTaxName + QLatin1Char(':'));
-    lblLabels_26->setToolTip(QStringLiteral("<span>%1</span>").arg(SecondaryTax::SecondaryTaxName.toHtmlEscaped()));
+    SetPlainToolTip(lblLabels_26, SecondaryTax::SecondaryTaxName);
     lblSecondTax->setAccessibleName(SecondaryTax::SecondaryTaxName);
     lblLabels_26->setVisible(SecondaryTax::SecondaryTaxEnable);
     lblSecondTax->setVisible(SecondaryTax::SecondaryTaxEnable);

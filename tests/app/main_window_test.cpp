@@ -60,8 +60,11 @@ TEST_F(LoadTest, TheSecondTaxFollowsTheSettingsRowAndThePostCodeLabelTakesTheSto
         EXPECT_EQ(SecondTaxShown(window), shown);
         EXPECT_EQ(
             window.picNewInvoice->lblLabels_26->text() + SecondaryTax::SecondaryTaxName, name + QString(":") + name);
-        EXPECT_EQ(Find<QLabel>(&window, "lblPostCode")->text(), GetConfig("PostCode", "Post Code"));
-        SaveConfig("PostCode", "ZIP");
+        const auto* postCode = Find<QLabel>(&window, "lblPostCode");
+        EXPECT_EQ(postCode->text() + window.picNewInvoice->txtPostcode->accessibleName(),
+            GetConfig("PostCode", "").isEmpty() ? "Post CodePost Code" : "ZIP && <b>Code</b>ZIP & <b>Code</b>");
+        EXPECT_EQ(postCode->textFormat(), Qt::PlainText);
+        SaveConfig("PostCode", "ZIP & <b>Code</b>");
     }
 }
 
@@ -111,6 +114,14 @@ TEST_F(LoadTest, ResizingGivesTheSpareWidthToEachGridsColumnEvenOutOfSightAndKee
     QCoreApplication::processEvents();
     EXPECT_EQ(gcust->ColWidth(0), 3000);
     EXPECT_EQ(Sum(Widths(gcust)), gcust->WidthInTwips() - 400);
+
+    // The status line comes with the invoice. That is no new size of the window.
+    gcust->SetColWidth(1, 777);
+    const int height = window.picBack->height();
+    window.Run("mnuReservationAdd");
+    QCoreApplication::processEvents();
+    EXPECT_LT(window.picBack->height(), height);
+    EXPECT_EQ(gcust->ColWidth(1), 777);
 
     // With no room left the stretch column stays as it is.
     gcust->SetColWidth(0, 90000);
