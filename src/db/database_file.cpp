@@ -71,8 +71,8 @@ Handle OpenHandle(const QString& path, FileUse use)
     // Without the right to write the engine opens for reading without a word.
     if (use == FileUse::ReadAndWrite && sqlite3_db_readonly(handle, "main") == 1)
         throw CannotOpen(path, QStringLiteral("It is read-only."));
-    // Each write makes a journal beside the file for its time.
-    if (use == FileUse::ReadAndWrite && !QFileInfo(QFileInfo(path).absolutePath()).isWritable())
+    // Each write makes a journal beside the file, where a link leads, for its time.
+    if (use == FileUse::ReadAndWrite && !QFileInfo(QFileInfo(QFileInfo(path).canonicalFilePath()).path()).isWritable())
         throw CannotOpen(path, QStringLiteral("Its folder is read-only."));
     return owner;
 }

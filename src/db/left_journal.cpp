@@ -4,6 +4,7 @@
 
 #include <QByteArrayView>
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 
 #include <optional>
@@ -99,7 +100,8 @@ QString AsideName(const QString& journalPath)
 
 QString SetAsideForeignJournal(const QString& databasePath)
 {
-    const QString journalPath = databasePath + QStringLiteral("-journal");
+    // The engine looks for it where a link leads.
+    const QString journalPath = QFileInfo(databasePath).canonicalFilePath() + QStringLiteral("-journal");
     if (!QFile::exists(journalPath))
         return {};
     const std::optional<quint32> before = JournalReader(journalPath).ChangeCounter();
