@@ -3,6 +3,7 @@
 #include "app/image_lists.h"
 #include "app/start.h"
 #include "base/guard.h"
+#include "base/system_locale.h"
 #include "controls/error_box.h"
 #include "controls/readable_links.h"
 
@@ -10,6 +11,7 @@
 
 int main(int argc, char* argv[])
 {
+    ReadSystemLocale();
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("TavrinInventory"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tavrin-inventory"));

@@ -1,5 +1,6 @@
 #include "base/date_reader.h"
 #include "base/dates.h"
+#include "base/system_locale.h"
 #include "support/test.h"
 
 namespace {
@@ -54,6 +55,23 @@ TEST(Dates, TextsOfAllLocalesReadBack)
             EXPECT_EQ(ReadDate(FormatDate(QDateTime(QDate(1899, 12, 30), evening.time()), ""))->time(), evening.time())
                 << name;
         }
+    }
+}
+
+TEST(Locale, OfASystemWithoutALanguageIsThatOfEachFormatsOwnVariableAndElseTheUnitedStates)
+{
+    for (const auto& [given, set] : {std::pair("LANG=de_DE LC_TIME=en_GB", ""), {"LC_ALL=fr_FR LANG=C", ""},
+             {"LC_ALL=C.UTF-8 LC_TIME=de_DE", "LANGUAGE= LC_ALL=en_US"},
+             {"LANG=C.UTF-8 LC_TIME=en_DK LC_NUMERIC=C", "LANG=en_US LANGUAGE= LC_MESSAGES=en_US LC_NUMERIC=en_US"},
+             {"LC_MONETARY=de_DE.UTF-8", "LANG=en_US LANGUAGE= LC_MESSAGES=de_DE.UTF-8"},
+             {"LANG=de_DE LC_MESSAGES=C", "LANGUAGE= LC_MESSAGES=de_DE"}}) {
+        QProcessEnvironment environment;
+        for (const QString& variable : QString(given).split(' '))
+            environment.insert(variable.section('=', 0, 0), variable.section('=', 1));
+        QStringList changes;
+        for (const auto& [name, value] : LocaleVariablesToSet(environment).asKeyValueRange())
+            changes << name + '=' + value;
+        EXPECT_EQ(changes.join(' '), set) << given;
     }
 }
 
