@@ -1,5 +1,7 @@
 #include "app/tips.h"
 
+#include "base/text_encoding.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QTextStream>
@@ -10,7 +12,7 @@ std::optional<QStringList> ReadTips(const QString& path)
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QStringList tips;
-    QTextStream lines(&file);
+    QTextStream lines(TextAsUtf8(file.readAll()));
     QString line;
     while (lines.readLineInto(&line))
         tips.append(line);

@@ -4,6 +4,7 @@
 #include <QStringEncoder>
 
 #include <clocale>
+#include <cstring>
 
 #include <langinfo.h>
 
@@ -69,6 +70,17 @@ QByteArray TextEncoding::Decode(const QByteArray& bytes) const
     for (qsizetype start = 0; start < bytes.size(); start += Piece)
         utf8 += QString(decoder(QByteArrayView(bytes).sliced(start, qMin(Piece, bytes.size() - start)))).toUtf8();
     return utf8;
+}
+
+QByteArray TextAsUtf8(QByteArray bytes)
+{
+    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
+        return TextEncoding::Named(QStringLiteral("UTF-16")).Decode(bytes);
+    if (!bytes.isValidUtf8())
+        return TextEncoding::OfOldFiles().Decode(bytes);
+    if (bytes.startsWith(ByteOrderMark))
+        bytes.remove(0, qsizetype(std::strlen(ByteOrderMark)));
+    return bytes;
 }
 
 QByteArray TextEncoding::Encode(std::string_view utf8) const

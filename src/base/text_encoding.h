@@ -29,3 +29,7 @@ private:
     QByteArray m_name;
     Mark m_mark;
 };
+
+/// The bytes of a text file as UTF-8 without a byte order mark. UTF-16 is known by its mark; what is no UTF-8 either is
+/// read as an old file.
+QByteArray TextAsUtf8(QByteArray bytes);

@@ -40,13 +40,3 @@ QByteArray CsvFile::TakeUtf8()
     m_bytes.truncate(m_read);
     return TextAsUtf8(std::move(m_bytes));
 }
-
-QByteArray TextAsUtf8(QByteArray bytes)
-{
-    constexpr auto ByteOrderMark = "\xEF\xBB\xBF";
-    if (!bytes.isValidUtf8())
-        return TextEncoding::OfOldFiles().Decode(bytes);
-    if (bytes.startsWith(ByteOrderMark))
-        bytes.remove(0, 3);
-    return bytes;
-}

@@ -20,7 +20,3 @@ private:
     QByteArray m_bytes;
     qsizetype m_read = 0;
 };
-
-/// The text as UTF-8 without a byte order mark. Bytes that are no UTF-8 are read in the 8-bit code page of the user's
-/// locale; where that is UTF-8 itself, in the one that spreadsheets write, windows-1252.
-QByteArray TextAsUtf8(QByteArray bytes);

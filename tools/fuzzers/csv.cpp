@@ -1,6 +1,6 @@
 #include "fuzzing.h"
 
-#include "exchange/csv_file.h"
+#include "base/text_encoding.h"
 #include "exchange/csv_reader.h"
 
 #include <QStringDecoder>

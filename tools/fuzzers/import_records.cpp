@@ -2,9 +2,9 @@
 #include "fuzzing.h"
 
 #include "base/numbers.h"
+#include "base/text_encoding.h"
 #include "base/texts.h"
 #include "db/connection.h"
-#include "exchange/csv_file.h"
 #include "exchange/csv_reader.h"
 #include "exchange/import_records.h"
 #include "sql/schema.h"
