@@ -1,6 +1,7 @@
 #include "app/help_key.h"
 
 #include "app/help_desk.h"
+#include "app/splash.h"
 #include "base/guard.h"
 
 #include <QCoreApplication>
@@ -17,13 +18,17 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
         return false;
+    // Any key closes the splash, this one too.
+    auto* widget = static_cast<QWidget*>(watched);
+    if (qobject_cast<const frmSplash*>(widget->window()))
+        return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier)
         return false;
     // The message of a missing viewer stands until it is answered; one is enough.
     if (!m_opening) {
         const QScopedValueRollback opening(m_opening, true);
-        Guarded([&] { OpenHelpAt(HelpNamesAt(static_cast<QWidget*>(watched))); });
+        Guarded([&] { OpenHelpAt(HelpNamesAt(widget)); });
     }
     return true;
 }

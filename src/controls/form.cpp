@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -30,13 +31,20 @@ QPushButton* DefaultButtonOf(const QWidget* screen)
     return last;
 }
 
+/// The button that has the focus, unless it is one to be ticked; or else the default button.
+QAbstractButton* ButtonForEnter(const QWidget* screen)
+{
+    QWidget* focused = screen->window()->focusWidget();
+    const bool isPressed = qobject_cast<QPushButton*>(focused) || qobject_cast<QToolButton*>(focused);
+    return isPressed && screen->isAncestorOf(focused) ? static_cast<QAbstractButton*>(focused)
+                                                      : DefaultButtonOf(screen);
+}
+
 // Qt alone gives Enter to the default button even when another button has the focus.
-void RunButtonForEnter(QWidget* screen, QKeyEvent* event)
+void RunButtonForEnter(const QWidget* screen, QKeyEvent* event)
 {
     event->accept();
-    auto* button = qobject_cast<QPushButton*>(screen->window()->focusWidget());
-    if (!button || !screen->isAncestorOf(button))
-        button = DefaultButtonOf(screen);
+    QAbstractButton* button = ButtonForEnter(screen);
     if (button && button->isEnabled() && !event->isAutoRepeat())
         button->click();
 }

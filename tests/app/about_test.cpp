@@ -19,7 +19,8 @@ TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSiteAndItsHelp)
     ScriptedAnswers answers;
     answers.ExpectLink(MakerWebSite());
     answers.ExpectLink(MakerWebSite());
-    Click(about.Picture4);
+    about.Picture4->setFocus();
+    Press(about.Picture4, Qt::Key_Return);
     Click(about.Label2);
     answers.ExpectHelpAt({"cmdOK", "frmAbout"});
     Press(about.cmdOK, Qt::Key_F1);

@@ -1,5 +1,6 @@
 #include "app/app_test.h"
 #include "app/database_folder.h"
+#include "app/help_key.h"
 #include "app/splash.h"
 #include "app/start.h"
 #include "app/tip.h"
@@ -104,6 +105,12 @@ TEST_F(StartTest, TheSplashLoadsBehindItselfAndClosesByItselfByAClickOrWhenTheLo
     Shown(&clicked);
     Click(clicked.Frame1);
     EXPECT_FALSE(clicked.isVisible());
+
+    const HelpKey helpKey(nullptr);
+    frmSplash struck([] { return true; });
+    Shown(&struck);
+    Press(&struck, Qt::Key_F1);
+    EXPECT_FALSE(struck.isVisible());
 
     frmSplash failing([] { return false; });
     Shown(&failing);
