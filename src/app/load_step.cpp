@@ -65,7 +65,7 @@ bool LoadStep(MainWindow& window, Connection& connection)
     window.picNewInvoice->ShowSecondaryTax();
     Ignoring([&] { window.picInventory->FillInvoicePriceLists(); });
     window.Grids().SetUpColumns();
-    window.picReports->Frame2->ShowWeekdays(WeekdayNames());
+    window.picReports->Frame2->ShowWeekdays(WeekdayNames(), Regional().firstDayOfWeek());
     ShowAllWelcomePages();
     window.picReports->SelectFirstGraph();
     window.picBack->PlaceHiddenPanels();

@@ -100,7 +100,7 @@ QLayout* StatisticsFrame::BuildFigures()
 
 QWidget* StatisticsFrame::BuildWeek()
 {
-    QGridLayout* days = fields({});
+    m_days = fields({});
     for (const QString& day : {tr("Monday:"), tr("Tuesday:"), tr("Wednesday:"), tr("Thursday:"), tr("Friday:"),
              tr("Saturday:"), tr("Sunday:")}) {
         const auto number = int(lblGuestDOW.size());
@@ -108,9 +108,9 @@ QWidget* StatisticsFrame::BuildWeek()
         const FieldLine line(day, lblGuestDOW.last());
         line.label->setObjectName(QStringLiteral("lblLabels_%1").arg(FirstWeekdayLabel + number));
         m_weekdays.append(line.label);
-        AddFieldLine(days, line);
+        AddFieldLine(m_days, line);
     }
-    days->setColumnStretch(1, 1);
+    m_days->setColumnStretch(1, 1);
     auto* title = new QLabel(tr("Invoices this week"));
     QFont font = title->font();
     font.setBold(true);
@@ -118,7 +118,7 @@ QWidget* StatisticsFrame::BuildWeek()
 
     auto* picRepThisWeek = new QWidget;
     picRepThisWeek->setObjectName(QStringLiteral("picRepThisWeek"));
-    picRepThisWeek->setLayout(column({title, Compact(days)}));
+    picRepThisWeek->setLayout(column({title, Compact(m_days)}));
     picRepThisWeek->layout()->setContentsMargins(0, 0, 0, 0);
     return picRepThisWeek;
 }
@@ -138,10 +138,15 @@ void StatisticsFrame::AddLeftOvers()
     }
 }
 
-void StatisticsFrame::ShowWeekdays(const QStringList& names)
+void StatisticsFrame::ShowWeekdays(const QStringList& names, int firstWeekday)
 {
-    for (int day = 0; day < DaysAWeek; ++day)
-        m_weekdays.at(day)->setText(names.at(day));
+    for (int line = 0; line < DaysAWeek; ++line) {
+        QLabel* name = m_weekdays.at(line);
+        QLabel* count = lblGuestDOW.at((firstWeekday - 1 + line) % DaysAWeek);
+        name->setText(names.at(line));
+        name->setBuddy(count);
+        m_days->addWidget(count, m_days->rowCount() - DaysAWeek + line, 1);
+    }
 }
 
 void StatisticsFrame::Refresh()

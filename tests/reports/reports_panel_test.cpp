@@ -38,7 +38,12 @@ protected:
 
 TEST_F(ReportsView, AnEmptyShopKeepsThePlaceholders)
 {
+    panel->Frame2->ShowWeekdays(WeekdayNames(), Regional().firstDayOfWeek());
     ShowPanel();
+    const QLabel* monday = Find<QLabel>(panel, "lblLabels_53"); // the week of the United States starts on Sunday
+    EXPECT_EQ(monday->text(), "Monday");
+    EXPECT_EQ(monday->buddy(), panel->Frame2->lblGuestDOW[0]);
+    EXPECT_EQ(monday->geometry().center().y(), panel->Frame2->lblGuestDOW[0]->geometry().center().y());
     EXPECT_EQ(Figures().join(u'|'), "0|1-Sep-2002|1-Sep-2002|Sep|Oct|Joe Bloggs|123|123|0");
     panel->SelectFirstGraph();
     panel->ShowReports();
