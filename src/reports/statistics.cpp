@@ -13,7 +13,8 @@ QString FirstFigure(const Sql& statement)
 
 QString FirstDate(const char* statement)
 {
-    return FormatDate(gConnection->Execute(statement)[0].ToDate(), QStringLiteral("dd-mmm-yyyy"));
+    const Value date = gConnection->Execute(statement)[0];
+    return date.IsNull() ? QString() : FormatDate(date.ToDate(), QStringLiteral("dd-mmm-yyyy"));
 }
 
 QString FirstMonth(const char* statement)

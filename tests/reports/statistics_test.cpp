@@ -78,6 +78,8 @@ TEST_F(Statistics, FiguresOfAllYears)
     EXPECT_EQ(DateOfMostInvoices() + DateOfLeastInvoices(), "02-Nov-202502-Nov-2025");
     EXPECT_EQ(MostPopularMonth() + LeastPopularMonth(), "AprApr");
     EXPECT_EQ(MostRepeatingCustomer(), "Ann Lee");
+    Run("UPDATE invoice SET SubmittedDate = NULL");
+    EXPECT_EQ(DateOfLeastInvoices(), "");
 }
 
 TEST_F(Statistics, AMonthHasARowForEachDayAndTwelveMonthsEndWithThePresentOneAlsoOnThe31st)
