@@ -137,10 +137,12 @@ void frmReceiveStock::UpdateStockLevel()
         return;
 
     AddToStock(itemId, quantity);
-    RefreshInventoryList(gInventory->Row(), 0);
-    ShowStatus(tr("%1 x %2 received, now %3")
-                   .arg(quantity, gInventory->CellText(gInventory->Row(), "name"),
-                       gInventory->CellText(gInventory->Row(), "noinstock")));
+    // By its id: a line that filters the list may hide the item once its stock has changed.
+    RefreshInventoryList(gInventory->Row(), itemId);
+    if (gInventory->CurrentRowData() == itemId)
+        ShowStatus(tr("%1 x %2 received, now %3")
+                       .arg(quantity, gInventory->CellText(gInventory->Row(), "name"),
+                           gInventory->CellText(gInventory->Row(), "noinstock")));
     txtAddQuantity->setText(QStringLiteral("0"));
     txtBarcode->FocusAll();
 }

@@ -81,6 +81,10 @@ TEST_F(ReceiveStock, AScanInTheQuantityBoxFindsItsItemAndBooksNothing)
     HandTypes("100000\n");
     EXPECT_EQ(Stock(drill), 100005) << "by hand it is a quantity";
     EXPECT_EQ(told, "100000 x Drill received, now 100005");
+    form->gInventory->SetFilter("5");
+    Receive("4");
+    EXPECT_EQ(told, "4 x Drill received, now 100009") << "though the filter hides it now";
+    EXPECT_EQ(form->gInventory->CurrentRowData(), drill);
     QObject::disconnect(&StatusLine::Get(), nullptr, qApp, nullptr);
 }
 
