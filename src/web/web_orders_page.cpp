@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/runtime_error.h"
 #include "controls/dialogs.h"
+#include "db/connection.h"
 #include "web/order_form.h"
 #include "web/web_order_settings.h"
 
@@ -14,6 +15,8 @@ void CreateWebOrdersPage()
         QCoreApplication::translate("WebOrdersPage", "HTML (*.html);;HTM (*.htm)"), QString());
     if (path.isEmpty())
         return;
+    if (IsSameFile(path, gConnection->Path()))
+        throw PathFileAccessError();
     DeleteFile(path);
     const std::optional<WebOrderSettings> settings = ReadWebOrderSettings();
     if (!settings)

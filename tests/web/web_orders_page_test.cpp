@@ -54,6 +54,7 @@ TEST_F(WebOrdersPage, AFileThatCannotBeWrittenIsARunTimeErrorAndNotHalfAPage)
     EXPECT_EQ(CreateInto(Folder() + "/gone/orders.html"), 75);
     QDir(Folder()).mkdir("folder.html");
     EXPECT_EQ(CreateInto(Folder() + "/folder.html"), 75);
+    EXPECT_EQ(CreateInto(gConnection->Path()), 75) << "the data file";
     EXPECT_EQ(PageFile(), Old);
     {
         const FileSizeLimit limit(1000);
