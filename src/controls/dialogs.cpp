@@ -72,6 +72,29 @@ void SayHelpIsMissing()
     MsgBox(Dialogs::tr("The help pages are not available."), Icon::Information);
 }
 
+enum class Extension { OfFilter, AsTyped };
+
+QString AskFileToSave(const QString& title, const QString& filter, const QString& suggested, Extension extension)
+{
+    if (DialogDoor* door = CurrentDialogDoor())
+        return door->SaveFileName(title, filter, suggested);
+    QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (extension == Extension::OfFilter) {
+        dialog.setDefaultSuffix(FirstExtension(dialog.selectedNameFilter()));
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+            [&dialog](const QString& chosen) { dialog.setDefaultSuffix(FirstExtension(chosen)); });
+    }
+    dialog.selectFile(suggested);
+    QString path = PickedFile(dialog);
+    while (!path.isEmpty() && !QFileInfo(path).dir().exists()) {
+        MsgBox(Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
+        path = PickedFile(dialog);
+    }
+    return path;
+}
+
 bool NoPrinterInstalled()
 {
     return QPrinterInfo::availablePrinterNames().isEmpty();
@@ -115,21 +138,12 @@ QString OpenFileName(const QString& title, const QString& filter)
 
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested)
 {
-    if (DialogDoor* door = CurrentDialogDoor())
-        return door->SaveFileName(title, filter, suggested);
-    QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(FirstExtension(dialog.selectedNameFilter()));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-        [&dialog](const QString& chosen) { dialog.setDefaultSuffix(FirstExtension(chosen)); });
-    dialog.selectFile(suggested);
-    QString path = PickedFile(dialog);
-    while (!path.isEmpty() && !QFileInfo(path).dir().exists()) {
-        MsgBox(Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
-        path = PickedFile(dialog);
-    }
-    return path;
+    return AskFileToSave(title, filter, suggested, Extension::OfFilter);
+}
+
+QString SaveFileNameAsTyped(const QString& title, const QString& filter)
+{
+    return AskFileToSave(title, filter, QString(), Extension::AsTyped);
 }
 
 QString SaveExistingFileName(const QString& title, const QString& filter)

@@ -26,7 +26,7 @@ bool Copy(const QString& database, const QString& target)
 
 void BackupDatabase()
 {
-    const QString target = SaveFileName(DatabaseBackup::tr("Save As"), DatabaseBackup::tr("MDB (*.mdb)"), QString());
+    const QString target = SaveFileNameAsTyped(DatabaseBackup::tr("Save As"), DatabaseBackup::tr("MDB (*.mdb)"));
     if (target.isEmpty())
         return;
     const QString database = DatabasePath();

@@ -74,6 +74,9 @@ TEST(Dialogs, AMissingFolderIsToldAndTheFileAskedForAgainAndAFileThatMustExistIs
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("page")); });
     EXPECT_EQ(SaveFileName("Save", "HTML (*.html);;HTM (*.htm)", ""), folder.filePath("page.html"));
 
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("backup")); });
+    EXPECT_EQ(SaveFileNameAsTyped("Save", "MDB (*.mdb)"), folder.filePath("backup"));
+
     const QString path = folder.filePath("items.csv");
     WriteFile(path, "");
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) {
