@@ -49,7 +49,6 @@ KeyGroupForm::KeyGroupForm(const char* name, const char* comboName, const Texts&
     On(cmdEdit, &QPushButton::clicked, this, &KeyGroupForm::EditEntry);
     On(lstItems, &KeyList::Opened, this, &KeyGroupForm::EditEntry);
     On(cmdRemove, &QPushButton::clicked, this, &KeyGroupForm::RemoveEntry);
-    lstItems->SetEmptyText(tr("There is nothing to show. Press \"%1\" to begin.").arg(cmdAdd->text().remove(u'&')));
     LetKeysEdit(cboGroups, {cmdCatAdd, cmdCatEdit, cmdCatRemove});
     LetKeysEdit(lstItems, {cmdAdd, cmdEdit, cmdRemove});
 }
@@ -70,6 +69,9 @@ void KeyGroupForm::Reload(std::optional<qint64> groupId)
         SelectComboByData(cboGroups, *groupId);
     if (!ChosenGroup() && cboGroups->ListCount() > 0)
         cboGroups->SetListIndex(0);
+    // Where there is no group there is nothing to add an entry to.
+    const QPushButton* first = ChosenGroup() ? cmdAdd : cmdCatAdd;
+    lstItems->SetEmptyText(tr("There is nothing to show. Press \"%1\" to begin.").arg(first->text().remove(u'&')));
 }
 
 void KeyGroupForm::ShowEntriesOfGroup()

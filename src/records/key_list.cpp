@@ -21,6 +21,7 @@ void KeyList::ShowEntries(const KeyTable& table, const Sql& entries)
     }
     if (count() > 0)
         setCurrentRow(0);
+    SetEmptyText(m_emptyText);
 }
 
 std::optional<qint64> KeyList::SelectedId() const
@@ -34,6 +35,8 @@ std::optional<qint64> KeyList::SelectedId() const
 void KeyList::SetEmptyText(const QString& text)
 {
     m_emptyText = text;
+    // What an empty list shows a screen reader says.
+    setAccessibleDescription(count() > 0 ? QString() : m_emptyText);
 }
 
 void KeyList::paintEvent(QPaintEvent* event)

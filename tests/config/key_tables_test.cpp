@@ -108,6 +108,9 @@ TEST_P(KeyTablesTest, WithoutASelectionThereIsNothingToEditOrRemoveAndARowThatHa
     const QString nothingToEdit = GetParam().Said("No %1 has been selected to edit. Please select a %1 and try again.");
     Run(GetParam().emptied);
     Open();
+    const QString add = Find<QPushButton>(form.get(), GetParam().Button("Add").c_str())->text().remove('&');
+    EXPECT_EQ(Find<QListWidget>(form.get(), "lstItems")->accessibleDescription(),
+        "There is nothing to show. Press \"" + add + "\" to begin.");
     answers.ExpectMessage(nothingToEdit, Icon::Critical);
     Press("Edit");
     answers.ExpectMessage(GetParam().Said("Please select a %1 to remove."), Icon::Critical);
