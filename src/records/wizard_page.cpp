@@ -92,8 +92,7 @@ WelcomePage::WelcomePage(
 
 bool WelcomePage::StoreAnswers()
 {
-    if (!chkDisplayNext->isChecked())
-        State().ShowWelcome = false;
+    State().ShowWelcome = chkDisplayNext->isChecked();
     return true;
 }
 
