@@ -196,6 +196,7 @@ void MainWindow::FindCustomer()
     picNewInvoice->SaveWhatIsBeingTyped();
     frmFindCustomer(this).ShowModal();
     picNewInvoice->ShowCustomerAnew();
+    RefreshListInView();
 }
 
 void MainWindow::ViewVendors()
@@ -221,12 +222,21 @@ void MainWindow::ConfigureTaxRates()
 {
     frmTaxRate(this).ShowModal();
     picNewInvoice->ShowSecondaryTax();
+    RefreshListInView();
 }
 
 void MainWindow::ConfigureBusiness()
 {
-    if (RunConfigurationWizard(this))
-        picNewInvoice->ShowSecondaryTax();
+    if (!RunConfigurationWizard(this))
+        return;
+    picNewInvoice->ShowSecondaryTax();
+    RefreshListInView();
+}
+
+void MainWindow::RefreshListInView()
+{
+    for (ListPanel* list : findChildren<ListPanel*>())
+        list->RefreshIfSeen();
 }
 
 void MainWindow::FirstRun()

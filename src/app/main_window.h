@@ -58,6 +58,8 @@ public:
     void ConfigurePriceLists();
     void ConfigureTaxRates();
     void ConfigureBusiness();
+    /// Reads the list in view anew, if one is, with the same record selected: forms above it may have changed its rows.
+    void RefreshListInView();
     /// The prompts of the first start: the tutorial, the configuration wizard.
     void FirstRun();
 

@@ -88,6 +88,8 @@ const QList<MenuRow>& MainMenu::Table()
             [](Window& window) {
                 if (RunImportWizard(&window))
                     window.ViewInventory();
+                else // What was imported before the cancel stays.
+                    window.RefreshListInView();
             }),
         Separator(),
         Entry("mnuFileExportResCSV", QT_TR_NOOP("Export &Invoices..."), [](Window&) { ExportInvoices(); }),

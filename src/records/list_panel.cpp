@@ -29,7 +29,7 @@ void ListPanel::SetUpKeys(const RowButtons& buttons)
     LetKeyClickInWindow(buttons.open, Qt::Key_F2, this);
     LetKeyClickInWindow(buttons.add, QKeySequence::New, this);
     LetKeyClick(buttons.remove, Qt::Key_Delete, m_list);
-    OnKeyInWindow(this, Qt::Key_F5, [this] { m_load(m_list->Row(), m_list->CurrentRowData()); });
+    OnKeyInWindow(this, Qt::Key_F5, [this] { RefreshIfSeen(); });
     OnKeyInWindow(this, QKeySequence::Find, [this] {
         if (m_find)
             m_find();
@@ -41,6 +41,12 @@ void ListPanel::SetUpKeys(const RowButtons& buttons)
 void ListPanel::LoadInPlace()
 {
     m_load(m_list->Row(), 0);
+}
+
+void ListPanel::RefreshIfSeen()
+{
+    if (isVisible())
+        m_load(m_list->Row(), m_list->CurrentRowData());
 }
 
 void ListPanel::showEvent(QShowEvent* event)

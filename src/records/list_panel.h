@@ -11,6 +11,9 @@ class ListPanel : public Panel {
 public:
     using Panel::Panel;
 
+    /// Reads the list anew where it is in view, with the same record selected.
+    void RefreshIfSeen();
+
     /// What Ctrl+F runs; the line that filters the list unless another is told.
     void FindBy(std::function<void()> find) { m_find = std::move(find); }
 

@@ -6,6 +6,7 @@
 #include "config/configuration_pages.h"
 #include "config/tax_rates.h"
 #include "parties/customer_record.h"
+#include "parties/find_customer.h"
 #include "parties/vendor_record.h"
 
 #include <algorithm>
@@ -124,6 +125,14 @@ TEST_F(MenuTest, AddingARecordReadsItsListAnewFromAnyView)
     window.Run("mnuVendorAdd");
     EXPECT_EQ(GridRows(window.picVendors->gVendors), QList<QStringList>({{"Bolts", "", ""}}));
     EXPECT_TRUE(window.picArrivals->isVisible());
+
+    window.Run("mnuCustomersView");
+    WhenFormShows<frmFindCustomer>([this](frmFindCustomer& form) {
+        Run("UPDATE customer SET LastName = 'Ray'");
+        Click(form.cmdCancel);
+    });
+    window.Run("mnuCustomerFind");
+    EXPECT_EQ(window.picCustomers->gcust->TextMatrix(1, 0), "Ray") << "so does what was found and changed";
 }
 
 TEST_F(MenuTest, ClosingTheTaxRatesOrTheConfigurationWizardLetsTheOpenInvoiceFollowAtOnce)
@@ -158,6 +167,12 @@ TEST_F(MenuTest, ClosingTheTaxRatesOrTheConfigurationWizardLetsTheOpenInvoiceFol
     NextOn<frmWizConfig_Barcode, frmWizConfig_PickingList, frmWizConfig_Cats, frmWizConfig_Complete>();
     window.Run("mnuConfigureWizard");
     EXPECT_EQ(SecondTaxShown(window), "PST:");
+
+    Item("Saw").Add();
+    window.Run("mnuViewInventory");
+    Run("UPDATE taxrate SET Name = 'VAT'");
+    closeWithTax("");
+    EXPECT_EQ(window.picInventory->gInventory->TextMatrix(1, 3), "VAT") << "so does the inventory in view";
 }
 
 TEST_F(MenuTest, HelpEntriesLinksAndPrintingAskForTheirTopicsPagesAndDialogs)
