@@ -107,10 +107,6 @@
         <source>%1, %2 to %3</source>
         <translation>%1, %2 bis %3</translation>
     </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Gespeichert als %1</translation>
-    </message>
 </context>
 <context>
     <name>CsvExports</name>
@@ -129,10 +125,6 @@
     <message>
         <source>Unable to write to file, please check you have permissions and try again.</source>
         <translation>Die Datei kann nicht geschrieben werden. Bitte prüfen Sie Ihre Zugriffsrechte und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Gespeichert als %1</translation>
     </message>
     <message>
         <source>Writing the file...</source>
@@ -1683,6 +1675,13 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Invoices this week</source>
         <translation>Rechnungen in dieser Woche</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Gespeichert als %1</translation>
     </message>
 </context>
 <context>

@@ -107,10 +107,6 @@
         <source>%1, %2 to %3</source>
         <translation>%1, %2 à %3</translation>
     </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Enregistré sous %1</translation>
-    </message>
 </context>
 <context>
     <name>CsvExports</name>
@@ -129,10 +125,6 @@
     <message>
         <source>Unable to write to file, please check you have permissions and try again.</source>
         <translation>Impossible d&apos;écrire dans le fichier. Vérifiez que vous en avez le droit et réessayez.</translation>
-    </message>
-    <message>
-        <source>Saved as %1</source>
-        <translation>Enregistré sous %1</translation>
     </message>
     <message>
         <source>Writing the file...</source>
@@ -1683,6 +1675,13 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Invoices this week</source>
         <translation>Factures de cette semaine</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Saved as %1</source>
+        <translation>Enregistré sous %1</translation>
     </message>
 </context>
 <context>

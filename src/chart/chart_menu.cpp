@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
@@ -86,7 +85,7 @@ void Chart::SaveAs()
     const bool saved =
         ending == QLatin1String("svg") ? SaveAsSvg(paint, size(), Summary(), path) : SaveAsPng(paint, size(), path);
     if (saved)
-        ShowStatus(tr("Saved as %1").arg(QDir::toNativeSeparators(path)));
+        ShowSavedAs(path);
     else
         MsgBox(tr("The chart could not be saved as %1.").arg(path), Icon::Critical);
 }

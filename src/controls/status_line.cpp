@@ -1,5 +1,8 @@
 #include "controls/status_line.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 StatusLine& StatusLine::Get()
 {
     static StatusLine line;
@@ -9,4 +12,9 @@ StatusLine& StatusLine::Get()
 void ShowStatus(const QString& text)
 {
     emit StatusLine::Get().Told(text);
+}
+
+void ShowSavedAs(const QString& path)
+{
+    ShowStatus(StatusLine::tr("Saved as %1").arg(QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath())));
 }

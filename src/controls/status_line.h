@@ -14,3 +14,5 @@ signals:
 };
 
 void ShowStatus(const QString& text);
+/// Says where a file was written: its absolute path, in the platform's form.
+void ShowSavedAs(const QString& path);

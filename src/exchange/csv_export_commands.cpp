@@ -10,7 +10,6 @@
 #include "exchange/csv_exports.h"
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include <exception>
 
@@ -38,7 +37,7 @@ void DeleteOldFile(const QString& file)
 void Write(const QString& file, const std::string& csv)
 {
     WriteCsv(file, csv);
-    ShowStatus(CsvExports::tr("Saved as %1").arg(QDir::toNativeSeparators(file)));
+    ShowSavedAs(file);
 }
 
 template <typename Body>

@@ -4,6 +4,7 @@
 #include "controls/hourglass.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
+#include "controls/status_line.h"
 #include "exchange/mailing_list.h"
 #include "records/wizard.h"
 
@@ -71,6 +72,8 @@ void RunMailingListWizard(QWidget* parent)
         return;
     const QString& file = MailingListWizard::MailListFileName;
     const Hourglass hourglass(frmWizMailList_Complete::tr("Writing the file..."));
-    if (!WriteMailingList(file))
+    if (WriteMailingList(file))
+        ShowSavedAs(file);
+    else
         MsgBox(frmWizMailList_Complete::tr("Unable to write to file ") + file + QLatin1Char('.'), Icon::Critical);
 }

@@ -36,8 +36,12 @@ TEST_F(MailingListTest, ListsTheAddressesInOrderEachAsOftenAsItIsStored)
         "Ann@shop.example, bob@shop.example, bob@shop.example, Côté, Léa <lea@shop.example>, "
         "two\r\nlines@shop.example, zoe@shop.example");
     Run("UPDATE customer SET Email = NULL");
+    QString told;
+    QObject receiver;
+    QObject::connect(&StatusLine::Get(), &StatusLine::Told, &receiver, [&told](const QString& text) { told = text; });
     RunTo(File());
     EXPECT_EQ(Text(), "") << "without addresses";
+    EXPECT_EQ(told, "Saved as " + File());
 }
 
 TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
@@ -78,12 +82,17 @@ TEST_F(MailingListTest, AsksForTheFileWordForWordAndOffersItAgain)
         Type(page.txtName, "gone");
         Click(page.cmdBack);
     });
-    AtPage<frmWizMailList_Welcome>([](frmWizMailList_Welcome& page) { Press(page.focusWidget(), Qt::Key_Return); });
+    AtPage<frmWizMailList_Welcome>([](frmWizMailList_Welcome& page) {
+        EXPECT_FALSE(page.chkDisplayNext->isChecked());
+        page.chkDisplayNext->click();
+        Press(page.focusWidget(), Qt::Key_Return);
+    });
     AtPage<frmWizMailList_File>([this](frmWizMailList_File& page) {
         EXPECT_EQ(page.txtName->text(), File());
         Press(page.txtName, Qt::Key_Escape);
     });
     RunMailingListWizard(nullptr);
+    EXPECT_TRUE(WizardState::MailingList.ShowWelcome);
 }
 
 TEST_F(MailingListTest, ABadTargetIsToldAndNothingElseIsTouchedAndAFullDiskLeavesNothing)
