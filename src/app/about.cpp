@@ -27,8 +27,7 @@ frmAbout::frmAbout(QWidget* parent)
     lblVersion->setText(tr("Version %1").arg(QStringLiteral(TAVRIN_VERSION)));
     lblDescription->setText(tr("The fully flexible and easy to use inventory management system."));
     lblDescription->setWordWrap(true);
-    Label2->setText(QStringLiteral("<a href=\"%1\">%1</a>").arg(MakerWebSite().toHtmlEscaped()));
-    Label2->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    Label2->ShowLink(MakerWebSite(), MakerWebSite());
     Picture4->setIcon(ProgramIcon(QStringLiteral("web-orders")));
     Picture4->setIconSize({SiteIconSize, SiteIconSize});
     Picture4->setAutoRaise(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/form.h"
+#include "controls/link_label.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -17,7 +18,7 @@ public:
     CONTROL(QLabel, lblDescription);
     CONTROL(QLabel, Picture1); ///< the picture on that one system; Picture2 everywhere else
     CONTROL(QLabel, Picture2);
-    CONTROL(QLabel, Label2); ///< a link to the maker's web site
+    CONTROL(LinkLabel, Label2); ///< a link to the maker's web site
     CONTROL(QToolButton, Picture4); ///< likewise, with a picture
     CONTROL(QPushButton, cmdOK);
     CONTROL(QPushButton, cmdSysInfo);

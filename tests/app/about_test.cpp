@@ -18,10 +18,13 @@ TEST_F(AboutTest, TellsTheProductAndLeadsToTheWebSiteAndItsHelp)
 
     ScriptedAnswers answers;
     answers.ExpectLink(MakerWebSite());
-    answers.ExpectLink(MakerWebSite());
-    about.Picture4->setFocus();
-    Press(about.Picture4, Qt::Key_Return);
     Click(about.Label2);
+    about.cmdSysInfo->setFocus();
+    for (QWidget* link : std::initializer_list<QWidget*>{about.Label2, about.Picture4}) {
+        Tab();
+        answers.ExpectLink(MakerWebSite());
+        Press(link, Qt::Key_Return);
+    }
     answers.ExpectHelpAt({"cmdOK", "frmAbout"});
     Press(about.cmdOK, Qt::Key_F1);
     Press(about.cmdOK, Qt::Key_F1, Qt::ShiftModifier);
