@@ -8,6 +8,12 @@ namespace {
 // The row of each key table that stands for no choice.
 constexpr qint64 NoChoice = 1;
 
+/// What another program left out is no choice.
+qint64 ChoiceOf(const Value& id)
+{
+    return id.IsNull() ? NoChoice : id.ToLong();
+}
+
 QString PriceOf(qint32 itemId, const QString& priceListId)
 {
     const Recordset price =
@@ -59,7 +65,7 @@ void frmItemDetails::ProposeNewItem()
 
     const Recordset next = gConnection->Execute("SELECT itemnumber FROM nextitemno");
     if (!next.Eof())
-        m_number->setText(next["itemnumber"].ToText());
+        m_number->setText(NullToText(next["itemnumber"]));
     ShowSubCategories();
 
     for (const PriceBox& price : m_prices)
@@ -83,13 +89,14 @@ void frmItemDetails::ShowItem(const Recordset& item)
     m_number->setText(NullToText(item["Number"]));
     m_barcode->setText(NullToText(item["Barcode"]));
 
-    const Recordset category = gConnection->Execute(Sql("SELECT categoryid FROM subcategory WHERE id = {SubCategoryID}")
-                                                        .Raw("SubCategoryID", NullToText(item["SubCategoryID"])));
+    const qint64 subCategoryId = ChoiceOf(item["SubCategoryID"]);
+    const Recordset category = gConnection->Execute(
+        Sql("SELECT categoryid FROM subcategory WHERE id = {SubCategoryID}").Number("SubCategoryID", subCategoryId));
     if (!category.Eof())
-        SelectComboByData(cboCategory, category["categoryid"].ToLong());
-    SelectComboByData(cboSubCategory, item["SubCategoryID"].ToLong());
-    SelectComboByData(cboVendor, item["VendorID"].ToLong());
-    SelectComboByData(cboTaxRate, item["TaxRateID"].ToLong());
+        SelectComboByData(cboCategory, ChoiceOf(category["categoryid"]));
+    SelectComboByData(cboSubCategory, subCategoryId);
+    SelectComboByData(cboVendor, ChoiceOf(item["VendorID"]));
+    SelectComboByData(cboTaxRate, ChoiceOf(item["TaxRateID"]));
 
     m_noInStock->ShowWhole(item["NoInStock"].ToText());
     m_reorderLevel->ShowWhole(item["ReorderLevel"].ToText());
@@ -106,7 +113,7 @@ void frmItemDetails::ShowStorage(const QString& locationId)
 {
     const Recordset location = gConnection->Execute(
         Sql("SELECT warehouseid FROM location WHERE id = {LocationID}").Raw("LocationID", locationId));
-    const qint64 warehouseId = location["warehouseid"].ToLong();
+    const qint64 warehouseId = ChoiceOf(location["warehouseid"]);
     SelectComboByData(cboWarehouse, warehouseId == 0 ? 1 : warehouseId);
     SelectComboByData(cboStorage, locationId.toLongLong());
 }

@@ -74,7 +74,9 @@ void frmVendor::Save()
     else
         UpdateVendor();
     accept();
-    ShowStatus(tr("Vendor %1 saved").arg(txtBusinessName->text()));
+    // From an empty list the record opens for vendor 0, and the update hits no row.
+    if (gEditVendorId != 0)
+        ShowStatus(tr("Vendor %1 saved").arg(txtBusinessName->text()));
 }
 
 void frmVendor::UpdateVendor() const

@@ -105,6 +105,9 @@ TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOneAndANullOrALocat
     for (const char* level : {"NoInStock", "ReorderLevel", "MinStockLevel"})
         EXPECT_EQ(errorOf(level, "NULL"), 94) << level;
     EXPECT_EQ(errorOf("LocationID", "999"), 3021);
+    for (const char* id : {"SubCategoryID", "VendorID", "TaxRateID"})
+        EXPECT_EQ(errorOf(id, "NULL"), 0) << id;
+    EXPECT_EQ(form->cboCategory->Text() + form->cboVendor->Text() + form->cboTaxRate->Text(), "N/AN/AN/A");
 }
 
 TEST_F(ItemDetails, EnterAfterABarCodeMovesOnAndSavesNothing)

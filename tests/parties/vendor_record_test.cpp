@@ -43,4 +43,10 @@ TEST_F(VendorRecordTest, NotesAreKeptWithANewVendorAndAChangeOfThemIsLost)
     EXPECT_FALSE(form->isVisible());
     stored[4] = "Cork";
     EXPECT_EQ(Stored(), Table({stored}));
+
+    Open(0);
+    QString told;
+    QObject::connect(&StatusLine::Get(), &StatusLine::Told, form.get(), [&told](const QString& text) { told = text; });
+    Click(form->cmdOk);
+    EXPECT_EQ(told, "") << "no row was saved";
 }
