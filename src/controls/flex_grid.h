@@ -168,6 +168,8 @@ private:
     int m_hiddenRow = 0; ///< was current until the filter hid all rows
     bool m_setByCode = false;
     QTimer m_tintEnd;
+    mutable qint64 m_plainPalette = -1; ///< the key of the palette that the striped one was made from
+    mutable QPalette m_stripedPalette;
     int m_searchColumn = -1;
     QString m_typed;
     QElapsedTimer m_sinceTyped;

@@ -66,8 +66,8 @@ void FlexGrid::paintEvent(QPaintEvent* event)
     if (!updatesEnabled())
         return;
     QTableView::paintEvent(event);
-    QStyleOptionViewItem option;
-    initViewItemOption(&option);
+    QStyleOption option;
+    option.palette = palette();
     const auto color = QRgb(style()->styleHint(QStyle::SH_Table_GridLineColor, &option, this));
     PaintLines(this, event->rect(), QColor::fromRgba(color));
     PaintEmptyText(this,
@@ -78,7 +78,12 @@ void FlexGrid::paintEvent(QPaintEvent* event)
 void FlexGrid::initViewItemOption(QStyleOptionViewItem* option) const
 {
     QTableView::initViewItemOption(option);
-    option->palette.setColor(QPalette::AlternateBase, StripeColor(option->palette));
+    if (const qint64 plain = option->palette.cacheKey(); plain != m_plainPalette) {
+        m_plainPalette = plain;
+        m_stripedPalette = option->palette;
+        m_stripedPalette.setColor(QPalette::AlternateBase, StripeColor(option->palette));
+    }
+    option->palette = m_stripedPalette;
 }
 
 void FlexGrid::focusInEvent(QFocusEvent* event)

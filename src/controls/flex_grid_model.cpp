@@ -79,10 +79,6 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const
         return QVariant(CellAlignment(row, col));
     case Qt::UserRole:
         return col == 0 ? QVariant(RowData(row)) : QVariant();
-    case TintRole:
-        return row == m_tinted;
-    case MarkRole:
-        return IsMarked(row, col);
     case Qt::ToolTipRole:
         return IsMarked(row, col) ? m_markMeaning : QVariant();
     case Qt::AccessibleTextRole:
@@ -90,6 +86,13 @@ QVariant FlexGridModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+CellLook FlexGridModel::Look(const QModelIndex& cell) const
+{
+    const int row = RowAt(cell.row());
+    const int col = cell.column();
+    return {ShownText(row, col), CellAlignment(row, col), IsMarked(row, col), row == m_tinted};
 }
 
 QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int role) const

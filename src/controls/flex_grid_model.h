@@ -8,21 +8,26 @@
 
 #include <vector>
 
+/// A cell as it is painted.
+struct CellLook {
+    QString text; ///< or as much of it as can be seen
+    Qt::Alignment alignment;
+    bool isMarked = false;
+    bool isTinted = false;
+};
+
 /// The grid's rows as Qt sees them: without the title row, so that list row 0 is grid row 1. The row data is
 /// `Qt::UserRole` of column 0. A filter hides rows from the views alone: `place` is a row's number among those that
 /// show, which is Qt's row, `row` its number in the whole list.
 class FlexGridModel : public QAbstractTableModel {
 public:
-    /// True in the marked column of a marked row.
-    static constexpr int MarkRole = Qt::UserRole + 1;
-    /// True in the tinted row.
-    static constexpr int TintRole = Qt::UserRole + 2;
-
     explicit FlexGridModel(QObject* parent);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    /// All that a cell's painter asks for, which takes a fifth of asking role by role.
+    CellLook Look(const QModelIndex& cell) const;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     /// The row that is tinted; -1 for none.

@@ -79,15 +79,23 @@ void PaintText(QPainter* painter, const QStyleOptionViewItem& cell, const QStyle
     const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
     const QTextLayout& text = texts.LaidOut(cell, room.width());
+    const QTextLine line = text.lineAt(0);
 
-    painter->save();
-    painter->setClipRect(cell.rect);
-    style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    if (cell.backgroundBrush.style() == Qt::SolidPattern)
+        painter->fillRect(cell.rect, cell.backgroundBrush);
+    else
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    const bool sticksOut = line.naturalTextWidth() > room.width() || line.height() > cell.rect.height();
+    if (sticksOut) {
+        painter->save();
+        painter->setClipRect(cell.rect);
+    }
     painter->setPen(TextColor(cell));
-    const QSize size(room.width(), int(text.lineAt(0).height()));
+    const QSize size(room.width(), int(line.height()));
     text.draw(painter,
         QStyle::alignedRect(cell.direction, cell.displayAlignment & Qt::AlignVertical_Mask, size, room).topLeft());
-    painter->restore();
+    if (sticksOut)
+        painter->restore();
 }
 } // namespace
 
@@ -138,11 +146,6 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
         PaintText(painter, cell, style, m_texts);
 }
 
-QString CellDelegate::displayText(const QVariant& value, const QLocale&) const
-{
-    return FlexGridModel::OnOneLine(value.toString());
-}
-
 bool CellDelegate::helpEvent(
     QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option, const QModelIndex& index)
 {
@@ -159,14 +162,19 @@ bool CellDelegate::helpEvent(
 
 void CellDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    const CellLook look = static_cast<const FlexGridModel&>(*index.model()).Look(index);
+    option->index = index;
+    option->styleObject = nullptr;
+    option->features |= QStyleOptionViewItem::HasDisplay;
+    option->text = FlexGridModel::OnOneLine(look.text);
+    option->displayAlignment = look.alignment;
     option->state &= ~QStyle::State_HasFocus;
-    if (index.data(FlexGridModel::TintRole).toBool()) {
+    if (look.isTinted) {
         option->state &= ~QStyle::State_Selected;
         option->backgroundBrush =
             Blended(option->palette.color(QPalette::Base), option->palette.color(QPalette::Highlight), TintStrength);
     }
-    if (!index.data(FlexGridModel::MarkRole).toBool())
+    if (!look.isMarked)
         return;
     static const QIcon sign(new WarningSign);
     option->icon = sign;

@@ -21,13 +21,12 @@ void PaintLines(QTableView* view, const QRect& part, const QColor& color);
 void PaintEmptyText(QAbstractItemView* view, const QString& text);
 
 /// Paints a cell on one line, without a frame around the current one: it is rows that the user picks. A marked cell
-/// gets a sign and a colour.
+/// gets a sign and a colour. For a view on a FlexGridModel.
 class CellDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    QString displayText(const QVariant& value, const QLocale&) const override;
     /// A cut cell tells its text, a marked one what the mark means.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
         const QModelIndex& index) override;

@@ -24,6 +24,10 @@ SteadyLabel::SteadyLabel(QWidget* parent)
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     // With a background of its own it is painted without all that lies below it.
     setAutoFillBackground(true);
+    // To shape words takes longer than to draw them, and numbers have no pairs to be set closer.
+    QFont unshaped = font();
+    unshaped.setStyleStrategy(QFont::PreferNoShaping);
+    setFont(unshaped);
 }
 
 void SteadyLabel::Show(const QString& text)

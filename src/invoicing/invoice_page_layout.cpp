@@ -163,10 +163,11 @@ QLayout* InvoicePage::PaymentAndTotals()
     lblLabels_26->setMaximumWidth(WidestTaxName);
     auto* totalCaption = new QLabel(tr("Total:"));
     lblTotal->setAccessibleName(tr("Total"));
-    QFont bold = lblTotal->font();
-    bold.setBold(true);
-    lblTotal->setFont(bold);
-    totalCaption->setFont(bold);
+    for (QLabel* label : {totalCaption, static_cast<QLabel*>(lblTotal)}) {
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+    }
     constexpr int RoomOfAFigure = 110;
     for (SteadyLabel* figure : {lblSecondTax, lblTotal}) {
         figure->LetSelect();
