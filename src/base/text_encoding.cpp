@@ -66,9 +66,13 @@ QByteArray TextEncoding::Decode(const QByteArray& bytes) const
     // In pieces, since a whole text of two bytes a letter would take three times the room.
     constexpr qsizetype Piece = 1 << 20;
     QStringDecoder decoder(m_name.constData());
+    // It keeps the half of a character that a piece ends in.
+    QStringEncoder encoder(QStringConverter::Utf8);
     QByteArray utf8;
-    for (qsizetype start = 0; start < bytes.size(); start += Piece)
-        utf8 += QString(decoder(QByteArrayView(bytes).sliced(start, qMin(Piece, bytes.size() - start)))).toUtf8();
+    for (qsizetype start = 0; start < bytes.size(); start += Piece) {
+        const QString piece = decoder(QByteArrayView(bytes).sliced(start, qMin(Piece, bytes.size() - start)));
+        utf8 += encoder(piece);
+    }
     return utf8;
 }
 

@@ -43,9 +43,10 @@ TEST(CsvCells, ThatAreTooManyFailAndTextIsUtf8OrElseInTheCodePageOfSpreadsheets)
 
     EXPECT_EQ(TextAsUtf8("\xEF\xBB\xBF\143af\xC3\xA9"), "caf\xC3\xA9");
     EXPECT_EQ(TextAsUtf8("caf\xE9 \x80 \x96"), "caf\xC3\xA9 \xE2\x82\xAC \xE2\x80\x93");
-    EXPECT_EQ(TextAsUtf8(QByteArray("\xFF\xFE\351\0a\0", 6)) + TextAsUtf8("\xFE\xFF\x20\xAC"),
-        "\xC3\xA9"
-        "a\xE2\x82\xAC");
+    EXPECT_EQ(
+        TextAsUtf8(QByteArray("\xFF\xFE\351\0a\0", 6)) + TextAsUtf8("\xFE\xFF\x20\xAC"), "\xC3\xA9\141\xE2\x82\xAC");
+    EXPECT_EQ(TextAsUtf8("\xFF\xFE" + QByteArray("\x3D\xD8\0\xDE", 4).repeated(1 << 19)),
+        QByteArray("\xF0\x9F\x98\x80").repeated(1 << 19));
     EXPECT_EQ(TextAsUtf8(QByteArray(3 << 20, '\xE9')), QByteArray("\xC3\xA9").repeated(3 << 20));
 }
 
