@@ -815,6 +815,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Es ist nicht genug auf Lager, um %1 hinzuzufügen.</translation>
     </message>
     <message>
+        <source>%1 was not added: the tax rate of its item no longer exists.</source>
+        <translation>%1 wurde nicht hinzugefügt: Den Steuersatz des Artikels gibt es nicht mehr.</translation>
+    </message>
+    <message>
         <source>Lines: %1   Pieces: %2</source>
         <translation>Positionen: %1   Stück: %2</translation>
     </message>

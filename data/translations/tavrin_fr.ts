@@ -815,6 +815,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Le stock ne suffit pas pour ajouter %1.</translation>
     </message>
     <message>
+        <source>%1 was not added: the tax rate of its item no longer exists.</source>
+        <translation>%1 n’a pas été ajouté&#xa0;: le taux de taxe de l’article n’existe plus.</translation>
+    </message>
+    <message>
         <source>Lines: %1   Pieces: %2</source>
         <translation>Lignes&#xa0;: %1   Pièces&#xa0;: %2</translation>
     </message>

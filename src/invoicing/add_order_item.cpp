@@ -158,8 +158,9 @@ QString frmAddOrderItem::PriceText(qint64 itemId) const
 void frmAddOrderItem::TakeItem()
 {
     const qint64 itemId = gItems->CurrentRowData();
+    // Esc in the list shows all items again, as it says.
     if (itemId == 0 && gItems->HidesAllRows())
-        return;
+        return gItems->setFocus();
     const QString quantity = txtQuantityToAdd->text();
     SelectedItemQuantity = IsNumeric(quantity) ? CLng(quantity) : 1;
     if (!IsNumeric(txtItemPrice->text()))

@@ -84,7 +84,7 @@ void frmResCustSearch::SelectCustomer()
     // A list that is empty, or whose filter hides all rows, has nothing to pick: its title row is no customer.
     const qint64 customerId = gcust->CurrentRowData();
     if (customerId == 0)
-        return;
+        return gcust->setFocus();
     SelectedCustomerID = qint16(ToInteger16(customerId));
     accept();
 }

@@ -148,14 +148,17 @@ private:
     void AddOrderItem();
     static void TellUnknownCode();
     void AddBarCodeItem();
-    void ShowScanned(const QString& code, qint64 lineId, bool isAdded);
+    /// "" where the scan of `code` has added to `line`, which is as AddLine returned it.
+    static QString WhyNotAdded(const QString& code, std::optional<qint64> line);
+    void ShowScanned(qint64 lineId, const QString& whyNotAdded);
     void ShowScanLine();
     void AddGroupItems();
     bool AddChosenGroupItems();
     void EditOrderItem();
     void EditLine(qint64 lineId);
     void DeleteOrderItem();
-    /// Within a batch. Returns the line that the item is in then, 0 for none; nothing when it is short of stock.
+    /// Within a batch. Returns the line that the item is in then, 0 where it or its tax rate is gone; nothing when it
+    /// is short of stock.
     std::optional<qint64> AddLine(
         qint32 itemId, qint32 quantity, double discountPercent, bool isWarranty, Currency unitPrice);
     qint32 QuantityInRow(int row) const;

@@ -45,15 +45,22 @@ void InvoicePage::AddBarCodeItem()
     // Not cleared, which could be undone: a day's scans would never be forgotten.
     txtBarcode->setText(QString());
     txtBarcode->setFocus();
-    ShowScanned(code, line ? *line : LineOfItem(scanned->itemId), line.has_value());
+    ShowScanned(line ? *line : LineOfItem(scanned->itemId), WhyNotAdded(code, line));
 }
 
-void InvoicePage::ShowScanned(const QString& code, qint64 lineId, bool isAdded)
+QString InvoicePage::WhyNotAdded(const QString& code, std::optional<qint64> line)
 {
-    PlayScanSound(isAdded ? ScanSound::Found : ScanSound::NotFound);
-    if (!isAdded) {
+    if (!line)
+        return tr("There is not enough in stock to add %1.").arg(code);
+    return *line == 0 ? tr("%1 was not added: the tax rate of its item no longer exists.").arg(code) : QString();
+}
+
+void InvoicePage::ShowScanned(qint64 lineId, const QString& whyNotAdded)
+{
+    PlayScanSound(whyNotAdded.isEmpty() ? ScanSound::Found : ScanSound::NotFound);
+    if (!whyNotAdded.isEmpty()) {
         ShowScanLine();
-        ShowStatus(tr("There is not enough in stock to add %1.").arg(code));
+        ShowStatus(whyNotAdded);
     }
     if (const int row = gNewInvoice->RowOf(lineId); row > 0)
         gNewInvoice->ShowTinted(row);

@@ -79,6 +79,8 @@ void CustomersPanel::AddCustomer()
 
 void CustomersPanel::EditSelected()
 {
+    if (gcust->HidesAllRows())
+        return;
     // Where no customer is selected the last one edited is.
     EditCustomer(gcust->CurrentRowData(), window());
     RefreshCustomerList(1, frmCustomer::gEditCustomerId);

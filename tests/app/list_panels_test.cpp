@@ -289,12 +289,14 @@ TEST_P(ListPanelTest, AnEmptyListAnswersAsItsHandlersSay)
     MakeRows();
     Open();
     list->SetRowData(1, -1);
+    frmCustomer::gEditCustomerId = 12;
     for (const char* filter : {"", "no row has this"}) {
         list->SetFilter(filter);
         if (GetParam().emptyOpens)
             answers.ExpectMessage(GetParam().nothingSelected, Icon::Information);
         Click(Button(GetParam().open));
     }
+    EXPECT_EQ(list->ShownRows(), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Panels, ListPanelTest, ::testing::Values(Invoices, Customers, Vendors, Inventory, Groups));

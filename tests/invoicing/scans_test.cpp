@@ -223,6 +223,9 @@ TEST_F(Scans, OneThatIsShortOfStockAddsNothingAndTheStatusLineTells)
     EXPECT_EQ(Lines(), Table());
     EXPECT_EQ(told, "There is not enough in stock to add 101*" + Brush + ".");
     EXPECT_EQ(scanLine, "Lines: 0   Pieces: 0   Last code: 101*" + Brush);
+    Run("UPDATE item SET TaxRateID = 4711");
+    Scan(Brush);
+    EXPECT_EQ(told, Brush + " was not added: the tax rate of its item no longer exists.");
 }
 
 } // namespace
