@@ -19,9 +19,7 @@ constexpr const char* PriceField = "price";
 
 void AddPrice(const Recordset& item, int price, GridFill& fill)
 {
-    if (item.IsNull(price) && !item.IsNull(PriceListId))
-        throw InvalidUseOfNull();
-    fill.Add(FormatCurrency(item.IsNull(PriceListId) ? Currency() : item.Money(price)));
+    fill.Add(FormatCurrency(item.IsNull(price) ? Currency() : item.Money(price)));
 }
 
 /// Their stock is at or below their reorder level.

@@ -20,7 +20,7 @@ QString PriceOf(qint32 itemId, const QString& priceListId)
         gConnection->Execute(Sql("SELECT price FROM itempricelist WHERE itemid = {gEditItemId} AND pricelistid = {Tag}")
                                  .Number("gEditItemId", itemId)
                                  .Raw("Tag", priceListId));
-    return FormatCurrency(price.Eof() ? Currency() : price["price"].ToCurrency());
+    return FormatCurrency(price.Eof() || price.IsNull(0) ? Currency() : price.Money(0));
 }
 
 } // namespace

@@ -108,6 +108,10 @@ TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOneAndANullOrALocat
     for (const char* id : {"SubCategoryID", "VendorID", "TaxRateID"})
         EXPECT_EQ(errorOf(id, "NULL"), 0) << id;
     EXPECT_EQ(form->cboCategory->Text() + form->cboVendor->Text() + form->cboTaxRate->Text(), "N/AN/AN/A");
+
+    Run("UPDATE ItemPriceList SET Price = NULL");
+    Open(Single("SELECT MAX(id) FROM item").toInt());
+    EXPECT_EQ(form->txtPriceList_0->text(), "$0.00");
 }
 
 TEST_F(ItemDetails, EnterAfterABarCodeMovesOnAndSavesNothing)
