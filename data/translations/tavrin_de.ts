@@ -1605,6 +1605,14 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <source>Close the message first, then scan again.</source>
         <translation>Schließen Sie zuerst die Meldung und scannen Sie dann noch einmal.</translation>
     </message>
+    <message>
+        <source>Close this form first, then scan again.</source>
+        <translation>Schließen Sie zuerst dieses Formular und scannen Sie dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>Open an invoice first, then scan again.</source>
+        <translation>Öffnen Sie zuerst eine Rechnung und scannen Sie dann noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsFrame</name>

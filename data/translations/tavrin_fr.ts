@@ -1605,6 +1605,14 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <source>Close the message first, then scan again.</source>
         <translation>Fermez d&apos;abord le message, puis scannez à nouveau.</translation>
     </message>
+    <message>
+        <source>Close this form first, then scan again.</source>
+        <translation>Fermez d&apos;abord ce formulaire, puis scannez à nouveau.</translation>
+    </message>
+    <message>
+        <source>Open an invoice first, then scan again.</source>
+        <translation>Ouvrez d&apos;abord une facture, puis scannez à nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>StatisticsFrame</name>

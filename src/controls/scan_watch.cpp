@@ -164,8 +164,8 @@ private:
     /// A list that has dropped down takes Enter before it is pressed, when shortcuts are looked for.
     bool IsEndOfAScan(QKeyEvent* key) const
     {
-        const bool isEnd = QApplication::activePopupWidget() && TakerNow() && GoesOn(key) && IsEnter(key)
-            && m_code.size() >= ShortestScan;
+        const bool isEnd =
+            QApplication::activePopupWidget() && GoesOn(key) && IsEnter(key) && m_code.size() >= ShortestScan;
         if (isEnd)
             key->accept();
         return isEnd;
@@ -208,10 +208,7 @@ private:
         return false;
     }
 
-    bool HasToWait(const QWidget* target) const
-    {
-        return BoxInFront() || (TakerNow() && !TextBefore::IsTextBox(target));
-    }
+    bool HasToWait(const QWidget* target) const { return BoxInFront() || !TextBefore::IsTextBox(target); }
 
     void Hold(QWindow* window, const QKeyEvent* key)
     {
@@ -276,10 +273,12 @@ private:
         const QString code = m_code;
         const Taker* taker = TakerNow();
         QWidget* target = Target();
-        const bool isKnown = taker && target != taker->calls.box && IsKnown(*taker, code);
+        if (!taker)
+            return IsStrayTaken(target);
+        const bool isKnown = target != taker->calls.box && IsKnown(*taker, code);
         const bool isTyped =
             TextBefore::IsTextBox(target) && !(target->property(KeepsCodesOut).toBool() && IsRetailCode(code));
-        if (!taker || target == taker->calls.box || (!isKnown && isTyped)) {
+        if (target == taker->calls.box || (!isKnown && isTyped)) {
             EndBurst();
             return false;
         }
@@ -288,6 +287,22 @@ private:
             SendOn(*taker, code);
         else
             Guarded(std::function(taker->calls.tellUnknown));
+        return true;
+    }
+
+    /// No screen that takes scans is worked with. What a text box holds can be seen and mended, and so it stays; but in
+    /// a form Enter would save it, and in a list it would open the current row.
+    bool IsStrayTaken(const QWidget* target)
+    {
+        const bool isInForm = QApplication::activeModalWidget();
+        if (TextBefore::IsTextBox(target)) {
+            EndBurst();
+            return isInForm;
+        }
+        TakeBack();
+        PlayScanSound(ScanSound::NotFound);
+        ShowStatus(
+            isInForm ? tr("Close this form first, then scan again.") : tr("Open an invoice first, then scan again."));
         return true;
     }
 
@@ -409,7 +424,10 @@ private:
     {
         taker.box->FocusAll();
         taker.box->insert(code);
-        taker.lookUp->click();
+        if (taker.lookUp)
+            taker.lookUp->click();
+        else
+            taker.box->selectAll();
     }
 
     int m_gap = UsualGap;

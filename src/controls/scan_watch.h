@@ -15,13 +15,16 @@ class QMessageBox;
 ///
 /// While the user works with a screen that takes scans, or with a dialog of it, a scan of a known code goes to its bar
 /// code box, wherever the focus is: nothing else of it shows, and an open dialog is cancelled. An unknown code is just
-/// typed in a text box, and told to be unknown everywhere else. No scan answers a message box, in all of the program.
+/// typed in a text box, and told to be unknown everywhere else.
+///
+/// Where no screen takes scans, a scan in a text box is typed, but saves no form by its Enter; everywhere else it does
+/// nothing, and the status line says what to do first. No scan answers a message box, in all of the program.
 
 /// A screen that takes scans.
 struct ScanTaker {
     QWidget* screen; ///< a panel or form; the forms that it opens are its children
     TextBox* box; ///< the bar code box, where keys do what they always do
-    QPushButton* lookUp; ///< what Enter in the box runs
+    QPushButton* lookUp; ///< what a code that has come to the box runs; none, and it stays there, selected
     std::function<bool(const QString& code)> isKnown;
     std::function<void()> tellUnknown;
 };

@@ -1,6 +1,7 @@
 #include "inventory/item_details.h"
 
 #include "controls/layout.h"
+#include "controls/scan_watch.h"
 #include "db/connection.h"
 #include "db/new_row.h"
 #include "inventory/item_details_scroll.h"
@@ -169,6 +170,7 @@ void frmItemDetails::FitToScreen()
 void frmItemDetails::Connect()
 {
     m_barcode->installEventFilter(this);
+    TakeScans({this, m_barcode, nullptr, [](const QString&) { return true; }, nullptr});
     On(cboCategory, &ComboBox::Click, this, &frmItemDetails::ShowSubCategories);
     On(cboWarehouse, &ComboBox::Click, this, &frmItemDetails::ShowLocations);
     On(cmdOk, &QPushButton::clicked, this, &frmItemDetails::Save);

@@ -238,6 +238,30 @@ TEST_F(ScanWatching, AFormThatAClickOpensRightBehindAScanIsClosedAsWellAndHoldsN
     EXPECT_TRUE(QTest::qWaitFor([this] { return events == QStringList{Known}; }));
 }
 
+TEST_F(ScanWatching, WhereNoScreenTakesScansEnterNeitherSavesNorOpensAnything)
+{
+    Form form("frmOther", {}, nullptr);
+    form.setLayout(column({txtName, cboList, chkPaid, grid, cmdOther}));
+    cmdOther->setDefault(true);
+    WhenFormShows<Form>([&](Form&) {
+        const QStringList before = State();
+        for (QWidget* control : QList<QWidget*>{cboList, chkPaid, grid, cmdOther}) {
+            control->setFocus();
+            ScannerTypes(Known);
+        }
+        EXPECT_EQ(State(), before);
+        EXPECT_EQ(events, QStringList(4, "Close this form first, then scan again."));
+        txtName->FocusAll();
+        ScannerTypes(Known);
+        EXPECT_EQ(txtName->text(), Known);
+        EXPECT_EQ(events.size(), 4);
+        HandTypes("\n");
+        EXPECT_EQ(events.takeLast(), "other");
+        form.reject();
+    });
+    form.ShowModal();
+}
+
 TEST_F(ScanWatching, WithAGapOfZeroKeysAreJustKeys)
 {
     SaveConfig("Scan Gap", "0");

@@ -117,7 +117,12 @@ TEST_F(ItemDetails, ALocationWithoutAWarehouseShowsTheDefaultOneAndANullOrALocat
 TEST_F(ItemDetails, EnterAfterABarCodeMovesOnAndSavesNothing)
 {
     Open(NewRow);
-    Type(form->txtFields_0, "4006381333931");
+    for (QWidget* control : QList<QWidget*>{form->txtFields_3, form->cboVendor, form->cmdOk}) {
+        control->setFocus();
+        ScannerTypes("4006381333931");
+        EXPECT_EQ(form->txtFields_0->selectedText(), "4006381333931");
+    }
+    EXPECT_FALSE(form->txtFields_3->text().contains("4006381333931"));
     Press(form->txtFields_0, Qt::Key_Return);
     EXPECT_TRUE(form->isVisible());
     EXPECT_TRUE(form->txtPriceList_0->hasFocus());
