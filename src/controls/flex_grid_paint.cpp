@@ -2,6 +2,7 @@
 
 #include "base/texts.h"
 #include "controls/flex_grid_model.h"
+#include "controls/layout.h"
 
 #include <QHelpEvent>
 #include <QIconEngine>
@@ -153,10 +154,10 @@ bool CellDelegate::helpEvent(
     if (event->type() != QEvent::ToolTip || !isCut)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const QString text = index.data(Qt::DisplayRole).toString();
-    QString tip = Shortened(text, TooltipCharacters).toString().toHtmlEscaped();
+    QString tip = Shortened(text, TooltipCharacters).toString();
     if (const QString mark = index.data(Qt::ToolTipRole).toString(); !mark.isEmpty())
-        tip += QStringLiteral("<br>") + mark.toHtmlEscaped();
-    QToolTip::showText(event->globalPos(), tip, view, option.rect);
+        tip.append(u'\n').append(mark);
+    QToolTip::showText(event->globalPos(), PlainToolTip(tip), view, option.rect);
     return true;
 }
 
@@ -210,7 +211,7 @@ bool TitleHeader::viewportEvent(QEvent* event)
         const auto* help = static_cast<QHelpEvent*>(event);
         const int col = logicalIndexAt(help->pos());
         const bool isCut = col >= 0 && Elided(col) != Title(col);
-        QToolTip::showText(help->globalPos(), isCut ? Title(col).toHtmlEscaped() : QString(), viewport());
+        QToolTip::showText(help->globalPos(), isCut ? PlainToolTip(Title(col)) : QString(), viewport());
         return true;
     }
     return QHeaderView::viewportEvent(event);

@@ -289,10 +289,16 @@ void ShowAsItStands(QLabel* label, const QString& text)
         SetLabelOf(label, control);
 }
 
+QString PlainToolTip(const QString& text)
+{
+    // Without a tag Qt would not wrap it, and would show the escapes.
+    return text.isEmpty() ? QString()
+                          : QStringLiteral("<span style='white-space:pre-wrap'>%1</span>").arg(text.toHtmlEscaped());
+}
+
 void SetPlainToolTip(QWidget* widget, const QString& text)
 {
-    // Without a tag Qt would show the escapes.
-    widget->setToolTip(text.isEmpty() ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()));
+    widget->setToolTip(PlainToolTip(text));
 }
 
 int TwipsToPixels(int twips)

@@ -62,7 +62,8 @@ void SetLabelOf(QLabel* label, QWidget* control);
 /// Lets `label`, which names a control, show a text of the user as it stands: no markup and no access key is read into
 /// it.
 void ShowAsItStands(QLabel* label, const QString& text);
-/// Likewise a tooltip, wrapped; none for "".
+/// Likewise a tooltip, wrapped where it has no breaks of its own; none for "".
+QString PlainToolTip(const QString& text);
 void SetPlainToolTip(QWidget* widget, const QString& text);
 
 /// Twips to logical pixels and back. Told sizes are meant for the platform's standard font, where 15 twips are a pixel,

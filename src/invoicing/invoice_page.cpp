@@ -18,14 +18,14 @@ ShownLine AddCells(const Recordset& line, TaxRateColumn& taxRates, GridFill& fil
     const qint64 quantity = line.IsNull(Quantity) ? 0 : line.Long(Quantity);
     const Currency amount = line.IsNull(Amount) ? Currency() : line.Money(Amount);
     const double taxPercentage = line.IsNull(TaxRatePercentage) ? 0 : line[TaxRatePercentage].ToDouble();
-    const ShownLine shown{quantity, LineTotal(quantity, amount, taxPercentage)};
+    const Currency total = LineTotal(quantity, amount, taxPercentage);
     fill.Add(line.Text(Quantity));
     fill.Add(line.Text(Number));
     fill.Add(line.Text(Name));
     fill.Add(FormatCurrency(amount));
     fill.Add(taxRates.Text(line.Text(TaxRateName), taxPercentage));
-    fill.Add(FormatCurrency(shown.total));
-    return shown;
+    fill.Add(FormatCurrency(total));
+    return {quantity, AsShown(total)};
 }
 
 } // namespace

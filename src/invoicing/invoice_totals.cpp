@@ -30,10 +30,9 @@ std::string_view TaxRateColumn::Text(std::string_view name, double percentage)
     return m_text;
 }
 
-void RunningTotal::Add(Currency lineTotal)
+double AsShown(Currency amount)
 {
-    // What FormatCurrency shows reads back as just this: the amount at the locale's digits, half away from zero.
-    m_total += lineTotal.RoundedHalfAway(CurrencyDigits()).ToDouble();
+    return amount.RoundedHalfAway(CurrencyDigits()).ToDouble();
 }
 
 InvoiceTotals RunningTotal::Totals() const

@@ -27,10 +27,13 @@ private:
     int m_formats = -1; ///< their generation, which the text is written in
 };
 
+/// An amount as FormatCurrency shows it: at the locale's digits, rounded half away from zero.
+double AsShown(Currency amount);
+
 /// What a line adds to the figures of its invoice.
 struct ShownLine {
     qint64 quantity = 0;
-    Currency total;
+    double total = 0; ///< as it is shown
 };
 
 /// The figures under the lines, unrounded: they are rounded only where they are shown.
@@ -42,7 +45,7 @@ struct InvoiceTotals {
 /// Adds up an invoice as its reader would: from the figures that the lines show.
 class RunningTotal {
 public:
-    void Add(Currency lineTotal);
+    void Add(double shownTotal) { m_total += shownTotal; }
     /// The totals with the secondary tax as it is set up now.
     InvoiceTotals Totals() const;
 

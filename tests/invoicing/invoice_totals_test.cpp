@@ -20,8 +20,8 @@ TEST(Totals, OfTheWorkedExample)
     SecondaryTax::SecondaryTaxEnable = true;
     SecondaryTax::SecondaryTaxPercentage = 5;
     RunningTotal running;
-    running.Add(LineTotal(3, Money("9.99"), 8.25));
-    running.Add(LineTotal(1, Money("5"), 0));
+    running.Add(AsShown(LineTotal(3, Money("9.99"), 8.25)));
+    running.Add(AsShown(LineTotal(1, Money("5"), 0)));
 
     EXPECT_EQ(FormatCurrency(running.Totals().secondTax), "$1.87");
     EXPECT_EQ(FormatCurrency(running.Totals().total), "$39.31");
@@ -44,7 +44,7 @@ TEST(Totals, SumTheFiguresShown)
         double shown = 0;
         for (int line = 0; line < 500; ++line) {
             const Currency lineTotal = Currency::FromTenThousandths(qint64(random() % 200'000'000) - 50'000'000);
-            running.Add(lineTotal);
+            running.Add(AsShown(lineTotal));
             shown += CCur(FormatCurrency(lineTotal)).ToDouble();
         }
         EXPECT_EQ(running.Totals().total, shown) << locale;
