@@ -3036,6 +3036,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>%1 x %2 eingegangen, jetzt %3</translation>
     </message>
     <message>
+        <source>Nothing of %1 was received: Enter was not pressed after its quantity.</source>
+        <translation>%1 wurde nicht eingebucht: Nach der Menge wurde nicht die Eingabetaste gedrückt.</translation>
+    </message>
+    <message>
         <source>There are no items to receive stock of.</source>
         <translation>Es gibt keine Artikel für einen Wareneingang.</translation>
     </message>

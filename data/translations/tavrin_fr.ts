@@ -3036,6 +3036,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>%1 x %2 reçus, maintenant %3</translation>
     </message>
     <message>
+        <source>Nothing of %1 was received: Enter was not pressed after its quantity.</source>
+        <translation>Rien n&apos;a été reçu de %1 : la touche Entrée n&apos;a pas été pressée après la quantité.</translation>
+    </message>
+    <message>
         <source>There are no items to receive stock of.</source>
         <translation>Il n&apos;y a aucun article à réceptionner.</translation>
     </message>

@@ -422,6 +422,8 @@ private:
 
     static void Take(const ScanTaker& taker, const QString& code)
     {
+        if (taker.prepare)
+            Guarded([&] { taker.prepare(code); });
         taker.box->FocusAll();
         taker.box->insert(code);
         if (taker.lookUp)

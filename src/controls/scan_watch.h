@@ -27,6 +27,8 @@ struct ScanTaker {
     QPushButton* lookUp; ///< what a code that has come to the box runs; none, and it stays there, selected
     std::function<bool(const QString& code)> isKnown;
     std::function<void()> tellUnknown;
+    /// Before a known code goes to the box from elsewhere on the screen.
+    std::function<void(const QString& code)> prepare = nullptr;
 };
 
 /// From now on, as long as the screen lives. Reads the setting.

@@ -60,7 +60,8 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     On(cmdAddBarCodeItem, &QPushButton::clicked, this, &frmReceiveStock::FindByBarcode);
     // A quote would end the program; where it was not meant for the bar code box, that would be out of place.
     const auto isKnown = [](const QString& code) { return !code.contains(u'\'') && FindItemByBarCode(code); };
-    TakeScans({this, txtBarcode, cmdAddBarCodeItem, isKnown, [] { TellUnknownCode(); }});
+    TakeScans({this, txtBarcode, cmdAddBarCodeItem, isKnown, [] { TellUnknownCode(); },
+        [this](const QString& code) { DropQuantityOfOther(FindItemByBarCode(code).value_or(0)); }});
     KeepCodesOut({txtAddQuantity});
     On(cmdUpdateStockLevel, &QPushButton::clicked, this, &frmReceiveStock::UpdateStockLevel);
 }
@@ -99,6 +100,17 @@ void frmReceiveStock::FindByBarcode()
     PlayScanSound(ScanSound::Found);
     RefreshInventoryList(1, *itemId);
     txtAddQuantity->FocusAll();
+}
+
+/// What was typed for the item before, and not yet booked, is not a quantity of the one scanned now.
+void frmReceiveStock::DropQuantityOfOther(qint64 itemId)
+{
+    const QString unset = QStringLiteral("0");
+    if (txtAddQuantity->text() == unset || gInventory->CurrentRowData() == itemId)
+        return;
+    txtAddQuantity->setText(unset);
+    ShowStatus(tr("Nothing of %1 was received: Enter was not pressed after its quantity.")
+                   .arg(gInventory->CellText(gInventory->Row(), "name")));
 }
 
 /// Where nobody else wrote, the item's row alone is read anew.

@@ -27,6 +27,7 @@ private:
     /// Selects the row of `selectId`, else row number `row`; reads the items anew when they may have changed.
     void RefreshInventoryList(int row, qint64 selectId);
     void LoadItems(int row, qint64 selectId);
+    void DropQuantityOfOther(qint64 itemId);
     void AddToStock(qint64 itemId, const QString& quantity);
     static void TellUnknownCode();
     void FindByBarcode();

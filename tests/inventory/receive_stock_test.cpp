@@ -71,7 +71,12 @@ TEST_F(ReceiveStock, AScanInTheQuantityBoxFindsItsItemAndBooksNothing)
         EXPECT_TRUE(form->txtAddQuantity->hasFocus());
         EXPECT_EQ(form->txtAddQuantity->selectedText(), "0");
         EXPECT_EQ(form->gInventory->CurrentRowData(), item);
+        EXPECT_EQ(told.contains("Nothing of Saw was received"), item == drill);
+        HandTypes("3");
     }
+    ScannerTypes("100000");
+    EXPECT_EQ(form->txtAddQuantity->selectedText(), "3") << "the same item";
+    form->txtAddQuantity->setText("0");
     answers.ExpectMessage("Item not found.", Icon::Critical);
     ScannerTypes("4012345678901");
     EXPECT_EQ(form->txtAddQuantity->text(), "0");
