@@ -1372,10 +1372,6 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Seite</translation>
     </message>
     <message>
-        <source>Go to Page (Ctrl+G)</source>
-        <translation>Gehe zu Seite (Strg+G)</translation>
-    </message>
-    <message>
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
@@ -1495,6 +1491,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Reading the list...</source>
         <translation>Liste wird gelesen...</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>S&amp;ortieren nach</translation>
     </message>
 </context>
 <context>
@@ -1626,11 +1626,11 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
     <message>
         <source>Most invoices on:</source>
-        <translation>Meiste Rechnungen am:</translation>
+        <translation>Meiste Rechnungen:</translation>
     </message>
     <message>
         <source>Least invoices on:</source>
-        <translation>Wenigste Rechnungen am:</translation>
+        <translation>Wenigste Rechnungen:</translation>
     </message>
     <message>
         <source>Most popular month:</source>
@@ -2612,11 +2612,11 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>&amp;Weiter</translation>
+        <translation>&amp;Weitersuchen</translation>
     </message>
     <message>
         <source>&amp;Previous</source>
-        <translation>&amp;Zurück</translation>
+        <translation>&amp;Rückwärts suchen</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -2814,7 +2814,7 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
     <message>
         <source>Instructions - enter the group&apos;s name, add items to the group and then click close to finish.</source>
-        <translation>Hinweis - Geben Sie den Namen der Gruppe ein, fügen Sie Artikel hinzu und schließen Sie dann das Fenster.</translation>
+        <translation>Hinweis - Geben Sie den Namen der Gruppe ein, fügen Sie Artikel hinzu und klicken Sie dann auf OK.</translation>
     </message>
     <message>
         <source>Item Group Name:</source>
@@ -3089,6 +3089,14 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     <message>
         <source>Reading the items...</source>
         <translation>Artikel werden gelesen...</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Bezeichnung</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
     </message>
 </context>
 <context>

@@ -1372,10 +1372,6 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Page</translation>
     </message>
     <message>
-        <source>Go to Page (Ctrl+G)</source>
-        <translation>Aller à la page (Ctrl+G)</translation>
-    </message>
-    <message>
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
@@ -1495,6 +1491,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Reading the list...</source>
         <translation>Lecture de la liste...</translation>
+    </message>
+    <message>
+        <source>S&amp;ort By</source>
+        <translation>&amp;Trier par</translation>
     </message>
 </context>
 <context>
@@ -2814,7 +2814,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Instructions - enter the group&apos;s name, add items to the group and then click close to finish.</source>
-        <translation>Instructions - saisissez le nom du groupe, ajoutez-y des articles, puis fermez la fenêtre pour terminer.</translation>
+        <translation>Instructions - saisissez le nom du groupe, ajoutez-y des articles, puis cliquez sur OK.</translation>
     </message>
     <message>
         <source>Item Group Name:</source>
@@ -3089,6 +3089,14 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Reading the items...</source>
         <translation>Lecture des articles...</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Désignation</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "base/clock.h"
 #include "base/dates.h"
 #include "controls/hourglass.h"
+#include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/message_box.h"
 #include "controls/window_place.h"
@@ -41,6 +42,7 @@ frmFindInvoice::frmFindInvoice(QWidget* parent)
     });
     gres->StretchWithSize();
 
+    LetKeyClickInWindow(cmdEditCustomer, Qt::Key_F2, this);
     gres->OfferOnRows({cmdEditCustomer});
     gres->SetEmptyText(tr("Press \"Start Search\" to list the invoices of these days."));
 

@@ -150,14 +150,15 @@ void PreviewWindow::AddNavigation(QToolBar* bar)
     m_next = AddAction(
         "mnuNextPage", tr("Next Page"), {QKeySequence(QStringLiteral("Ctrl+PgDown"))}, &PreviewWindow::NextPage);
     m_last = AddAction("mnuLastPage", tr("Last Page"), {QKeySequence(QStringLiteral("End"))}, &PreviewWindow::LastPage);
-    AddAction("mnuGoToPage", tr("Go to Page"), {QKeySequence(QStringLiteral("Ctrl+G"))}, &PreviewWindow::FocusPageBox);
+    const QAction* go = AddAction(
+        "mnuGoToPage", tr("Go to Page"), {QKeySequence(QStringLiteral("Ctrl+G"))}, &PreviewWindow::FocusPageBox);
     m_first->setIcon(style()->standardIcon(QStyle::SP_MediaSkipBackward));
     m_previous->setIcon(style()->standardIcon(QStyle::SP_MediaSeekBackward));
     m_next->setIcon(style()->standardIcon(QStyle::SP_MediaSeekForward));
     m_last->setIcon(style()->standardIcon(QStyle::SP_MediaSkipForward));
     txtPage->setObjectName(QStringLiteral("txtPage"));
     txtPage->setAccessibleName(tr("Page"));
-    txtPage->setToolTip(tr("Go to Page (Ctrl+G)"));
+    txtPage->setToolTip(go->toolTip());
     txtPage->setKeyboardTracking(false);
     txtPage->setMinimum(1);
     lblPages->setObjectName(QStringLiteral("lblPages"));

@@ -247,9 +247,13 @@ bool RecordList::LoadRow(const Sql& sql, const RowWriter& cells)
 
 void RecordList::SortByTitle()
 {
-    if (MouseRow() != 0 || !m_sorts)
-        return;
-    if (const char* order = m_columns.at(MouseCol()).order)
+    if (MouseRow() == 0 && m_sorts)
+        SortBy(MouseCol());
+}
+
+void RecordList::SortBy(int col)
+{
+    if (const char* order = m_columns.at(col).order)
         SetTag(QLatin1String(order));
     emit Sorted();
 }

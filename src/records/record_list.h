@@ -9,6 +9,8 @@
 
 #include <functional>
 
+class QMenu;
+
 /// Writes the cell of a column from a row of the list's statement, with one `fill.Add`. `field` is the ordinal of the
 /// column's field. What a writer remembers from row to row starts anew with each load.
 using CellWriter = std::function<void(const Recordset& row, int field, GridFill& fill)>;
@@ -56,8 +58,8 @@ public:
     /// The field's column where rows that `GridFill::MarkRow` marked bear a sign, and what it means.
     void SetMarkOf(const char* field, const QString& meaning) { SetMark(ColumnOf(field), meaning); }
 
-    /// The buttons that a right click on a row offers beside Copy and Filter; the keys in their tooltips stand there
-    /// too.
+    /// The buttons that a right click on a row offers beside Copy, Filter and Sort By; the keys in their tooltips stand
+    /// there too.
     void OfferOnRows(const QList<QPushButton*>& buttons) { m_buttons = buttons; }
     /// Down in one of the boxes by which the list is searched goes into the rows.
     void LetDownEnter(std::initializer_list<QWidget*> boxes);
@@ -102,7 +104,7 @@ public:
     void ShowFoundRowOnTop() { m_foundRowOnTop = true; }
 
 signals:
-    /// A click on a title of a list that sorts has set the order anew: the moment to load.
+    /// A title of a list that sorts was clicked or chosen from the menu, and has set the order: the moment to load.
     void Sorted();
     /// A double click or Enter on a row that is not the title row.
     void Opened();
@@ -117,6 +119,8 @@ private:
     int SortedColumn() const;
     void ShowOrder();
     void ShowMenu(const QPoint& where);
+    /// The titles that sort the list, with the sorted one checked.
+    void AddOrders(QMenu* menu);
     int SumOfWidths() const;
     /// What the cells come from, apart from the rows of the file.
     struct Source {
@@ -134,6 +138,7 @@ private:
     void SelectLoaded(int row, int foundRow);
     void GiveSpareWidth(Spare when, int room);
     void SortByTitle();
+    void SortBy(int col);
 
     QList<ListColumn> m_columns;
     int m_scrollBarRoom = 400;

@@ -2,6 +2,7 @@
 #include "controls/keys.h"
 #include "records/record_list.h"
 
+#include <QActionGroup>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -63,8 +64,11 @@ void RecordList::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     const QModelIndex cell = byKey ? currentIndex() : indexAt(event->pos());
-    if (cell.isValid())
-        ShowMenu(byKey ? viewport()->mapToGlobal(visualRect(cell).center()) : event->globalPos());
+    // By key also without a row: the order of a list can be chosen while it is empty.
+    if (byKey)
+        ShowMenu(viewport()->mapToGlobal(cell.isValid() ? visualRect(cell).center() : QPoint()));
+    else if (cell.isValid())
+        ShowMenu(event->globalPos());
 }
 
 void RecordList::ShowMenu(const QPoint& where)
@@ -83,5 +87,21 @@ void RecordList::ShowMenu(const QPoint& where)
     };
     add(tr("&Copy"), QKeySequence::Copy, [](RecordList& list) { list.CopyRow(); });
     add(tr("&Filter"), Qt::Key_Slash, [](RecordList& list) { list.OpenFilter(); });
+    if (m_sorts)
+        AddOrders(menu->addMenu(tr("S&ort By")));
     menu->popup(where);
+}
+
+void RecordList::AddOrders(QMenu* menu)
+{
+    auto* titles = new QActionGroup(menu);
+    for (int col = 0; col < Cols(); ++col) {
+        if (!m_columns.at(col).order)
+            continue;
+        QAction* action = menu->addAction(TextMatrix(0, col).replace(u'&', QStringLiteral("&&")));
+        action->setCheckable(true);
+        action->setChecked(col == SortedColumn());
+        titles->addAction(action);
+        On(action, &QAction::triggered, this, [this, col] { SortBy(col); });
+    }
 }

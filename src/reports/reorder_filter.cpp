@@ -9,6 +9,12 @@ int frmReorderReportFilter::ReorderFilterKind = 0;
 QString frmReorderReportFilter::ReorderFilterValue;
 QString frmReorderReportFilter::ReorderSortField;
 
+namespace {
+/// The statement sorts by these, whatever they are called on the screen.
+constexpr const char* SortFields[] = {
+    QT_TRANSLATE_NOOP("frmReorderReportFilter", "Name"), QT_TRANSLATE_NOOP("frmReorderReportFilter", "Number")};
+} // namespace
+
 frmReorderReportFilter::frmReorderReportFilter(QWidget* parent)
     : Form("frmReorderReportFilter", tr("Filtered Reorder Report"), parent)
 {
@@ -70,9 +76,8 @@ void frmReorderReportFilter::FillLists()
         if (filter.list->ListCount() > 0)
             filter.list->SetListIndex(0);
     }
-    // Field names: the statement sorts by the text of the entry.
-    cboSort->AddItem(QStringLiteral("Name"), 0);
-    cboSort->AddItem(QStringLiteral("Number"), 0);
+    for (const char* field : SortFields)
+        cboSort->AddItem(tr(field), 0);
     cboSort->SetListIndex(0);
 }
 
@@ -95,6 +100,6 @@ void frmReorderReportFilter::Confirm()
         ReorderFilterValue = QString::number(filter.list->SelectedData());
         ReorderFilterKind = kind;
     }
-    ReorderSortField = cboSort->Text();
+    ReorderSortField = QLatin1String(SortFields[cboSort->ListIndex()]);
     accept();
 }
