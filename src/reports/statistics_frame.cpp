@@ -74,19 +74,15 @@ QLayout* StatisticsFrame::BuildFigures()
     lblMostPopMonth = Figure(QStringLiteral("lblMostPopMonth"), QStringLiteral("Sep"));
     lblLeastPopMonth = Figure(QStringLiteral("lblLeastPopMonth"), QStringLiteral("Oct"));
     lblRecCust = Figure(QStringLiteral("lblRecCust"), QStringLiteral("Joe Bloggs"));
-    lblRecCust->setWordWrap(true);
+    for (QLabel* longFigure : {lblMostResDate, lblLeastResDate, lblRecCust})
+        longFigure->setWordWrap(true);
     lblResThisMonth = Figure(QStringLiteral("lblResThisMonth"), count);
     lblResThisMonthYTD = Figure(QStringLiteral("lblResThisMonthYTD"), count);
     lblTotRes = Figure(QStringLiteral("lblTotRes"), QStringLiteral("0"));
-    const FieldLine most(tr("Most invoices on:"), lblMostResDate);
-    const FieldLine least(tr("Least invoices on:"), lblLeastResDate);
-    // A date stays on one line: in a language of long words its caption takes two.
-    most.label->setWordWrap(true);
-    least.label->setWordWrap(true);
     QGridLayout* figures = fields({
         {tr("Total invoices today:"), lblTotalResToday},
-        most,
-        least,
+        {tr("Most invoices on:"), lblMostResDate},
+        {tr("Least invoices on:"), lblLeastResDate},
         {tr("Most popular month:"), lblMostPopMonth},
         {tr("Least popular month:"), lblLeastPopMonth},
         {tr("Most repeating customer:"), lblRecCust},
