@@ -1606,6 +1606,10 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Schließen Sie zuerst die Meldung und scannen Sie dann noch einmal.</translation>
     </message>
     <message>
+        <source>The code was typed. Press Enter to go on.</source>
+        <translation>Der Code wurde eingegeben. Drücken Sie die Eingabetaste, um fortzufahren.</translation>
+    </message>
+    <message>
         <source>Close this form first, then scan again.</source>
         <translation>Schließen Sie zuerst dieses Formular und scannen Sie dann noch einmal.</translation>
     </message>

@@ -1606,6 +1606,10 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Fermez d&apos;abord le message, puis scannez à nouveau.</translation>
     </message>
     <message>
+        <source>The code was typed. Press Enter to go on.</source>
+        <translation>Le code a été saisi. Appuyez sur Entrée pour continuer.</translation>
+    </message>
+    <message>
         <source>Close this form first, then scan again.</source>
         <translation>Fermez d&apos;abord ce formulaire, puis scannez à nouveau.</translation>
     </message>
@@ -3037,7 +3041,7 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
     <message>
         <source>Nothing of %1 was received: Enter was not pressed after its quantity.</source>
-        <translation>Rien n&apos;a été reçu de %1 : la touche Entrée n&apos;a pas été pressée après la quantité.</translation>
+        <translation>Rien n&apos;a été reçu de %1&#xa0;: la touche Entrée n&apos;a pas été pressée après la quantité.</translation>
     </message>
     <message>
         <source>There are no items to receive stock of.</source>

@@ -40,19 +40,18 @@ FilterLine::FilterLine(FlexGrid* list)
     m_words->setPlaceholderText(tr("Words to look for, in any order"));
     auto* label = new QLabel(tr("Filter:"));
     SetLabelOf(label, m_words);
-    auto* close = new QToolButton;
-    close->setAutoRaise(true);
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setToolTip(tr("Close the filter (Esc)"));
-    close->setAccessibleName(tr("Close the filter"));
-    setLayout(row({label, m_words, m_count, close}));
+    m_close->setAutoRaise(true);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setToolTip(tr("Close the filter (Esc)"));
+    m_close->setAccessibleName(tr("Close the filter"));
+    setLayout(row({label, m_words, m_count, m_close}));
     layout()->setContentsMargins(0, 0, 0, 0);
     setFocusProxy(m_words);
     setVisible(false);
     PutUnder(list, this);
 
     On(m_words, &TextBox::textChanged, list, &FlexGrid::SetFilter);
-    On(close, &QToolButton::clicked, this, &FilterLine::Close);
+    On(m_close, &QToolButton::clicked, this, &FilterLine::Close);
     On(list->model(), &QAbstractItemModel::modelReset, this, &FilterLine::ShowCount);
     On(list->model(), &QAbstractItemModel::rowsInserted, this, &FilterLine::ShowCount);
     On(list->model(), &QAbstractItemModel::rowsRemoved, this, &FilterLine::ShowCount);
@@ -93,7 +92,7 @@ void FilterLine::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         event->accept();
-        return m_list->EnterRows();
+        return m_close->hasFocus() ? Close() : m_list->EnterRows();
     default:
         QWidget::keyPressEvent(event);
     }

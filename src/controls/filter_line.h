@@ -4,10 +4,11 @@
 #include "controls/text_box.h"
 
 #include <QLabel>
+#include <QToolButton>
 #include <QWidget>
 
 /// The line under a list that narrows it down, with every key, to the rows that hold all words typed. Esc closes it,
-/// which lets all rows show; Down and Enter go into the rows.
+/// which lets all rows show; Down and Enter go into the rows, where Enter is not for the button that closes it.
 class FilterLine : public QWidget {
     Q_OBJECT
 public:
@@ -27,4 +28,5 @@ private:
     FlexGrid* m_list;
     TextBox* m_words = new TextBox(this);
     QLabel* m_count = new QLabel(this);
+    QToolButton* m_close = new QToolButton(this);
 };

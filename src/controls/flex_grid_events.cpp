@@ -83,6 +83,8 @@ void FlexGrid::initViewItemOption(QStyleOptionViewItem* option) const
         m_stripedPalette = option->palette;
         m_stripedPalette.setColor(QPalette::AlternateBase, StripeColor(option->palette));
     }
+    // The key tells the colours, not which group of them is in use.
+    m_stripedPalette.setCurrentColorGroup(option->palette.currentColorGroup());
     option->palette = m_stripedPalette;
 }
 

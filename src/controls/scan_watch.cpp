@@ -17,6 +17,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <climits>
 #include <deque>
 #include <memory>
@@ -274,11 +275,11 @@ private:
         const Taker* taker = TakerNow();
         QWidget* target = Target();
         if (!taker)
-            return IsStrayTaken(target);
+            return IsStrayTaken(target, code);
         const bool isKnown = target != taker->calls.box && IsKnown(*taker, code);
         const bool isTyped =
             TextBefore::IsTextBox(target) && !(target->property(KeepsCodesOut).toBool() && IsRetailCode(code));
-        if (target == taker->calls.box || (!isKnown && isTyped)) {
+        if (target == taker->calls.box || (!isKnown && (isTyped || !taker->calls.tellUnknown))) {
             EndBurst();
             return false;
         }
@@ -291,18 +292,26 @@ private:
     }
 
     /// No screen that takes scans is worked with. What a text box holds can be seen and mended, and so it stays; but in
-    /// a form Enter would save it, and in a list it would open the current row.
-    bool IsStrayTaken(const QWidget* target)
+    /// a form Enter would save it, and in a list it would open the current row. What else types as fast, such as a text
+    /// expander, is told by having no digit, and in a text box by having no check digit.
+    bool IsStrayTaken(const QWidget* target, const QString& code)
     {
         const bool isInForm = QApplication::activeModalWidget();
-        if (TextBefore::IsTextBox(target)) {
+        const bool isInBox = TextBefore::IsTextBox(target);
+        const bool isCode =
+            isInBox ? IsRetailCode(code) : std::any_of(code.begin(), code.end(), [](QChar c) { return c.isDigit(); });
+        if (!isCode || (isInBox && !isInForm)) {
             EndBurst();
-            return isInForm;
+            return false;
         }
-        TakeBack();
+        if (isInBox)
+            EndBurst();
+        else
+            TakeBack();
         PlayScanSound(ScanSound::NotFound);
-        ShowStatus(
-            isInForm ? tr("Close this form first, then scan again.") : tr("Open an invoice first, then scan again."));
+        ShowStatus(isInBox ? tr("The code was typed. Press Enter to go on.")
+                : isInForm ? tr("Close this form first, then scan again.")
+                           : tr("Open an invoice first, then scan again."));
         return true;
     }
 

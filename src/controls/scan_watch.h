@@ -26,7 +26,7 @@ struct ScanTaker {
     TextBox* box; ///< the bar code box, where keys do what they always do
     QPushButton* lookUp; ///< what a code that has come to the box runs; none, and it stays there, selected
     std::function<bool(const QString& code)> isKnown;
-    std::function<void()> tellUnknown;
+    std::function<void()> tellUnknown; ///< none where an unknown code is keys like any others
     /// Before a known code goes to the box from elsewhere on the screen.
     std::function<void(const QString& code)> prepare = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "inventory/item_details.h"
 
+#include "base/retail_code.h"
 #include "controls/layout.h"
 #include "controls/scan_watch.h"
 #include "db/connection.h"
@@ -170,7 +171,7 @@ void frmItemDetails::FitToScreen()
 void frmItemDetails::Connect()
 {
     m_barcode->installEventFilter(this);
-    TakeScans({this, m_barcode, nullptr, [](const QString&) { return true; }, nullptr});
+    TakeScans({this, m_barcode, nullptr, IsRetailCode, nullptr});
     On(cboCategory, &ComboBox::Click, this, &frmItemDetails::ShowSubCategories);
     On(cboWarehouse, &ComboBox::Click, this, &frmItemDetails::ShowLocations);
     On(cmdOk, &QPushButton::clicked, this, &frmItemDetails::Save);

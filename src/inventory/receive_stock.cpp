@@ -106,11 +106,14 @@ void frmReceiveStock::FindByBarcode()
 void frmReceiveStock::DropQuantityOfOther(qint64 itemId)
 {
     const QString unset = QStringLiteral("0");
-    if (txtAddQuantity->text() == unset || gInventory->CurrentRowData() == itemId)
+    const QString quantity = txtAddQuantity->text();
+    const qint64 current = gInventory->CurrentRowData();
+    if (quantity == unset || current == itemId)
         return;
     txtAddQuantity->setText(unset);
-    ShowStatus(tr("Nothing of %1 was received: Enter was not pressed after its quantity.")
-                   .arg(gInventory->CellText(gInventory->Row(), "name")));
+    if (current != 0 && !quantity.isEmpty())
+        ShowStatus(tr("Nothing of %1 was received: Enter was not pressed after its quantity.")
+                       .arg(gInventory->CellText(gInventory->Row(), "name")));
 }
 
 /// Where nobody else wrote, the item's row alone is read anew.

@@ -6,6 +6,8 @@
 #include "controls/layout.h"
 #include "records/lists.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <iterator>
 
@@ -69,8 +71,13 @@ void InvoicePage::RefillPriceLists()
     if (!OpenInvoice::IsOpen())
         return;
     const qint64 chosen = cboPriceList->SelectedData();
-    FillPriceLists(cboPriceList);
-    SelectPriceList(cboPriceList, chosen);
+    {
+        // No list has been chosen that the lines would have to be read for: their selection stays.
+        const QSignalBlocker unchosen(cboPriceList);
+        FillPriceLists(cboPriceList);
+        SelectPriceList(cboPriceList, chosen);
+    }
+    gNewInvoice->SetTitleOf("amount", cboPriceList->Text());
 }
 
 void InvoicePage::PriceListChosen()

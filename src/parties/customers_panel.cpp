@@ -80,7 +80,7 @@ void CustomersPanel::AddCustomer()
 void CustomersPanel::EditSelected()
 {
     if (gcust->HidesAllRows())
-        return;
+        return gcust->setFocus();
     // Where no customer is selected the last one edited is.
     EditCustomer(gcust->CurrentRowData(), window());
     RefreshCustomerList(1, frmCustomer::gEditCustomerId);
