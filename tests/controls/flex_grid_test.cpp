@@ -6,6 +6,7 @@
 
 #include <QHelpEvent>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 
 namespace {
 
