@@ -8,7 +8,7 @@
 #include <QWidget>
 
 /// The line under a list that narrows it down, with every key, to the rows that hold all words typed. Esc closes it,
-/// which lets all rows show; Down and Enter go into the rows, where Enter is not for the button that closes it.
+/// which lets all rows show; Down and Enter go into the rows, but for Enter on the button that closes it.
 class FilterLine : public QWidget {
     Q_OBJECT
 public:
