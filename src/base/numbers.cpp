@@ -30,6 +30,24 @@ QString WithDecimalSeparator(std::string_view ascii)
     return text;
 }
 
+constexpr size_t MostMoneyDigits = 40;
+
+/// Writes an amount with a point and as many decimals as it has.
+std::string_view WriteDigits(Currency value, char (&room)[MostMoneyDigits])
+{
+    const qint64 count = value.TenThousandths();
+    const quint64 size = count < 0 ? 0 - quint64(count) : quint64(count);
+    room[0] = '-';
+    char* end = std::to_chars(room + 1, std::end(room), size / 10000).ptr;
+    if (quint64 decimals = size % 10000; decimals != 0) {
+        *end++ = '.';
+        for (quint64 place = 1000; decimals != 0; decimals %= place, place /= 10)
+            *end++ = char('0' + decimals / place);
+    }
+    const char* start = count < 0 ? room : room + 1;
+    return {start, size_t(end - start)};
+}
+
 /// What `Val` reads: the text without its blanks, as far as it can matter.
 QByteArray Packed(QStringView text)
 {
@@ -171,15 +189,15 @@ QString CStr(qint64 value)
 
 QString CStr(Currency value)
 {
-    const qint64 count = value.TenThousandths();
-    const quint64 size = count < 0 ? 0 - quint64(count) : quint64(count);
-    char text[40] = "-";
-    char* end = std::to_chars(text + 1, std::end(text), size / 10000).ptr;
-    if (quint64 decimals = size % 10000; decimals != 0) {
-        *end++ = '.';
-        for (quint64 place = 1000; decimals != 0; decimals %= place, place /= 10)
-            *end++ = char('0' + decimals / place);
-    }
-    const char* start = count < 0 ? text : text + 1;
-    return WithDecimalSeparator({start, size_t(end - start)});
+    char room[MostMoneyDigits];
+    return WithDecimalSeparator(WriteDigits(value, room));
+}
+
+void CStrUtf8(Currency value, std::string& text)
+{
+    char room[MostMoneyDigits];
+    text = WriteDigits(value, room);
+    if (const QString& decimal = Formats().decimal; decimal != QLatin1String("."))
+        if (const size_t point = text.find('.'); point != std::string::npos)
+            text.replace(point, 1, decimal.toStdString());
 }

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <string>
+
 /// The number rules, by the user's locale (platform/regional.h). Reading accepts exactly what writing makes.
 
 /// True when the whole text reads as a number: blanks, sign, currency symbol, brackets, group separators anywhere,
@@ -31,6 +33,8 @@ double Val(QStringView text);
 QString CStr(double value);
 QString CStr(qint64 value);
 QString CStr(Currency value);
+/// The same as UTF-8, in the room that the text has.
+void CStrUtf8(Currency value, std::string& text);
 
 /// The locale's currency text with its digits, rounded half away from zero.
 QString FormatCurrency(Currency value);

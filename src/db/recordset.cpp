@@ -249,8 +249,9 @@ std::string_view Recordset::Text(int ordinal) const
         kind == Value::Kind::Date || kind == Value::Kind::Boolean ? std::nan("") : sqlite3_column_double(row, ordinal);
     if (IsWhole(number))
         return WholeText(buffer, qint64(number));
-    buffer = (kind == Value::Kind::Money && type == SQLITE_FLOAT ? CStr(MoneyOf(row, ordinal))
-                                                                 : ReadValue(row, ordinal, kind).ToText())
-                 .toStdString();
+    if (kind == Value::Kind::Money && type == SQLITE_FLOAT)
+        CStrUtf8(MoneyOf(row, ordinal), buffer);
+    else
+        buffer = ReadValue(row, ordinal, kind).ToText().toStdString();
     return buffer;
 }

@@ -5,14 +5,16 @@
 #include "sql/statement_errors.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
 constexpr int GroupOfDigits = 3;
 
-bool IsDigit(char16_t c)
+constexpr bool IsDigit(char16_t c)
 {
     return c >= u'0' && c <= u'9';
 }
@@ -22,13 +24,24 @@ bool IsBlank(char16_t c)
     return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
 }
 
+/// For each ASCII character whether a word may hold it: most of a statement is words.
+constexpr std::array<bool, 128> AsciiOfWords = [] {
+    std::array<bool, 128> ofWords{};
+    for (char16_t c = 0; c < ofWords.size(); ++c)
+        ofWords[c] = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || IsDigit(c);
+    return ofWords;
+}();
+
 bool IsWord(char16_t c)
 {
-    return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || c > 127 || IsDigit(c);
+    return c >= AsciiOfWords.size() || AsciiOfWords[c];
 }
 
-/// Appends a character beyond ASCII as UTF-8 and returns what follows it; half a surrogate pair becomes U+FFFD.
-const char16_t* AppendLongUtf8(std::string& out, const char16_t* at, const char16_t* end)
+/// Bytes that one UTF-16 unit takes at most.
+constexpr size_t MostUtf8 = 3;
+
+/// Writes a character beyond ASCII as UTF-8 and moves behind it; half a surrogate pair becomes U+FFFD.
+void WriteLongUtf8(char*& out, const char16_t*& at, const char16_t* end)
 {
     char32_t c = *at++;
     if (c >= 0xD800 && c <= 0xDFFF) {
@@ -36,26 +49,25 @@ const char16_t* AppendLongUtf8(std::string& out, const char16_t* at, const char1
         c = paired ? 0x10000 + ((c - 0xD800) << 10) + (*at++ - 0xDC00) : U'\xFFFD';
     }
     if (c < 0x800) {
-        out.push_back(char(0xC0 | (c >> 6)));
+        *out++ = char(0xC0 | (c >> 6));
     } else if (c < 0x10000) {
-        out.push_back(char(0xE0 | (c >> 12)));
-        out.push_back(char(0x80 | ((c >> 6) & 0x3F)));
+        *out++ = char(0xE0 | (c >> 12));
+        *out++ = char(0x80 | ((c >> 6) & 0x3F));
     } else {
-        out.push_back(char(0xF0 | (c >> 18)));
-        out.push_back(char(0x80 | ((c >> 12) & 0x3F)));
-        out.push_back(char(0x80 | ((c >> 6) & 0x3F)));
+        *out++ = char(0xF0 | (c >> 18));
+        *out++ = char(0x80 | ((c >> 12) & 0x3F));
+        *out++ = char(0x80 | ((c >> 6) & 0x3F));
     }
-    out.push_back(char(0x80 | (c & 0x3F)));
-    return at;
+    *out++ = char(0x80 | (c & 0x3F));
 }
 
 /// As above for any character; nearly all are plain.
-inline const char16_t* AppendUtf8(std::string& out, const char16_t* at, const char16_t* end)
+inline void WriteUtf8(char*& out, const char16_t*& at, const char16_t* end)
 {
     if (*at >= 0x80)
-        return AppendLongUtf8(out, at, end);
-    out.push_back(char(*at));
-    return at + 1;
+        WriteLongUtf8(out, at, end);
+    else
+        *out++ = char(*at++);
 }
 
 class Reader {
@@ -70,7 +82,9 @@ public:
         , m_shape(shape)
         , m_numbersHaveOwnSign(Formats().decimal.size() == 1 && Formats().decimal != QLatin1Char('.'))
     {
-        m_shape.text.clear();
+        // No literal is shorter than its mark: the room is taken once, and cut when the shape is known.
+        m_shape.text.resize(MostUtf8 * size_t(statement.size()));
+        m_out = m_shape.text.data();
         m_shape.literals.clear();
         // A cursor takes the literals with it: one piece of memory for them instead of one after the other.
         m_shape.literals.reserve(UsualLiterals);
@@ -80,13 +94,14 @@ public:
     {
         while (m_at < m_end)
             ReadToken(*m_at);
+        m_shape.text.resize(Written().size());
     }
 
 private:
     void ReadToken(char16_t c)
     {
         if (IsBlank(c)) {
-            m_shape.text.push_back(' ');
+            *m_out++ = ' ';
             ++m_at;
         } else if (m_inAssignments && m_numbersHaveOwnSign && AtAssignedValue(c) && SkipNumberAsTyped()) {
             AddNumberAsTyped();
@@ -125,7 +140,7 @@ private:
         case u'*':
         case u'/':
         case u'&':
-            m_shape.text.push_back(char(c));
+            *m_out++ = char(c);
             ++m_at;
             return;
         default:
@@ -135,10 +150,13 @@ private:
 
     void ReadWord()
     {
-        const char16_t* start = m_at;
-        while (m_at < m_end && IsWord(*m_at))
-            m_at = AppendUtf8(m_shape.text, m_at, m_end);
-        const QStringView word(start, m_at);
+        const char16_t* at = m_at;
+        char* out = m_out;
+        while (at < m_end && IsWord(*at))
+            WriteUtf8(out, at, m_end);
+        const QStringView word(m_at, at);
+        m_at = at;
+        m_out = out;
         m_afterTop = IsKeyword(word, u"top");
         if (m_isFirstWord)
             m_isUpdate = IsKeyword(word, u"update");
@@ -157,8 +175,9 @@ private:
     {
         if (m_brackets != 0 || !(IsDigit(c) || Formats().decimal == QChar(c)))
             return false;
-        const size_t last = m_shape.text.find_last_not_of(' ');
-        return last != std::string::npos && std::strchr("=<>+-*/&", m_shape.text[last]) != nullptr;
+        const std::string_view text = Written();
+        const size_t last = text.find_last_not_of(' ');
+        return last != std::string_view::npos && std::strchr("=<>+-*/&", text[last]) != nullptr;
     }
 
     /// Moves behind a number with the user's decimal sign where that is no point: "7,5", ",5", "1.234,5". Behind a
@@ -243,7 +262,7 @@ private:
         const char* last = first + m_digits.size();
         if (m_afterTop) {
             m_afterTop = false;
-            m_shape.text.append(m_digits);
+            m_out = std::copy(m_digits.begin(), m_digits.end(), m_out);
             return;
         }
         qint64 number = 0;
@@ -258,17 +277,17 @@ private:
     void ReadText(char16_t quote)
     {
         const char16_t* start = m_at++;
-        std::string text;
-        text.reserve(size_t(std::find(m_at, m_end, quote) - m_at));
+        // Nothing is written of the shape until the text ends, so that its room serves the text.
+        char* end = m_out;
         bool ascii = true;
-        for (;; m_at = AppendUtf8(text, m_at, m_end)) {
+        for (;; WriteUtf8(end, m_at, m_end)) {
             if (m_at == m_end)
                 throw OpenText(start);
             if (*m_at == quote && (++m_at == m_end || *m_at != quote))
                 break;
             ascii = ascii && *m_at < 128;
         }
-        Add(ascii ? LiteralMark::AsciiText : LiteralMark::OtherText, std::move(text));
+        Add(ascii ? LiteralMark::AsciiText : LiteralMark::OtherText, std::string(m_out, end));
     }
 
     void ReadDate()
@@ -288,11 +307,11 @@ private:
     {
         const char16_t* start = m_at;
         do {
-            m_at = AppendUtf8(m_shape.text, m_at, m_end);
+            WriteUtf8(m_out, m_at, m_end);
             if (m_at == m_end || *m_at < u' ' || *m_at == u'[')
                 throw MissingOperatorError(Expression(start));
         } while (*m_at != u']');
-        m_shape.text.push_back(']');
+        *m_out++ = ']';
         ++m_at;
     }
 
@@ -307,14 +326,14 @@ private:
     template <typename Value>
     void Add(LiteralMark mark, Value&& value)
     {
-        m_shape.text.push_back(char(mark));
+        *m_out++ = char(mark);
         m_shape.literals.emplace_back(std::forward<Value>(value));
     }
 
     /// A quote that never closes: the end of a text with a quote of its own, when a name follows the text before it.
     RuntimeError OpenText(const char16_t* start) const
     {
-        const std::string& text = m_shape.text;
+        const std::string_view text = Written();
         size_t word = text.size();
         while (word > 0 && (IsWord(char16_t(uchar(text[word - 1]))) || text[word - 1] == ' '))
             --word;
@@ -338,11 +357,14 @@ private:
         return statement.mid(start);
     }
 
+    std::string_view Written() const { return {m_shape.text.data(), m_out}; }
+
     const QString& m_statement;
     const char16_t* m_begin;
     const char16_t* m_at;
     const char16_t* m_end;
     StatementShape& m_shape;
+    char* m_out; ///< behind what is written of its text
     std::string m_digits;
     bool m_numbersHaveOwnSign; ///< the user's decimal sign is no point
     bool m_afterTop = false;

@@ -9,6 +9,14 @@ Currency Amount(const QString& tenThousandths)
     return Currency::FromTenThousandths(tenThousandths.toLongLong());
 }
 
+QString Written(Currency amount)
+{
+    std::string text = "longer than an amount";
+    CStrUtf8(amount, text);
+    EXPECT_EQ(QString::fromStdString(text), CStr(amount));
+    return CStr(amount);
+}
+
 /// What is given may have a second part, behind a bar.
 QString Answered(const QString& function, const QString& given)
 {
@@ -24,7 +32,7 @@ QString Answered(const QString& function, const QString& given)
         {"CBool", [&] { return TruthText(CBool(given)); }},
         {"Val", [&] { return number(Val(given)); }},
         {"CStr", [&] { return CStr(given.toDouble()); }},
-        {"CStrOfCurrency", [&] { return CStr(Amount(given)); }},
+        {"CStrOfCurrency", [&] { return Written(Amount(given)); }},
         {"RoundedHalfAway", [&] { return count(Amount(first).RoundedHalfAway(second.toInt())); }},
         {"FormatNumber", [&] { return FormatNumber(first.toDouble(), second); }},
         {"FormatText", [&] { return FormatNumber(first, second); }},
