@@ -1,6 +1,7 @@
 #include "app/help_desk.h"
 #include "app/help_key.h"
 #include "app/image_lists.h"
+#include "app/menu_key.h"
 #include "app/start.h"
 #include "base/guard.h"
 #include "base/system_locale.h"
@@ -21,6 +22,7 @@ int main(int argc, char* argv[])
     InstallErrorBox();
     LetLinksBeRead();
     const HelpKey helpKey(&application);
+    const MenuKey menuKey(&application);
     const HelpDesk helpDesk;
 
     Program program;

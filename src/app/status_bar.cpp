@@ -27,5 +27,6 @@ void StatusBar::ShowCounted(const QString& text)
 
 void StatusBar::ShowIfNeeded()
 {
-    setVisible(!currentMessage().isEmpty() || !m_counted->text().isEmpty());
+    if (!currentMessage().isEmpty() || !m_counted->text().isEmpty())
+        show();
 }

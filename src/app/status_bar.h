@@ -5,7 +5,7 @@
 #include <QStatusBar>
 
 /// The line at the bottom of the main window: at the left what was done last, at the right what the open invoice
-/// has come to. It is there only while it has something to say.
+/// has come to. It comes with the first it has to say, and stays: what lies above it moves when it comes or goes.
 class StatusBar : public QStatusBar {
     Q_OBJECT
 public:

@@ -1,4 +1,5 @@
 #include "app/app_test.h"
+#include "app/menu_key.h"
 #include "inventory/item_details.h"
 #include "inventory/item_group_form.h"
 #include "invoicing/open_invoice.h"
@@ -231,6 +232,11 @@ TEST_P(ListPanelTest, EveryKeyDoesItsWorkAndARightClickOffersWhatTheButtonsDo)
 
 void ListPanelTest::ShowMenu()
 {
+    const MenuKey menuKey(nullptr);
+    Press(list, Qt::Key_F10, Qt::ShiftModifier);
+    const QPointer<QMenu> byKey = list->findChild<QMenu*>();
+    ASSERT_TRUE(byKey && byKey->isVisible());
+    delete byKey;
     const QPoint secondRow = list->visualRect(list->model()->index(1, 0)).center();
     QTest::mouseClick(list->viewport(), Qt::RightButton, {}, secondRow);
     QContextMenuEvent rightClick(QContextMenuEvent::Mouse, secondRow, list->viewport()->mapToGlobal(secondRow));
