@@ -1449,6 +1449,15 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>QFileDialog</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 existe déjà.
+Voulez-vous remplacer ce fichier ?</translation>
+    </message>
+</context>
+<context>
     <name>QGnomeTheme</name>
     <message>
         <source>&amp;OK</source>
@@ -1502,6 +1511,11 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     <message>
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language that this is a translation to: a PDF tells it to screen readers.</extracomment>
+        <translation>fr</translation>
     </message>
 </context>
 <context>

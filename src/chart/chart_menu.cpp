@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
@@ -74,16 +73,13 @@ void Chart::Copy()
 
 void Chart::SaveAs()
 {
-    QString path = SaveFileName(
+    const QString path = SaveFileNameOfKind(
         tr("Save Chart As"), tr("PNG picture (*.png);;SVG drawing (*.svg)"), tr("chart") + QLatin1String(".png"));
     if (path.isEmpty())
         return;
-    const QString ending = QFileInfo(path).suffix().toLower();
-    if (ending != QLatin1String("svg") && ending != QLatin1String("png"))
-        path += QLatin1String(".png");
+    const bool isSvg = path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
     const PicturePainter paint = [this](QPainter& painter, double pixel) { PaintPicture(painter, pixel); };
-    const bool saved =
-        ending == QLatin1String("svg") ? SaveAsSvg(paint, size(), Summary(), path) : SaveAsPng(paint, size(), path);
+    const bool saved = isSvg ? SaveAsSvg(paint, size(), Summary(), path) : SaveAsPng(paint, size(), path);
     if (saved)
         ShowSavedAs(path);
     else

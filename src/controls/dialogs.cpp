@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPainter>
 #include <QPrintDialog>
@@ -72,27 +73,54 @@ void SayHelpIsMissing()
     MsgBox(Dialogs::tr("The help pages are not available."), Icon::Information);
 }
 
-enum class Extension { OfFilter, AsTyped };
+enum class Extension { OfFilter, Always, AsTyped };
+
+/// The path with one of the filter's extensions, the first one of `chosen` where it has none of them.
+QString OfKind(const QString& path, const QString& filter, const QString& chosen)
+{
+    const QString ending = u'.' + QFileInfo(path).suffix();
+    const bool has = ending.size() > 1
+        && QRegularExpression(QStringLiteral(R"(\*%1\b)").arg(QRegularExpression::escape(ending)),
+            QRegularExpression::CaseInsensitiveOption)
+               .match(filter)
+               .hasMatch();
+    return has || path.isEmpty() ? path : path + u'.' + FirstExtension(chosen);
+}
+
+/// Asks as the dialog does of the name that it knows.
+bool MayReplace(const QString& path, const QString& title)
+{
+    const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+    return !QFileInfo::exists(path)
+        || QMessageBox::warning(OwnerWindow(), title, question.arg(QFileInfo(path).fileName()),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+        == QMessageBox::Yes;
+}
 
 QString AskFileToSave(const QString& title, const QString& filter, const QString& suggested, Extension extension)
 {
     if (DialogDoor* door = CurrentDialogDoor())
-        return door->SaveFileName(title, filter, suggested);
+        return extension == Extension::Always ? OfKind(door->SaveFileName(title, filter, suggested), filter, filter)
+                                              : door->SaveFileName(title, filter, suggested);
     QFileDialog dialog(OwnerWindow(), title, PickerFolder(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    if (extension == Extension::OfFilter) {
+    if (extension != Extension::AsTyped) {
         dialog.setDefaultSuffix(FirstExtension(dialog.selectedNameFilter()));
         QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
             [&dialog](const QString& chosen) { dialog.setDefaultSuffix(FirstExtension(chosen)); });
     }
     dialog.selectFile(suggested);
-    QString path = PickedFile(dialog);
-    while (!path.isEmpty() && !QFileInfo(path).dir().exists()) {
-        MsgBox(Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
-        path = PickedFile(dialog);
+    for (;;) {
+        const QString picked = PickedFile(dialog);
+        const QString path =
+            extension == Extension::Always ? OfKind(picked, filter, dialog.selectedNameFilter()) : picked;
+        if (!path.isEmpty() && !QFileInfo(path).dir().exists())
+            MsgBox(
+                Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);
+        else if (path == picked || MayReplace(path, title))
+            return path;
     }
-    return path;
 }
 
 bool NoPrinterInstalled()
@@ -139,6 +167,11 @@ QString OpenFileName(const QString& title, const QString& filter)
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested)
 {
     return AskFileToSave(title, filter, suggested, Extension::OfFilter);
+}
+
+QString SaveFileNameOfKind(const QString& title, const QString& filter, const QString& suggested)
+{
+    return AskFileToSave(title, filter, suggested, Extension::Always);
 }
 
 QString SaveFileNameAsTyped(const QString& title, const QString& filter)

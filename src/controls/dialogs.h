@@ -11,7 +11,9 @@ class QPrinter;
 QString OpenFileName(const QString& title, const QString& filter);
 /// Asks before a file that exists is chosen, and again while the folder does not exist. `suggested` is a file's name.
 QString SaveFileName(const QString& title, const QString& filter, const QString& suggested);
-/// The same, but the name is used as it was typed: the others get the filter's extension when they have none.
+/// The same; where the name ends in none of the filter's extensions, also with a dot in it, the first one is appended.
+QString SaveFileNameOfKind(const QString& title, const QString& filter, const QString& suggested);
+/// As SaveFileName, but the name is used as it was typed: the others get the filter's extension when they have none.
 QString SaveFileNameAsTyped(const QString& title, const QString& filter);
 /// A save dialog that takes a file that exists alone, and does not ask before it is chosen.
 QString SaveExistingFileName(const QString& title, const QString& filter);

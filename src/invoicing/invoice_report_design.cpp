@@ -52,7 +52,7 @@ void AddCustomer(ReportSection& header)
     int top = AddressTop + 2 * AddressStep;
     for (const char* field : CustomerFields) {
         const QString name = QStringLiteral("txt") + QLatin1String(field);
-        header.AddField(name, QLatin1String(field), 0, top, ColumnWidth).Wraps(2, 2).Collapses();
+        header.AddField(name, QLatin1String(field), 0, top, ColumnWidth).Wraps(2, 6).Collapses();
         top += AddressStep;
     }
 }

@@ -26,7 +26,7 @@ void PreviewPage::ShowPage(const ReportLayout* layout, ReportPage page)
     m_layout = layout;
     m_page = std::move(page);
     setAccessibleName(layout->Design().title);
-    setAccessibleDescription(PageText(m_page));
+    setAccessibleDescription(SpokenText(m_page));
     FitToSheet();
     update();
 }
@@ -102,10 +102,14 @@ void PreviewView::keyPressEvent(QKeyEvent* event)
 void PreviewView::wheelEvent(QWheelEvent* event)
 {
     constexpr int UnitsAStep = 120;
-    if (event->modifiers() & Qt::ControlModifier)
-        emit ZoomWheel(event->angleDelta().y() / UnitsAStep);
-    else
-        QScrollArea::wheelEvent(event);
+    if (!(event->modifiers() & Qt::ControlModifier))
+        return QScrollArea::wheelEvent(event);
+    // Fine wheels and touchpads turn by a part of a step.
+    m_turned += event->angleDelta().y();
+    const int steps = m_turned / UnitsAStep;
+    m_turned -= steps * UnitsAStep;
+    if (steps != 0)
+        emit ZoomWheel(steps);
 }
 
 void PreviewView::resizeEvent(QResizeEvent* event)

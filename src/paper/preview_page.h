@@ -45,4 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int m_turned = 0; ///< by the wheel, in eighths of a degree, beyond the steps that were told
 };

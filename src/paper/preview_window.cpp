@@ -57,6 +57,7 @@ QString SuggestedFile(QString title)
 
 PreviewWindow::PreviewWindow(Report report)
     : m_layout(std::move(report), PaperOf(CurrentPrinter()))
+    , m_paper(CurrentPrinter().pageLayout())
     , cboZoom(new ComboBox)
 {
     setObjectName(QStringLiteral("preview"));
@@ -340,8 +341,12 @@ void PreviewWindow::Print()
     QPrinter& printer = CurrentPrinter();
     if (!HasPrinter())
         return OfferPdf();
-    if (!PrintDialog(printer))
+    const QPageLayout shared = printer.pageLayout();
+    printer.setPageLayout(m_paper);
+    if (!PrintDialog(printer)) {
+        printer.setPageLayout(shared);
         return;
+    }
     const Hourglass hourglass(tr("Printing..."));
     if (PrintReport(m_layout, printer))
         statusBar()->showMessage(tr("The document was handed to the printer."));
@@ -358,11 +363,17 @@ void PreviewWindow::OfferPdf()
 
 void PreviewWindow::PageSetup()
 {
-    CurrentPrinter().setPageMargins(InInches(m_layout.Design().margins), QPageLayout::Inch);
+    QPrinter& printer = CurrentPrinter();
+    const QPageLayout shared = printer.pageLayout();
+    printer.setPageLayout(m_paper);
+    printer.setPageMargins(InInches(m_layout.Design().margins), QPageLayout::Inch);
     PageMargins margins;
-    if (!ShowPaperSetup(this, margins))
+    if (!ShowPaperSetup(this, margins)) {
+        printer.setPageLayout(shared);
         return;
-    m_layout.SetPaper(PaperOf(CurrentPrinter()), InTwips(margins));
+    }
+    m_paper = printer.pageLayout();
+    m_layout.SetPaper(PaperOf(printer), InTwips(margins));
     m_page = 0;
     ShowPage();
     ApplyZoom();
@@ -371,11 +382,10 @@ void PreviewWindow::PageSetup()
 
 void PreviewWindow::SaveAsPdf()
 {
-    QString path = SaveFileName(tr("Save as PDF"), tr("PDF documents (*.pdf)"), SuggestedFile(windowTitle()));
+    const QString path =
+        SaveFileNameOfKind(tr("Save as PDF"), tr("PDF documents (*.pdf)"), SuggestedFile(windowTitle()));
     if (path.isEmpty())
         return;
-    if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
-        path += QLatin1String(".pdf");
     bool saved = false;
     {
         const Hourglass hourglass(tr("Writing the PDF..."));

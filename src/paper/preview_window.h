@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPageLayout>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -63,6 +64,7 @@ private:
     void CloseWindow();
 
     ReportLayout m_layout;
+    QPageLayout m_paper; ///< as on view: other previews may have chosen another one since
     int m_page = 0;
     double m_zoom = 1;
     ZoomMode m_zoomMode = ZoomMode::Fixed;

@@ -3,6 +3,7 @@
 #include <QPageLayout>
 #include <QPrinter>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -126,7 +127,7 @@ Report::Report(const QString& reportTitle, int designWidth)
 
 void Report::FillPaper(ReportPaper paper)
 {
-    width = paper.width - margins.left - margins.right;
+    width = std::max(paper.width - margins.left - margins.right, NarrowestSpace);
     widthFollowsPaper = true;
 }
 

@@ -83,6 +83,9 @@ struct ReportMargins {
     int left = 1440, top = 1440, right = 1440, bottom = 1440;
 };
 
+/// What text has at least, in either direction and in twips: paper may be a label, and margins may leave nothing of it.
+inline constexpr int NarrowestSpace = 1440;
+
 /// A sheet, in twips.
 struct ReportPaper {
     int width = 11906;
@@ -106,7 +109,7 @@ public:
     bool widthFollowsPaper = false;
     std::shared_ptr<const ReportRows> rows = std::make_shared<ReportRows>();
 
-    /// Takes the width that the margins leave of `paper`, from now on.
+    /// Takes the width that the margins leave of `paper`, from now on; at least NarrowestSpace.
     void FillPaper(ReportPaper paper);
     int DesignWidth() const { return m_designWidth; }
     ReportSection& Section(ReportSectionKind kind) { return m_sections[static_cast<size_t>(kind)]; }

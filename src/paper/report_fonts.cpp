@@ -127,10 +127,13 @@ void WrapParagraph(const QString& paragraph, qreal width, int most, const Report
 ReportTextBlock Wrapped(const QString& text, const ReportControl& control, qreal width, const ReportTypeface& face)
 {
     ReportTextBlock block{{}, &face};
-    for (const QString& paragraph : Paragraphs(text, control.totalLines)) {
+    for (const QString& paragraph : Paragraphs(text, control.totalLines + 1)) {
         const int left = control.totalLines - static_cast<int>(block.lines.size());
-        if (left <= 0)
+        if (left <= 0) {
+            QString& last = block.lines.back();
+            last = face.metrics.elidedText(last + QChar(0x2026), Qt::ElideRight, width);
             break;
+        }
         WrapParagraph(OneLine(paragraph, face), width, std::min(left, control.paragraphLines), face, block.lines);
     }
     return block;

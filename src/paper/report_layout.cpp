@@ -8,7 +8,6 @@
 #include <algorithm>
 
 namespace {
-constexpr int NarrowestSpace = 1440;
 constexpr qreal RuleWidth = 10;
 
 const ReportSectionKind AllSections[] = {ReportSectionKind::ReportHeader, ReportSectionKind::PageHeader,
@@ -266,7 +265,9 @@ ReportPage ReportLayout::Compose(int index)
     Cursor cursor = AddTop(builder, m_starts[page], BandPurpose::Items);
     for (; cursor != m_starts[page + 1]; cursor = After(cursor))
         builder.Add(Band(SectionAt(cursor.step), cursor, {}, BandPurpose::Items));
-    builder.Place(Band(ReportSectionKind::PageFooter, cursor, PageNumberText(index), BandPurpose::Items), BodyEnd());
+    // Behind the last band, where that is taller than the page.
+    builder.Place(Band(ReportSectionKind::PageFooter, cursor, PageNumberText(index), BandPurpose::Items),
+        std::max(BodyEnd(), builder.Bottom()));
     return builder.Take();
 }
 

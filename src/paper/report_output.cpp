@@ -104,8 +104,10 @@ bool AddLanguage(QIODevice& pdf)
     const qsizetype end = catalog.indexOf("endobj");
     if (type < 0 || end < 0)
         return false;
+    //: The code of the language that this is a translation to: a PDF tells it to screen readers.
+    const QString language = ReportLayout::tr("en");
     catalog.truncate(end);
-    catalog.insert(type, "/Lang (" + Regional().bcp47Name().toLatin1() + ")\n");
+    catalog.insert(type, "/Lang (" + language.toLatin1() + ")\n");
     const qint64 place = pdf.size();
     pdf.seek(place);
     pdf.write(catalog + "endobj\n");

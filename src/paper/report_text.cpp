@@ -18,6 +18,12 @@ QString ItemText(const ReportItem& item)
         lines.append(line.text);
     return lines.join(QLatin1String(" / "));
 }
+
+/// A section that comes again, as a detail does, starts with its first control.
+bool StartsBand(const ReportItem& item, const ReportSection* before)
+{
+    return item.section != before || item.control == &item.section->controls.front();
+}
 } // namespace
 
 QString PageText(const ReportPage& page)
@@ -25,12 +31,25 @@ QString PageText(const ReportPage& page)
     QString text;
     const ReportSection* section = nullptr;
     for (const ReportItem& item : page.items) {
-        // A section that comes again, as a detail does, starts with its first control.
-        const bool again = section == item.section && item.control == &item.section->controls.front();
-        if (section != item.section || again)
+        if (StartsBand(item, section))
             text += item.section->name + QLatin1Char('\n');
         section = item.section;
         text += QStringLiteral("  %1: %2\n").arg(item.control->name, ItemText(item));
     }
     return text;
+}
+
+QString SpokenText(const ReportPage& page)
+{
+    QStringList bands;
+    const ReportSection* section = nullptr;
+    for (const ReportItem& item : page.items) {
+        if (StartsBand(item, section))
+            bands.append(QString());
+        section = item.section;
+        for (const ReportLine& line : item.lines)
+            bands.back() += bands.back().isEmpty() ? line.text : u' ' + line.text;
+    }
+    bands.removeAll(QString());
+    return bands.join(u'\n');
 }

@@ -4,5 +4,7 @@
 
 #include <QString>
 
-/// What a page says, a line for each control under the name of its section: what screen readers are given.
+/// A line for each control under the name of its section: what pages are compared by.
 QString PageText(const ReportPage& page);
+/// What a page says, a line for each band: what screen readers are given.
+QString SpokenText(const ReportPage& page);

@@ -77,6 +77,12 @@ TEST(Dialogs, AMissingFolderIsToldAndTheFileAskedForAgainAndAFileThatMustExistIs
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("backup")); });
     EXPECT_EQ(SaveFileNameAsTyped("Save", "MDB (*.mdb)"), folder.filePath("backup"));
 
+    WriteFile(folder.filePath("Nov.2026.pdf"), "");
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("Nov.2026")); });
+    WhenFormShows<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    WhenFormShows<QFileDialog>([&](QFileDialog& dialog) { ChooseFile(dialog, folder.filePath("Nov.2027")); });
+    EXPECT_EQ(SaveFileNameOfKind("Save", "PDF (*.pdf)", ""), folder.filePath("Nov.2027.pdf"));
+
     const QString path = folder.filePath("items.csv");
     WriteFile(path, "");
     WhenFormShows<QFileDialog>([&](QFileDialog& dialog) {

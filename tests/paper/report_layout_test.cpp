@@ -132,7 +132,7 @@ TEST(ReportLayout, LongTextsWrapAndPushDownWhatStandsBelow)
     const QStringList lines = LinesOf(page, "Name");
     ASSERT_EQ(lines.size(), 1 + 3 + 3 + 3 + 1);
     EXPECT_TRUE(lines[3].endsWith(QChar(0x2026))) << "what does not fit is marked";
-    EXPECT_EQ(lines.mid(7), QStringList({"First", "Second", "", "Last"}));
+    EXPECT_EQ(lines.mid(7), QStringList({"First", "Second", QChar(0x2026), "Last"}));
 }
 
 TEST(ReportLayout, RulesAreSeenHoweverSmallThePageIsShown)
@@ -192,6 +192,10 @@ TEST(ReportLayout, ColumnsSpreadOverAWiderPageAndShrinkWithANarrowOneAndUseTheWh
     ReportLayout layout(report, A4);
     layout.SetPaper({16838, 11906}, {720, 720, 720, 720});
     EXPECT_EQ(layout.Design().width, 16838 - 1440);
+    report.FillPaper({1644, 5000});
+    ReportLayout label(report, {1644, 5000});
+    label.SetPaper(A4, {1134, 1134, 1134, 1134});
+    EXPECT_EQ(label.Design().width, A4.width - 2 * 1134) << "after a label printer's paper";
     EXPECT_EQ(layout.PageCount(), 1);
 }
 

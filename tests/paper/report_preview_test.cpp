@@ -105,20 +105,26 @@ TEST_F(Preview, SavesAPdfAndSaysWhenItCannot)
 TEST_F(Preview, PageSetupLaysOutAnewAndACancelledPrintPrintsNothing)
 {
     Key(Qt::Key_End);
-    CurrentPrinter().setPageOrientation(QPageLayout::Landscape);
     ScriptedAnswers answers;
+    answers.orientation = QPageLayout::Landscape;
     answers.ExpectPageSetup(true);
     Key(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(m_window->Layout().Paper(), (ReportPaper{16838, 11906}));
     EXPECT_EQ(m_window->CurrentPage(), 0);
     EXPECT_EQ(m_window->Layout().Design().margins.left, 1440) << "the dialog starts from the report's margins";
-    CurrentPrinter().setPageOrientation(QPageLayout::Portrait);
 
+    // What another preview has chosen meanwhile is not this one's.
+    CurrentPrinter().setPageSize(QPageSize(QPageSize::A5));
+    const QPageLayout other = CurrentPrinter().pageLayout();
+    answers.ExpectPageSetup(false);
+    Key(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     answers.ExpectPrint(false);
     Key(Qt::Key_P, Qt::ControlModifier);
     EXPECT_FALSE(Status().contains("handed"));
+    EXPECT_EQ(CurrentPrinter().pageLayout(), other);
 
     answers.hasPrinter = false;
+    answers.orientation = QPageLayout::Portrait;
     answers.ExpectPageSetup(true);
     Key(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(m_window->Layout().Paper(), (ReportPaper{11906, 16838})) << "a PDF has paper without a printer";

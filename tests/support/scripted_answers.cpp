@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPrinter>
 
 namespace {
 void CloseModalForms()
@@ -95,8 +96,10 @@ bool ScriptedAnswers::Print(QPrinter&)
     return Take(Kind::Print).value_or(Expected{}).accepted;
 }
 
-bool ScriptedAnswers::PageSetup(QPrinter&)
+bool ScriptedAnswers::PageSetup(QPrinter& printer)
 {
+    if (orientation)
+        printer.setPageOrientation(*orientation);
     return Take(Kind::PageSetup).value_or(Expected{}).accepted;
 }
 

@@ -4,6 +4,7 @@
 #include "controls/dialogs.h"
 #include "controls/message_box.h"
 
+#include <QPageLayout>
 #include <QStringList>
 
 #include <deque>
@@ -36,6 +37,7 @@ public:
     void ExpectPrint(bool accepted) { Add({.kind = Kind::Print, .accepted = accepted}); }
     void ExpectPageSetup(bool accepted) { Add({.kind = Kind::PageSetup, .accepted = accepted}); }
     bool hasPrinter = true;
+    std::optional<QPageLayout::Orientation> orientation; ///< that the page setup chooses
     void ExpectLink(const QString& target) { Add({.kind = Kind::Link, .text = target}); }
     void ExpectHelp(HelpCommand command, int data);
     void ExpectHelpAt(const QStringList& names);
