@@ -296,6 +296,8 @@ private:
     {
         size_t start = m_tokens.Place() + 1;
         m_body = Where(expressions);
+        if (!m_body.empty() && m_tokens.Peek().kind == Token::Kind::End)
+            m_alternatives = expressions.Alternatives();
         if (m_tokens.AtWord("group")) {
             TakeBy("group");
             start = m_tokens.Place();
@@ -352,6 +354,8 @@ private:
             list += (list.empty() ? "" : ", ") + column.sql;
         if (SortsBeforeItJoins())
             return ComposeSortedFirst(list);
+        if (FindsAlternativesApart())
+            return ComposeApart(list);
         if (m_from)
             m_body = m_from->Sql() + m_body;
         if (!m_top.empty() && !m_order.empty())
@@ -382,6 +386,25 @@ private:
         const std::string rows =
             "SELECT " + m_scope.UsedColumns(source) + m_from->SqlOf(source) + Order() + " LIMIT -1";
         m_result.sql = "SELECT " + list + m_from->SqlFrom(source, rows);
+    }
+
+    /// An OR beside the conditions of a join leaves its tables unjoined, and the engine would go through all of their
+    /// rows together. Where no row is wanted twice, each alternative can be asked for on its own.
+    bool FindsAlternativesApart() const
+    {
+        const auto isPlain = [](const ResultColumn& column) { return bool(column.column); };
+        return m_distinct && m_alternatives.size() > 1 && m_from->IsList()
+            && std::all_of(m_columns.begin(), m_columns.end(), isPlain);
+    }
+
+    void ComposeApart(const std::string& list)
+    {
+        for (Alternative& alternative : m_alternatives) {
+            for (const ResultColumn& column : m_columns)
+                alternative.sources[column.column.source] = true;
+            m_result.sql += m_result.sql.empty() ? "SELECT " : " UNION SELECT ";
+            m_result.sql += list + m_from->SqlOfSome(alternative.sources, alternative.sql);
+        }
     }
 
     std::string Order() const
@@ -419,6 +442,7 @@ private:
     std::vector<ResultColumn> m_columns;
     std::optional<FromClause> m_from;
     std::string m_body; ///< what stands between FROM and ORDER BY
+    std::vector<Alternative> m_alternatives; ///< of the WHERE clause, where nothing follows it
     std::vector<std::string> m_groups;
     std::vector<SortTerm> m_order;
     size_t m_columnStart = 0;

@@ -88,8 +88,10 @@ RuntimeError ExpressionReader::MissingOperator(size_t start) const
 
 Expression ExpressionReader::Read()
 {
-    if (m_depth == 0)
+    if (m_depth == 0) {
         m_start = m_tokens.Place();
+        m_alternatives.clear();
+    }
     if (++m_depth > MaximumDepth)
         throw TooComplexError();
     Expression expression = ReadOr();
@@ -97,14 +99,24 @@ Expression ExpressionReader::Read()
     return expression;
 }
 
+Expression ExpressionReader::ReadAlternative()
+{
+    if (m_depth > 1)
+        return ReadAnd();
+    m_named.assign(m_scope.Sources().size(), false);
+    Expression alternative = ReadAnd();
+    m_alternatives.push_back({alternative.sql, m_named});
+    return alternative;
+}
+
 Expression ExpressionReader::ReadOr()
 {
-    Expression left = ReadAnd();
+    Expression left = ReadAlternative();
     if (!m_tokens.AtWord("or"))
         return left;
     std::string terms = "(" + left.sql;
     for (int count = 1; m_tokens.TakeWord("or"); LimitChain(count))
-        terms += " OR " + ReadAnd().sql;
+        terms += " OR " + ReadAlternative().sql;
     return Truth(terms + ")");
 }
 
@@ -391,6 +403,7 @@ Expression ExpressionReader::ReadName()
         name = m_tokens.Take().text;
     }
     const ColumnReference column = m_scope.Resolve(qualifier, name);
+    m_named[column.source] = true;
     return {m_scope.SqlOf(column), KindOf(column.column->kind), column, -1};
 }
 

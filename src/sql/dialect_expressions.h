@@ -16,6 +16,12 @@ struct Expression {
     std::array<ColumnReference, 2> equals = {}; ///< of a condition that two plain columns are equal
 };
 
+/// One of the conditions between the ORs of another.
+struct Alternative {
+    std::string sql;
+    std::vector<bool> sources; ///< the tables that it names
+};
+
 /// Reads expressions from a statement's tokens and writes them in the engine's own SQL.
 class ExpressionReader {
 public:
@@ -23,11 +29,14 @@ public:
 
     /// Reads one expression and leaves the stream behind it. Throws RuntimeError for what is no expression.
     Expression Read();
+    /// Of the expression read last: any of them makes it true. One, where no OR stands outside of its brackets.
+    const std::vector<Alternative>& Alternatives() const { return m_alternatives; }
     /// An error for the stream's place, whose expression began at `start`.
     RuntimeError MissingOperator(size_t start) const;
 
 private:
     Expression ReadOr();
+    Expression ReadAlternative();
     Expression ReadAnd();
     Expression ReadNot();
     Expression ReadComparison();
@@ -57,6 +66,8 @@ private:
     const NameScope& m_scope;
     std::vector<Coercion>& m_coercions;
     std::vector<LiteralMark> m_marks; ///< of the literals read so far, by index
+    std::vector<Alternative> m_alternatives;
+    std::vector<bool> m_named; ///< the tables named in the alternative that is being read
     size_t m_start = 0;
     int m_depth = 0;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 namespace {
+constexpr const char* SideBySide = ", ";
 constexpr const char* LeftJoin = " LEFT JOIN ";
 constexpr const char* RightJoin = " RIGHT JOIN ";
 } // namespace
@@ -25,7 +26,7 @@ void FromClause::ReadList()
 {
     ReadJoins();
     while (m_tokens.TakeSign(",")) {
-        ReadTable(", ");
+        ReadTable(SideBySide);
         for (std::string join = TakeJoin(); !join.empty(); join = TakeJoin()) {
             ReadTable(join);
             SkipCondition();
@@ -131,6 +132,23 @@ std::string FromClause::Sql() const
             sql += " ON " + part.conditionRead.sql;
     }
     return sql;
+}
+
+bool FromClause::IsList() const
+{
+    return std::ranges::all_of(m_parts, [](const Part& part) { return part.lead.empty() || part.lead == SideBySide; });
+}
+
+std::string FromClause::SqlOfSome(const std::vector<bool>& sources, const std::string& condition) const
+{
+    std::string tables;
+    std::string others;
+    for (size_t i = 0; i < m_parts.size(); ++i)
+        if (sources[i])
+            tables += (tables.empty() ? " FROM " : SideBySide) + m_parts[i].table;
+        else
+            others += " AND EXISTS (SELECT 1 FROM " + m_parts[i].table + ")";
+    return tables + " WHERE (" + condition + ")" + others;
 }
 
 bool FromClause::IsFoundByKey(size_t source) const

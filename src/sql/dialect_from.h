@@ -13,6 +13,11 @@ public:
     void ReadConditions(ExpressionReader& expressions);
     /// The clause in the engine's own SQL.
     std::string Sql() const;
+    /// Whether tables stand side by side alone, so that each row of one meets all rows of the others.
+    bool IsList() const;
+    /// The clause of these tables alone, and the condition under which the others leave its rows as they are but for
+    /// their number: that there is anything in them.
+    std::string SqlOfSome(const std::vector<bool>& sources, const std::string& condition) const;
     /// A clause of one of the tables alone.
     std::string SqlOf(size_t source) const { return " FROM " + m_parts[source].table; }
 
