@@ -278,6 +278,13 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
     </message>
 </context>
 <context>
+    <name>FileWait</name>
+    <message>
+        <source>Waiting for another program that has the database open...</source>
+        <translation>Warten auf ein anderes Programm, das die Datenbank geöffnet hat...</translation>
+    </message>
+</context>
+<context>
     <name>FilterLine</name>
     <message>
         <source>Words to look for, in any order</source>

@@ -278,6 +278,13 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
     </message>
 </context>
 <context>
+    <name>FileWait</name>
+    <message>
+        <source>Waiting for another program that has the database open...</source>
+        <translation>Attente d&apos;un autre programme qui a ouvert la base de données...</translation>
+    </message>
+</context>
+<context>
     <name>FilterLine</name>
     <message>
         <source>Words to look for, in any order</source>

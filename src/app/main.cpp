@@ -6,6 +6,7 @@
 #include "base/guard.h"
 #include "base/system_locale.h"
 #include "controls/error_box.h"
+#include "controls/hourglass.h"
 #include "controls/readable_links.h"
 
 #include <QApplication>
@@ -20,6 +21,7 @@ int main(int argc, char* argv[])
     // The main window's closing ends the program; the splash's does not.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     InstallErrorBox();
+    TellWaitsForTheFile();
     LetLinksBeRead();
     const HelpKey helpKey(&application);
     const MenuKey menuKey(&application);

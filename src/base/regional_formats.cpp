@@ -84,11 +84,13 @@ void ReadSymbols(RegionalFormats& formats)
         [](const QString& a, const QString& b) { return a.size() > b.size(); });
 }
 
-/// The short date's pattern of the locale data as a mask: quoted words in double quotes, a year of four digits.
+/// The short date's pattern of the locale data as a mask: quoted words in double quotes, a year of four digits. Without
+/// marks that turn the direction: texts run from left to right here, where these would mix up the fields.
 QString ShortDateOf(const QLocale& locale)
 {
     static const QRegularExpression LoneYear(QStringLiteral("(?<!y)y{1,2}(?!y)"));
     return locale.dateFormat(QLocale::ShortFormat)
+        .removeIf(IsDirectionMark)
         .replace(QLatin1Char('\''), QLatin1Char('"'))
         .replace(LoneYear, QStringLiteral("yyyy"));
 }

@@ -3,6 +3,7 @@
 namespace {
 
 void (*gShow)() = nullptr;
+void (*gShowFileWait)() = nullptr;
 
 } // namespace
 
@@ -15,4 +16,15 @@ void SignOfLife()
 void SetSignOfLife(void (*show)())
 {
     gShow = show;
+}
+
+void SignOfFileWait()
+{
+    if (gShowFileWait)
+        gShowFileWait();
+}
+
+void SetSignOfFileWait(void (*show)())
+{
+    gShowFileWait = show;
 }

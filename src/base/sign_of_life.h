@@ -6,3 +6,7 @@ void SignOfLife();
 
 /// `show` is called at each sign; null for nobody.
 void SetSignOfLife(void (*show)());
+
+/// Told while a statement on the screens' thread waits for another program that has the file, before its signs of life.
+void SignOfFileWait();
+void SetSignOfFileWait(void (*show)());

@@ -14,7 +14,6 @@ namespace {
 // The platform's date range starts in the year 100.
 const QDate FirstDate(100, 1, 1);
 const QDate LastDate(9999, 12, 31);
-constexpr QChar RightToLeftMark(0x200f);
 
 /// The user's mask as Qt takes it, with single quotes around words.
 QString QtDisplayFormat()
@@ -38,9 +37,8 @@ DatePicker::DatePicker(QWidget* parent)
 
     m_date->setCalendarPopup(true);
     m_date->setDisplayFormat(QtDisplayFormat());
-    // Digits and separators run from left to right, unless the user's own format has marks that turn them.
-    if (!m_date->displayFormat().contains(RightToLeftMark))
-        m_date->setLayoutDirection(Qt::LeftToRight);
+    // Digits and separators run from left to right.
+    m_date->setLayoutDirection(Qt::LeftToRight);
     ShowPlainDigits();
     m_date->setDateRange(FirstDate, LastDate);
     m_check->setChecked(true);

@@ -85,7 +85,32 @@ void StopClock()
     delete gWait.note;
 }
 
+/// Lives until the events are handled again, for nothing tells when the file is free.
+struct FileWait {
+    Q_DECLARE_TR_FUNCTIONS(FileWait)
+public:
+    Hourglass hourglass{tr("Waiting for another program that has the database open...")};
+};
+FileWait* gFileWait = nullptr;
+
+void ShowFileWait()
+{
+    if (gFileWait)
+        return;
+    gFileWait = new FileWait;
+    const auto end = [] {
+        delete gFileWait;
+        gFileWait = nullptr;
+    };
+    QMetaObject::invokeMethod(QCoreApplication::instance(), end, Qt::QueuedConnection);
+}
+
 } // namespace
+
+void TellWaitsForTheFile()
+{
+    SetSignOfFileWait(ShowFileWait);
+}
 
 Hourglass::Hourglass(const QString& doing)
 {

@@ -14,6 +14,9 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
+/// Lets a statement that waits for another program show an hourglass and say so.
+void TellWaitsForTheFile();
+
 /// Shows the arrow while it lives where there was an hourglass: over a dialog, which waits for the user. The clock of
 /// the wait starts anew behind it.
 class ArrowOverHourglass {

@@ -23,19 +23,31 @@ using namespace std::chrono_literals;
 /// A file in use is asked for again and again, for five seconds.
 constexpr std::array WaitsForAFile{1ms, 2ms, 5ms, 10ms, 15ms, 20ms, 25ms, 50ms, 100ms};
 constexpr std::chrono::milliseconds LongestWait = 5s;
+constexpr std::chrono::milliseconds UntilTold = 300ms;
+/// What comes right behind a wait in vain does not wait again: a view of many figures would take a minute.
+constexpr std::chrono::milliseconds InVainForAll = 100ms;
 
 std::atomic<void (*)()> gGiveWay = nullptr;
 
 /// The engine's question whether to try once more; `tries` were in vain. A check of the file is asked to give way.
-int WaitForFile(void*, int tries)
+/// `screens` is null but for a connection of the screens' thread.
+int WaitForFile(void* screens, int tries)
 {
+    using Clock = std::chrono::steady_clock;
+    static thread_local Clock::time_point gaveUp;
     std::chrono::milliseconds waited{};
     for (int i = 0; i < tries; ++i)
         waited += WaitsForAFile[std::min(size_t(i), WaitsForAFile.size() - 1)];
-    if (waited >= LongestWait)
+    if (waited >= LongestWait || Clock::now() < gaveUp + InVainForAll) {
+        gaveUp = Clock::now();
         return 0;
+    }
     if (const auto giveWay = gGiveWay.load())
         giveWay();
+    if (screens && waited >= UntilTold) {
+        SignOfFileWait();
+        SignOfLife();
+    }
     std::this_thread::sleep_for(WaitsForAFile[std::min(size_t(tries), WaitsForAFile.size() - 1)]);
     return 1;
 }
@@ -140,4 +152,5 @@ void TellSignsOfLife(sqlite3* handle)
         return 0;
     };
     sqlite3_progress_handler(handle, StepsToASign, tell, nullptr);
+    sqlite3_busy_handler(handle, WaitForFile, handle);
 }

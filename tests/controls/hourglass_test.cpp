@@ -26,4 +26,14 @@ TEST(HourglassTest, AWaitOfASecondSaysWhatIsBeingDoneUntilItEndsOrADialogAsks)
         EXPECT_EQ(told(), "Reading the items...");
     }
     EXPECT_EQ(told(), "");
+
+    TellWaitsForTheFile();
+    SignOfFileWait();
+    EXPECT_TRUE(QApplication::overrideCursor());
+    QTest::qSleep(1000);
+    SignOfFileWait();
+    EXPECT_EQ(told(), "Waiting for another program that has the database open...");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(QApplication::overrideCursor());
+    SetSignOfFileWait(nullptr);
 }

@@ -10,6 +10,7 @@
 #include "support/test.h"
 
 #include <atomic>
+#include <QElapsedTimer>
 #include <QThread>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -337,6 +338,25 @@ TEST_F(Reading, ALongStatementGivesSignsOfLife)
     gConnection->Execute("SELECT count(*) FROM item, item AS other");
     SetSignOfLife(nullptr);
     EXPECT_GT(signs, 1);
+}
+
+TEST_F(Reading, AWaitForAnotherProgramIsToldAndOneInVainIsForAllThatComeRightBehindIt)
+{
+    static int signs;
+    SetSignOfFileWait([] { ++signs; });
+    Connection other;
+    other.Open(DatabasePath());
+    other.Private().RunPlain("BEGIN EXCLUSIVE");
+    QElapsedTimer clock;
+    clock.start();
+    for (int statement = 0; statement < 5; ++statement)
+        EXPECT_THROW(gConnection->Execute("SELECT id FROM warehouse"), RuntimeError);
+    EXPECT_LT(clock.elapsed(), 9000);
+    EXPECT_GT(signs, 1);
+    other.Private().RunPlain("ROLLBACK");
+    EXPECT_EQ(gConnection->Execute("SELECT id FROM warehouse").Long(0), 1);
+    SetSignOfFileWait(nullptr);
+    QThread::msleep(200);
 }
 
 TEST_F(Reading, TheIndexesOfAnEarlierVersionAreRenewedUnlessSomebodyHoldsTheFile)
