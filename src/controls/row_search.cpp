@@ -1,6 +1,7 @@
 #include "controls/row_search.h"
 
 #include <algorithm>
+#include <set>
 
 namespace {
 /// Stands between the cells of a row, so that no word is found across two of them. Nobody types it.
@@ -21,9 +22,9 @@ std::vector<int> RowSearch::RowsWith(const QStringList& words, const FlexGridRow
 {
     if (m_ends.empty())
         Fold(rows);
-    std::vector<std::string> folded;
+    std::set<std::string> folded;
     for (const QString& word : words)
-        folded.push_back(word.toCaseFolded().toStdString());
+        folded.insert(word.toCaseFolded().toStdString());
 
     std::vector<int> found;
     const std::string_view text = m_text;

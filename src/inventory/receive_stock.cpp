@@ -154,10 +154,11 @@ void frmReceiveStock::UpdateStockLevel()
     AddToStock(itemId, quantity);
     // By its id: a line that filters the list may hide the item once its stock has changed.
     RefreshInventoryList(gInventory->Row(), itemId);
-    if (gInventory->CurrentRowData() == itemId)
-        ShowStatus(tr("%1 x %2 received, now %3")
-                       .arg(quantity, gInventory->CellText(gInventory->Row(), "name"),
-                           gInventory->CellText(gInventory->Row(), "noinstock")));
+    // An item whose stock another program left out keeps none.
+    const QString stock = gInventory->CellText(gInventory->Row(), "noinstock");
+    if (gInventory->CurrentRowData() == itemId && !stock.isEmpty())
+        ShowStatus(
+            tr("%1 x %2 received, now %3").arg(quantity, gInventory->CellText(gInventory->Row(), "name"), stock));
     txtAddQuantity->setText(QStringLiteral("0"));
     txtBarcode->FocusAll();
 }
