@@ -119,7 +119,9 @@ void WrapParagraph(const QString& paragraph, qreal width, int most, const Report
             lines.append(face.metrics.elidedText(rest, Qt::ElideRight, width));
             break;
         }
-        lines.append(rest.left(line.textLength()).trimmed());
+        const QString shown = rest.left(line.textLength()).trimmed();
+        // Blanks at the end take no room, but they are not at the end where the last of them bears an accent.
+        lines.append(face.Advance(shown) > width + 1 ? face.metrics.elidedText(shown, Qt::ElideRight, width) : shown);
     }
     layout.endLayout();
 }
