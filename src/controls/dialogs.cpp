@@ -113,8 +113,7 @@ QString AskFileToSave(const QString& title, const QString& filter, const QString
     dialog.selectFile(suggested);
     for (;;) {
         const QString picked = PickedFile(dialog);
-        const QString path =
-            extension == Extension::Always ? OfKind(picked, filter, dialog.selectedNameFilter()) : picked;
+        QString path = extension == Extension::Always ? OfKind(picked, filter, dialog.selectedNameFilter()) : picked;
         if (!path.isEmpty() && !QFileInfo(path).dir().exists())
             MsgBox(
                 Dialogs::tr("%1\nThe path does not exist. Check the path and try again.").arg(path), Icon::Exclamation);

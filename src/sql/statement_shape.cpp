@@ -27,8 +27,8 @@ bool IsBlank(char16_t c)
 /// For each ASCII character whether a word may hold it: most of a statement is words.
 constexpr std::array<bool, 128> AsciiOfWords = [] {
     std::array<bool, 128> ofWords{};
-    for (char16_t c = 0; c < ofWords.size(); ++c)
-        ofWords[c] = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_' || IsDigit(c);
+    for (size_t c = 0; c < ofWords.size(); ++c)
+        ofWords[c] = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || IsDigit(char16_t(c));
     return ofWords;
 }();
 
