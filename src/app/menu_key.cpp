@@ -17,7 +17,7 @@ bool MenuKey::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
         return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() != Qt::Key_F10 || key->modifiers() != Qt::ShiftModifier || key->isAutoRepeat())
+    if (key->key() != Qt::Key_F10 || key->modifiers() != Qt::ShiftModifier)
         return false;
     auto* widget = static_cast<QWidget*>(watched);
     const QPoint place = widget->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();

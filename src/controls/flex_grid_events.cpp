@@ -37,9 +37,7 @@ void FlexGrid::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Enter:
         // Accepted first: a form's default button is not to run as well.
         event->accept();
-        if (!event->isAutoRepeat())
-            DblClickAt(m_row, m_col);
-        return;
+        return DblClickAt(m_row, m_col);
     case Qt::Key_Home:
         return goTo(1);
     case Qt::Key_End:

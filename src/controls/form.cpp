@@ -45,7 +45,7 @@ void RunButtonForEnter(const QWidget* screen, QKeyEvent* event)
 {
     event->accept();
     QAbstractButton* button = ButtonForEnter(screen);
-    if (button && button->isEnabled() && !event->isAutoRepeat())
+    if (button && button->isEnabled())
         button->click();
 }
 

@@ -33,8 +33,7 @@ void LinkLabel::keyPressEvent(QKeyEvent* event)
         return QLabel::keyPressEvent(event);
     // Accepted first: the form's default button is not to run as well.
     event->accept();
-    if (!event->isAutoRepeat())
-        emit linkActivated(m_target);
+    emit linkActivated(m_target);
 }
 
 void LinkLabel::paintEvent(QPaintEvent* event)

@@ -4,6 +4,7 @@
 #include "base/retail_code.h"
 #include "base/settings_store.h"
 #include "controls/form.h"
+#include "controls/held_keys.h"
 #include "controls/scan_sound.h"
 #include "controls/status_line.h"
 #include "controls/typed_text.h"
@@ -81,6 +82,8 @@ public:
         m_gapEnd.setSingleShot(true);
         QObject::connect(&m_gapEnd, &QTimer::timeout, this, [this] { GapEnded(); });
         qApp->installEventFilter(this);
+        // A key that is held down is no burst.
+        LetHeldKeysActOnce();
     }
 
     void Add(const ScanTaker& taker)

@@ -1,5 +1,6 @@
 #include "controls/screen_input.h"
 
+#include "controls/held_keys.h"
 #include "controls/keys.h"
 
 #include <QAbstractButton>
@@ -47,6 +48,7 @@ public:
         : QObject(qApp)
     {
         qApp->installEventFilter(this);
+        LetHeldKeysActOnce();
     }
 
     void CameIntoView(QWidget* panel)

@@ -63,8 +63,7 @@ void KeyList::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return QListWidget::keyPressEvent(event);
     event->accept();
-    if (!event->isAutoRepeat())
-        emit Opened();
+    emit Opened();
 }
 
 void LetKeysEdit(QWidget* list, const KeyButtons& buttons)

@@ -262,6 +262,26 @@ TEST_F(ScanWatching, WhereNoScreenTakesScansEnterNeitherSavesNorOpensAnything)
     form.ShowModal();
 }
 
+TEST_F(ScanWatching, AKeyThatIsHeldActsOnceButGoesOnInATextBox)
+{
+    On(grid, &FlexGrid::DblClick, &window, [] { MsgBox("Saved.", Icon::None); });
+    grid->setFocus();
+    WhenFormShows<QMessageBox>([](QMessageBox& box) {
+        RepeatKey(Qt::Key_Return);
+        EXPECT_TRUE(box.isVisible());
+        HandTypes("\n");
+    });
+    HoldKey(Qt::Key_Return);
+    EXPECT_EQ(events, QStringList{"opened"});
+
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    txtNotes->SetText({});
+    txtNotes->setFocus();
+    HoldKey(Qt::Key_Return);
+    RepeatKey(Qt::Key_Return);
+    EXPECT_EQ(txtNotes->toPlainText(), "\n\n");
+}
+
 TEST_F(ScanWatching, WithAGapOfZeroKeysAreJustKeys)
 {
     SaveConfig("Scan Gap", "0");

@@ -31,13 +31,14 @@ void Send(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, const
     qApp->notify(window->windowHandle(), &event);
 }
 
+constexpr ulong Pause = 1000;
+ulong gTime = Pause;
 } // namespace
 
 void PressKeys(const QString& keys, int msAKey)
 {
-    constexpr ulong Pause = 1000;
     constexpr ulong Hitch = 100;
-    static ulong time = Pause;
+    ulong& time = gTime;
     time += Pause;
     for (const QChar character : keys) {
         if (character == u'\a') {
@@ -55,4 +56,15 @@ void PressKeys(const QString& keys, int msAKey)
         Send(QEvent::KeyPress, key, shift, text, pressed);
         Send(QEvent::KeyRelease, key, shift, text, pressed);
     }
+}
+
+void HoldKey(Qt::Key key)
+{
+    Send(QEvent::KeyPress, key, {}, {}, gTime += Pause);
+}
+
+void RepeatKey(Qt::Key key)
+{
+    Send(QEvent::KeyRelease, key, {}, {}, gTime += Pause);
+    Send(QEvent::KeyPress, key, {}, {}, gTime);
 }
