@@ -774,10 +774,6 @@ Der Pfad ist nicht vorhanden. Prüfen Sie den Pfad und versuchen Sie es erneut.<
         <translation>Summe:</translation>
     </message>
     <message>
-        <source>Total</source>
-        <translation>Summe</translation>
-    </message>
-    <message>
         <source>Customer Payments:</source>
         <translation>Zahlungen des Kunden:</translation>
     </message>

@@ -774,10 +774,6 @@ Le chemin n&apos;existe pas. Vérifiez le chemin et réessayez.</translation>
         <translation>Total&#xa0;:</translation>
     </message>
     <message>
-        <source>Total</source>
-        <translation>Total</translation>
-    </message>
-    <message>
         <source>Customer Payments:</source>
         <translation>Paiements du client&#xa0;:</translation>
     </message>

@@ -272,6 +272,9 @@ void SetLabelOf(QLabel* label, QWidget* control)
     if (name.endsWith(u':'))
         name = name.chopped(1).trimmed();
     label->setBuddy(control);
+    // A screen reader would speak it in place of what a label shows.
+    if (qobject_cast<QLabel*>(control))
+        return;
     control->setAccessibleName(name);
     // A control made of parts takes the focus by a part, and that part is what a screen reader speaks.
     if (control->focusPolicy() & Qt::TabFocus)

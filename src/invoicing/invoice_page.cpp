@@ -55,7 +55,6 @@ void InvoicePage::ShowSecondaryTax()
 {
     lblLabels_26->setText(SecondaryTax::SecondaryTaxName + QLatin1Char(':'));
     SetPlainToolTip(lblLabels_26, SecondaryTax::SecondaryTaxName);
-    lblSecondTax->setAccessibleName(SecondaryTax::SecondaryTaxName);
     lblLabels_26->setVisible(SecondaryTax::SecondaryTaxEnable);
     lblSecondTax->setVisible(SecondaryTax::SecondaryTaxEnable);
 }

@@ -162,7 +162,6 @@ QLayout* InvoicePage::PaymentAndTotals()
     constexpr int WidestTaxName = 220;
     lblLabels_26->setMaximumWidth(WidestTaxName);
     auto* totalCaption = new QLabel(tr("Total:"));
-    lblTotal->setAccessibleName(tr("Total"));
     for (QLabel* label : {totalCaption, static_cast<QLabel*>(lblTotal)}) {
         QFont bold = label->font();
         bold.setBold(true);

@@ -33,9 +33,6 @@ QGridLayout* Compact(QGridLayout* lines)
     constexpr int CaptionSpacing = 5;
     lines->setVerticalSpacing(LineSpacing);
     lines->setHorizontalSpacing(CaptionSpacing);
-    // A screen reader is to speak the figure itself; its caption stands in a label of its own.
-    for (int item = 0; item < lines->count(); ++item)
-        lines->itemAt(item)->widget()->setAccessibleName(QString());
     return lines;
 }
 

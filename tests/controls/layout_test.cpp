@@ -22,6 +22,8 @@ TEST(Layouts, TheControlsOfABlockShareTheirEdgesAndTakeTheWidth)
     EXPECT_EQ(name->y(), phone->y());
     EXPECT_EQ(label->buddy(), zip);
     EXPECT_EQ(zip->accessibleName(), "R & D");
+    SetLabelOf(label, text);
+    EXPECT_EQ(text->accessibleName(), "") << "what it shows is heard";
     EXPECT_GT(phone->x(), name->geometry().right() + 12);
     EXPECT_GT(name->width(), 120);
     EXPECT_GT(hint->height(), hint->fontMetrics().lineSpacing() * 2 - 4) << "the instructions wrap";
