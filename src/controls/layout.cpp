@@ -7,6 +7,7 @@
 #include <QFontInfo>
 #include <QFrame>
 #include <QGroupBox>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 
@@ -272,8 +273,8 @@ void SetLabelOf(QLabel* label, QWidget* control)
     if (name.endsWith(u':'))
         name = name.chopped(1).trimmed();
     label->setBuddy(control);
-    // A screen reader would speak it in place of what a label shows.
-    if (qobject_cast<QLabel*>(control))
+    // A screen reader would speak it in place of what a label or an option shows.
+    if (qobject_cast<QLabel*>(control) || qobject_cast<QRadioButton*>(control))
         return;
     control->setAccessibleName(name);
     // A control made of parts takes the focus by a part, and that part is what a screen reader speaks.

@@ -58,7 +58,7 @@ void MakeInstructions(QLabel* label, const QString& text);
 QLabel* heading(const QString& text);
 
 /// Makes `label` the buddy and the accessible name of `control` (mnemonics and a closing colon left out of the name).
-/// A label has its own text for a name.
+/// A label or an option has its own text for a name.
 void SetLabelOf(QLabel* label, QWidget* control);
 /// Lets `label`, which names a control, show a text of the user as it stands: no markup and no access key is read into
 /// it.
