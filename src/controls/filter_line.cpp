@@ -28,7 +28,6 @@ void PutUnder(QWidget* widget, QWidget* line)
     const int share = box->stretch(place);
     box->removeWidget(widget);
     box->insertLayout(place, column({widget, line}), share);
-    QWidget::setTabOrder(widget, line);
 }
 } // namespace
 
@@ -49,6 +48,8 @@ FilterLine::FilterLine(FlexGrid* list)
     setFocusProxy(m_words);
     setVisible(false);
     PutUnder(list, this);
+    setTabOrder(list, m_words);
+    setTabOrder(m_words, m_close);
 
     On(m_words, &TextBox::textChanged, list, &FlexGrid::SetFilter);
     On(m_close, &QToolButton::clicked, this, &FilterLine::Close);

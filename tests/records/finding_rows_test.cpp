@@ -23,7 +23,7 @@ protected:
             {"businessname", "Name", 1800, CellAlign::CenterTop, CellAlign::LeftCenter, DefaultOrder},
             {"contactname", "Code", 1800, CellAlign::LeftCenter, CellAlign::LeftCenter, "contactname"},
         });
-        window.setLayout(column({box, list}));
+        window.setLayout(column({box, list, new QPushButton}));
         window.resize(400, 400);
         list->LetDownEnter({box});
         QObject::connect(list, &RecordList::Sorted, list, [this] { Load(list->Row(), 0); });
@@ -86,6 +86,10 @@ TEST_F(FindingRows, AFilterStandsUntilEscAndKeepsTheRulesOfSelection)
     TypeKeys("/bolt");
     Press(Filter(), Qt::Key_Down);
     EXPECT_TRUE(list->hasFocus());
+    Tab();
+    Tab();
+    EXPECT_EQ(window.focusWidget()->accessibleName(), "Close the filter");
+    list->setFocus();
     Press(list, Qt::Key_Down);
     EXPECT_EQ(list->Row(), 6) << "to the next row that shows";
     Press(list, Qt::Key_Home);
