@@ -4,9 +4,27 @@
 #include "app/splash.h"
 #include "base/guard.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QScopedValueRollback>
+
+namespace {
+
+/// The menu bar would otherwise have the focus when the help is closed, with no menu open any more.
+void LeaveMenus()
+{
+    while (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
+        if (!menu->close())
+            break;
+    if (auto* bar = qobject_cast<QMenuBar*>(QApplication::focusWidget())) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(bar, &escape);
+    }
+}
+
+} // namespace
 
 HelpKey::HelpKey(QObject* parent)
     : QObject(parent)
@@ -28,7 +46,9 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
     // The message of a missing viewer stands until it is answered; one is enough.
     if (!m_opening) {
         const QScopedValueRollback opening(m_opening, true);
-        Guarded([&] { OpenHelpAt(HelpNamesAt(widget)); });
+        const QStringList names = HelpNamesAt(widget);
+        LeaveMenus();
+        Guarded([&] { OpenHelpAt(names); });
     }
     return true;
 }

@@ -163,6 +163,12 @@ TEST_F(HelpTest, TheViewerIsUsedBesideAModalForm)
     EXPECT_EQ(desk.Viewer()->tabHelp->currentIndex(), frmHelp::IndexTab);
     OpenHelp(HelpCommand::Tab, -1);
     EXPECT_EQ(desk.Viewer()->tabHelp->currentIndex(), frmHelp::SearchTab);
+
+    Shown(&window);
+    window.picArrivals->gInvoices->setFocus();
+    QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_F1);
+    EXPECT_EQ(window.focusWidget(), window.picArrivals->gInvoices) << "no menu keeps the focus";
 }
 
 TEST_F(HelpTest, AMissingOrBrokenHelpFileIsTold)
