@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "controls/dialogs.h"
+#include "controls/ink_icon.h"
 #include "controls/keys.h"
 #include "controls/layout.h"
 #include "controls/window_place.h"
@@ -156,6 +157,7 @@ void frmHelp::BuildToolbar()
     QToolBar* bar = addToolBar(tr("Toolbar"));
     bar->setObjectName(QStringLiteral("Toolbar"));
     bar->setMovable(false);
+    InkExtensionButton(bar);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setContextMenuPolicy(Qt::PreventContextMenu);
     const auto key = [](const char* text) { return QKeySequence(QLatin1String(text)); };

@@ -4,6 +4,7 @@
 #include "config/configuration_wizard.h"
 #include "config/tax_rates.h"
 #include "controls/dialogs.h"
+#include "controls/ink_icon.h"
 #include "controls/message_box.h"
 #include "controls/status_line.h"
 #include "controls/window_place.h"
@@ -61,6 +62,8 @@ MainWindow::MainWindow()
     Toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     Toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     Toolbar->setIconSize(ToolbarIconSize);
+    InkExtensionButton(Toolbar);
+    InkExtensionButton(menuBar());
     addToolBar(Toolbar);
 
     ConnectPanels();

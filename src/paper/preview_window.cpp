@@ -5,6 +5,7 @@
 #include "controls/combo_box.h"
 #include "controls/dialogs.h"
 #include "controls/hourglass.h"
+#include "controls/ink_icon.h"
 #include "controls/message_box.h"
 #include "controls/window_place.h"
 #include "paper/report_output.h"
@@ -116,6 +117,7 @@ void PreviewWindow::BuildToolBar()
     bar->setObjectName(QStringLiteral("Toolbar"));
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    InkExtensionButton(bar);
     bar->addAction(
         AddAction("mnuPrint", tr("&Print..."), {QKeySequence(QStringLiteral("Ctrl+P"))}, &PreviewWindow::Print));
     bar->addAction(AddAction("mnuPageSetup", tr("Page Set&up..."), {QKeySequence(QStringLiteral("Ctrl+Shift+P"))},
@@ -153,10 +155,10 @@ void PreviewWindow::AddNavigation(QToolBar* bar)
     m_last = AddAction("mnuLastPage", tr("Last Page"), {QKeySequence(QStringLiteral("End"))}, &PreviewWindow::LastPage);
     const QAction* go = AddAction(
         "mnuGoToPage", tr("Go to Page"), {QKeySequence(QStringLiteral("Ctrl+G"))}, &PreviewWindow::FocusPageBox);
-    m_first->setIcon(style()->standardIcon(QStyle::SP_MediaSkipBackward));
-    m_previous->setIcon(style()->standardIcon(QStyle::SP_MediaSeekBackward));
-    m_next->setIcon(style()->standardIcon(QStyle::SP_MediaSeekForward));
-    m_last->setIcon(style()->standardIcon(QStyle::SP_MediaSkipForward));
+    m_first->setIcon(InkIcon(style()->standardIcon(QStyle::SP_MediaSkipBackward)));
+    m_previous->setIcon(InkIcon(style()->standardIcon(QStyle::SP_MediaSeekBackward)));
+    m_next->setIcon(InkIcon(style()->standardIcon(QStyle::SP_MediaSeekForward)));
+    m_last->setIcon(InkIcon(style()->standardIcon(QStyle::SP_MediaSkipForward)));
     txtPage->setObjectName(QStringLiteral("txtPage"));
     txtPage->setAccessibleName(tr("Page"));
     txtPage->setToolTip(go->toolTip());
