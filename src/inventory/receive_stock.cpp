@@ -63,6 +63,7 @@ frmReceiveStock::frmReceiveStock(QWidget* parent)
     TakeScans({this, txtBarcode, cmdAddBarCodeItem, isKnown, [] { TellUnknownCode(); },
         [this](const QString& code) { DropQuantityOfOther(FindItemByBarCode(code).value_or(0)); }});
     KeepCodesOut({txtAddQuantity});
+    On(gInventory, &RecordList::Opened, txtAddQuantity, &TextBox::FocusAll);
     On(cmdUpdateStockLevel, &QPushButton::clicked, this, &frmReceiveStock::UpdateStockLevel);
 }
 
