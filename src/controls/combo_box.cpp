@@ -28,6 +28,20 @@ public:
                 return 0;
         return QProxyStyle::styleHint(hint, option, widget, result);
     }
+
+    /// A text that is too long ends in dots, in the box as in its list.
+    void drawControl(
+        ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override
+    {
+        const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (element != CE_ComboBoxLabel || !box)
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        constexpr int Margin = 2;
+        QStyleOptionComboBox cut = *box;
+        const QRect room = proxy()->subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget);
+        cut.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideRight, room.width() - Margin);
+        QProxyStyle::drawControl(element, &cut, painter, widget);
+    }
 };
 } // namespace
 
